@@ -1,0 +1,13 @@
+# Every target of the project links this.
+add_library(project_options INTERFACE)
+target_compile_options(project_options INTERFACE
+  -Wall -Wextra -Wpedantic -Wconversion -Wshadow
+  # Sums and averages are rounded step by step; a fused multiply-add would round once.
+  -ffp-contract=off)
+
+set(VTLCMD_SANITIZE "" CACHE STRING "Sanitizers to compile with, separated by commas")
+if(VTLCMD_SANITIZE)
+  add_compile_options(-fsanitize=${VTLCMD_SANITIZE} -fno-sanitize-recover=all
+                      -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=${VTLCMD_SANITIZE})
+endif()

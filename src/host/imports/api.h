@@ -1,0 +1,42 @@
+#pragma once
+
+/// Marks the declarations of the closed libraries: exported while the library itself is compiled
+/// (its build defines <Library>_EXPORTS), imported by everyone else.
+
+#if defined(_WIN32)
+#define CLOSED_LIBRARY_EXPORT __declspec(dllexport)
+#define CLOSED_LIBRARY_IMPORT __declspec(dllimport)
+#else
+#define CLOSED_LIBRARY_EXPORT __attribute__((visibility("default")))
+#define CLOSED_LIBRARY_IMPORT __attribute__((visibility("default")))
+#endif
+
+#if defined(OrvelCore_EXPORTS)
+#define ORVEL_CORE_API CLOSED_LIBRARY_EXPORT
+#else
+#define ORVEL_CORE_API CLOSED_LIBRARY_IMPORT
+#endif
+
+#if defined(OrvelSDK_EXPORTS)
+#define ORVEL_SDK_API CLOSED_LIBRARY_EXPORT
+#else
+#define ORVEL_SDK_API CLOSED_LIBRARY_IMPORT
+#endif
+
+#if defined(VantrelBoardExecutor_EXPORTS)
+#define VANTREL_BOARD_EXECUTOR_API CLOSED_LIBRARY_EXPORT
+#else
+#define VANTREL_BOARD_EXECUTOR_API CLOSED_LIBRARY_IMPORT
+#endif
+
+#if defined(VantrelObject_EXPORTS)
+#define VANTREL_OBJECT_API CLOSED_LIBRARY_EXPORT
+#else
+#define VANTREL_OBJECT_API CLOSED_LIBRARY_IMPORT
+#endif
+
+#if defined(VantrelGeometry_EXPORTS)
+#define VANTREL_GEOMETRY_API CLOSED_LIBRARY_EXPORT
+#else
+#define VANTREL_GEOMETRY_API CLOSED_LIBRARY_IMPORT
+#endif

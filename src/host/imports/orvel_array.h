@@ -1,0 +1,86 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <new>
+#include <utility>
+
+#include "host/imports/api.h"
+
+namespace Orvel {
+
+namespace Internal {
+
+/// What the library's allocator is told of an element, in bytes.
+class ORVEL_CORE_API UntypedTypeRep {
+ public:
+  constexpr UntypedTypeRep(std::uint64_t size, std::uint64_t alignment) noexcept
+      : elementSize(size), elementAlignment(alignment) {}
+
+  /// A raw block for `count` elements, at least one. Throws std::bad_alloc.
+  void* allocate(std::uint64_t count) const;
+  /// Gives a block back with the count that it was allocated with.
+  void deallocate(void* block, std::uint64_t count) const noexcept;
+
+  std::uint64_t elementSize;
+  std::uint64_t elementAlignment;
+};
+
+}  // namespace Internal
+
+/// The library's growing array. It owns its elements; memory comes from the library.
+template <typename T>
+class Array {
+ public:
+  Array() noexcept = default;
+  Array(const Array&) = delete;
+  Array(Array&& other) noexcept
+      : data(std::exchange(other.data, nullptr)),
+        size(std::exchange(other.size, 0)),
+        capacity(std::exchange(other.capacity, 0)) {}
+  Array& operator=(const Array&) = delete;
+  Array& operator=(Array&& other) noexcept {
+    std::swap(data, other.data);
+    std::swap(size, other.size);
+    std::swap(capacity, other.capacity);
+    return *this;
+  }
+  ~Array() { release(); }
+
+  /// Grows by doubling, from 0 to 1 first.
+  void append(T element) {
+    if (size == capacity) moveTo(capacity == 0 ? 1 : capacity + capacity);
+    ::new (static_cast<void*>(data + size)) T(std::move(element));
+    ++size;
+  }
+
+  const T& operator[](std::uint64_t index) const noexcept { return data[index]; }
+  const T* begin() const noexcept { return data; }
+  const T* end() const noexcept { return data + size; }
+
+  T* data = nullptr;
+  std::uint64_t size = 0;
+  std::uint64_t capacity = 0;
+
+ private:
+  static constexpr Internal::UntypedTypeRep typeRep() noexcept { return {sizeof(T), alignof(T)}; }
+
+  void moveTo(std::uint64_t newCapacity) {
+    T* block = static_cast<T*>(typeRep().allocate(newCapacity));
+    std::uninitialized_move_n(data, size, block);
+    release();
+    data = block;
+    capacity = newCapacity;
+  }
+
+  void release() noexcept {
+    std::destroy_n(data, size);
+    if (capacity != 0) typeRep().deallocate(data, capacity);
+  }
+};
+
+static_assert(offsetof(Array<int>, data) == 0 && offsetof(Array<int>, size) == 8 &&
+              offsetof(Array<int>, capacity) == 16 && sizeof(Array<int>) == 24);
+
+}  // namespace Orvel
