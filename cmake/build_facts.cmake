@@ -1,0 +1,22 @@
+# Writes generated/build_facts.h, the identity of a build, anew whenever a source of the plug-in or
+# the checked-out commit changes. Call it with those sources.
+function(add_build_facts)
+  set(header ${CMAKE_BINARY_DIR}/generated/build_facts.h)
+  set(triggers ${ARGN} ${PROJECT_SOURCE_DIR}/CMakeLists.txt)
+  execute_process(COMMAND git rev-parse --path-format=absolute --git-path logs/HEAD
+                  WORKING_DIRECTORY ${PROJECT_SOURCE_DIR}
+                  OUTPUT_VARIABLE head_log OUTPUT_STRIP_TRAILING_WHITESPACE ERROR_QUIET)
+  if(head_log AND EXISTS ${head_log})
+    list(APPEND triggers ${head_log})
+  endif()
+  add_custom_command(
+    OUTPUT ${header}
+    COMMAND ${CMAKE_COMMAND} -DSOURCE_DIR=${PROJECT_SOURCE_DIR} -DHEADER=${header}
+            -DVERSION=${PROJECT_VERSION} -P ${PROJECT_SOURCE_DIR}/cmake/write_build_facts.cmake
+    DEPENDS ${triggers} ${PROJECT_SOURCE_DIR}/cmake/write_build_facts.cmake
+    VERBATIM)
+  add_custom_target(build_facts_header DEPENDS ${header})
+  add_library(build_facts INTERFACE)
+  target_include_directories(build_facts INTERFACE ${CMAKE_BINARY_DIR}/generated)
+  add_dependencies(build_facts build_facts_header)
+endfunction()

@@ -158,8 +158,8 @@ inline void swap(Any& a, Any& b) noexcept {
 
 /// Where a value of type T is kept: in the three words, or in a heap block behind the first.
 template <typename T>
-inline constexpr bool storedInPlace =
-    sizeof(T) <= sizeof(Any::storage) && alignof(T) <= alignof(std::uintptr_t);
+inline constexpr bool storedInPlace = sizeof(T) <= sizeof(Any::storage) &&
+                                      alignof(T) <= alignof(std::uintptr_t);
 
 namespace any_operations {
 
@@ -178,8 +178,7 @@ void construct(Any& raw, Arguments&&... arguments) {
   if constexpr (storedInPlace<T>) {
     ::new (static_cast<void*>(&raw.storage)) T(std::forward<Arguments>(arguments)...);
   } else {
-    raw.storage[0] =
-        reinterpret_cast<std::uintptr_t>(new T(std::forward<Arguments>(arguments)...));
+    raw.storage[0] = reinterpret_cast<std::uintptr_t>(new T(std::forward<Arguments>(arguments)...));
   }
 }
 
@@ -221,9 +220,9 @@ void manage(AnyOpArgs* args) {
       break;
     }
     case AnyOp::cast:
-      args->result =
-          sameType(*static_cast<const Orvel::Internal::TypeInfo*>(args->other), Tag) ? value
-                                                                                     : nullptr;
+      args->result = sameType(*static_cast<const Orvel::Internal::TypeInfo*>(args->other), Tag)
+                         ? value
+                         : nullptr;
       break;
     case AnyOp::address:
       args->other = value;

@@ -143,8 +143,7 @@ namespace type_lists {
 template <typename Row, typename List>
 inline constexpr bool contains = false;
 template <typename Row, typename... Rows>
-inline constexpr bool contains<Row, const std::tuple<Rows...>> =
-    (std::is_same_v<Row, Rows> || ...);
+inline constexpr bool contains<Row, const std::tuple<Rows...>> = (std::is_same_v<Row, Rows> || ...);
 
 /// A stored type taken apart: T for a single value, for arrays the innermost element and the
 /// nesting.
@@ -162,11 +161,14 @@ struct Nesting<Orvel::Ptr<Orvel::Array<Inner>>> {
 }  // namespace type_lists
 
 template <typename T>
-concept Registered = type_lists::contains<RegisteredType<T>, decltype(registeredTypes)>;
+concept Registered = type_lists::contains < RegisteredType<T>,
+decltype(registeredTypes) > ;
 template <typename T>
-concept InputOnly = type_lists::contains<InputOnlyType<T>, decltype(inputOnlyTypes)>;
+concept InputOnly = type_lists::contains < InputOnlyType<T>,
+decltype(inputOnlyTypes) > ;
 template <typename T>
-concept ReportOnly = type_lists::contains<ReportOnlyType<T>, decltype(reportOnlyTypes)>;
+concept ReportOnly = type_lists::contains < ReportOnlyType<T>,
+decltype(reportOnlyTypes) > ;
 
 /// The row of a type in whichever list has it.
 template <typename T>
@@ -193,14 +195,14 @@ concept Tagged = (Registered<T> && Rank < registeredRanks) || (InputOnly<T> && R
 
 /// The static tag of T at an array rank.
 template <typename T, std::uint32_t Rank>
-  requires Tagged<T, Rank>
+requires Tagged<T, Rank>
 inline constexpr Orvel::Internal::TypeInfo typeTag =
     makeTag(valueType<T>().tagSpelling, valueType<T>().tagKind, Rank);
 
 /// A type that an Any of ours can hold: a listed type, or its arrays by shared pointer.
 template <typename Stored>
-concept Storable = Tagged<typename type_lists::Nesting<Stored>::Element,
-                          type_lists::Nesting<Stored>::rank>;
+concept Storable =
+    Tagged<typename type_lists::Nesting<Stored>::Element, type_lists::Nesting<Stored>::rank>;
 
 template <Storable Stored>
 constexpr const Orvel::Internal::TypeInfo& tagOf() noexcept {

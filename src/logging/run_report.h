@@ -16,8 +16,7 @@
 namespace vtlcmd {
 
 /// Source, then level, then texts in order of insertion.
-using MessagesBySource =
-    std::map<std::uint16_t, std::map<std::uint16_t, std::vector<std::string>>>;
+using MessagesBySource = std::map<std::uint16_t, std::map<std::uint16_t, std::vector<std::string>>>;
 
 /// The order of `Orvel::String::compare`.
 struct StringOrder {

@@ -48,10 +48,10 @@ class VtlCmdLogger {
   /// The index of no group and no entry. It is out of range like any stale index.
   static constexpr std::uint64_t noCurrent = ~std::uint64_t{0};
 
-  static constexpr std::array<const char*, 7> levelNames{
-      "none", "critical", "error", "warning", "progress", "verbose", "debug"};
+  static constexpr std::array<const char*, 7> levelNames{"none",     "critical", "error", "warning",
+                                                         "progress", "verbose",  "debug"};
 
-  explicit VtlCmdLogger(std::uint32_t printLimit) : printLimit(printLimit) {}
+  explicit VtlCmdLogger(std::uint32_t limit) : printLimit(limit) {}
   VtlCmdLogger(const VtlCmdLogger&) = delete;
   VtlCmdLogger& operator=(const VtlCmdLogger&) = delete;
   virtual ~VtlCmdLogger();

@@ -66,11 +66,7 @@ struct SharedFields {
 
   T* get() const noexcept { return pointer; }
   T* operator->() const noexcept { return pointer; }
-  auto& operator*() const noexcept
-    requires(!std::is_void_v<T>)
-  {
-    return *pointer;
-  }
+  auto& operator*() const noexcept requires(!std::is_void_v<T>) { return *pointer; }
   explicit operator bool() const noexcept { return pointer != nullptr; }
 };
 
@@ -94,8 +90,8 @@ class Ptr : public Internal::SharedFields<T> {
 
   /// One more use of the same object, seen as another type that its pointer converts to.
   template <typename U>
-    requires(std::convertible_to<U*, T*> && !std::same_as<U, T>)
-  Ptr(Ptr<U> other) noexcept
+  requires(std::convertible_to<U*, T*> && !std::same_as<U, T>) Ptr(Ptr<U> other)
+  noexcept
       : Internal::SharedFields<T>(std::exchange(other.pointer, nullptr),
                                   std::exchange(other.control, nullptr)) {}
 

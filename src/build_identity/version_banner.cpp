@@ -1,0 +1,41 @@
+#include <cstdio>
+#include <iomanip>
+#include <iostream>
+#include <sstream>
+
+#if defined(_WIN32)
+#include <io.h>
+#else
+#include <fcntl.h>
+#include <unistd.h>
+#endif
+
+#include "build_identity/build_identity.h"
+
+namespace vtlcmd::build_identity {
+namespace {
+
+#if defined(_WIN32)
+bool hasErrorStream() { return _fileno(stderr) >= 0; }
+#else
+// The stream keeps its number when its descriptor is closed; so the descriptor is asked too.
+bool hasErrorStream() {
+  const int descriptor = fileno(stderr);
+  return descriptor >= 0 && fcntl(descriptor, F_GETFD) != -1;
+}
+#endif
+
+}  // namespace
+
+bool dumpVersionInfo() {
+  const bool dump = envFlag("QUILLON_DUMP_VERSION_INFO") && hasErrorStream();
+  if (dump) {
+    std::ostringstream line;
+    line << std::setw(16) << "VtlCmdTranslation"
+         << ": " << buildBanner();
+    std::cerr << line.str() << std::endl;
+  }
+  return dump;
+}
+
+}  // namespace vtlcmd::build_identity

@@ -1,0 +1,108 @@
+#include "input/number_parsing.h"
+
+#include <cctype>
+#include <cerrno>
+#include <cmath>
+#include <cstdlib>
+#include <limits>
+
+namespace vtlcmd {
+namespace {
+
+static_assert(sizeof(long long) == sizeof(std::int64_t));
+static_assert(std::numeric_limits<double>::is_iec559 && std::numeric_limits<double>::digits == 53);
+static_assert(std::numeric_limits<float>::is_iec559 && std::numeric_limits<float>::digits == 24);
+
+const char* skipSpace(const char* text) {
+  while (std::isspace(static_cast<unsigned char>(*text)) != 0) ++text;
+  return text;
+}
+
+bool nothingRead(const char* end, const char* text) { return end == nullptr || end == text; }
+
+ParseStatus statusAt(const char* end) {
+  return *skipSpace(end) == '\0' ? ParseStatus::ParseOk : ParseStatus::ParseTrailingText;
+}
+
+/// A wide integer that strtoll or strtoull read, checked and brought to T's width.
+template <typename T, typename Wide>
+std::optional<T> narrowInteger(Wide value, const char* text, const char* end, ParseStatus& status) {
+  if (nothingRead(end, text)) {
+    status = ParseStatus::ParseNoNumber;
+    return std::nullopt;
+  }
+  if (errno == ERANGE || value < std::numeric_limits<T>::min() ||
+      value > std::numeric_limits<T>::max()) {
+    status = ParseStatus::ParseOutOfRange;
+    return std::nullopt;
+  }
+  status = statusAt(end);
+  return static_cast<T>(value);
+}
+
+template <SignedNumber T>
+std::optional<T> parseCore(const char* text, ParseStatus& status) {
+  char* end = nullptr;
+  errno = 0;
+  const long long value = std::strtoll(text, &end, 10);
+  return narrowInteger<T>(value, text, end, status);
+}
+
+template <UnsignedNumber T>
+std::optional<T> parseCore(const char* text, ParseStatus& status) {
+  const char* digits = skipSpace(text);
+  // strtoull would accept a minus and wrap the value.
+  if (*digits == '-') {
+    status = ParseStatus::ParseOutOfRange;
+    return std::nullopt;
+  }
+  char* end = nullptr;
+  errno = 0;
+  const unsigned long long value = std::strtoull(digits, &end, 10);
+  return narrowInteger<T>(value, digits, end, status);
+}
+
+template <FloatingNumber T>
+std::optional<T> parseCore(const char* text, ParseStatus& status) {
+  constexpr double largest = std::numeric_limits<T>::max();
+  constexpr double smallestNormal = std::numeric_limits<T>::min();
+  char* end = nullptr;
+  errno = 0;
+  // Not strtold: long double may be wider, and then other texts would pass.
+  const double value = std::strtod(text, &end);
+  if (errno == ERANGE) {
+    status = ParseStatus::ParseOutOfRange;
+  } else if (!std::isfinite(value)) {
+    status = ParseStatus::ParseNoNumber;
+  } else if (std::fabs(value) > largest) {
+    status = ParseStatus::ParseOutOfRange;
+  } else if (value != 0 && std::fabs(value) < smallestNormal) {
+    status = ParseStatus::ParseOutOfRange;
+  } else if (nothingRead(end, text)) {
+    status = ParseStatus::ParseNoNumber;
+  } else {
+    status = statusAt(end);
+    return static_cast<T>(value);
+  }
+  return std::nullopt;
+}
+
+}  // namespace
+
+template <Number T>
+std::optional<T> parseNumber(const char* text, ParseStatus& status) {
+  if (text == nullptr) {
+    status = ParseStatus::ParseNoNumber;
+    return std::nullopt;
+  }
+  return parseCore<T>(text, status);
+}
+
+template std::optional<std::int32_t> parseNumber(const char*, ParseStatus&);
+template std::optional<std::uint32_t> parseNumber(const char*, ParseStatus&);
+template std::optional<std::int64_t> parseNumber(const char*, ParseStatus&);
+template std::optional<std::uint64_t> parseNumber(const char*, ParseStatus&);
+template std::optional<float> parseNumber(const char*, ParseStatus&);
+template std::optional<double> parseNumber(const char*, ParseStatus&);
+
+}  // namespace vtlcmd

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "host/imports/vantrel_object.h"
+#include "host/value_types.h"
+#include "input/set_from_string.h"
+
+namespace vtlcmd {
+
+/// Stores the type's zero: 0, false, the empty string, all components 0, for an object a new one.
+template <Registered T>
+void setDefault(Any& value) {
+  if constexpr (std::same_as<T, ObjectPtr>) {
+    store<T>(value, Vantrel::createObject());
+  } else {
+    store(value, T{});
+  }
+}
+
+}  // namespace vtlcmd

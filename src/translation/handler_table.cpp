@@ -1,0 +1,31 @@
+#include "translation/handler_table.h"
+
+#include "host/value_types.h"
+#include "input/input_setter.h"
+#include "output/output_reporter.h"
+
+namespace vtlcmd {
+namespace {
+
+template <Registered T>
+void registerType(HandlerTable& table) {
+  table.byTag[&typeTag<T, 0>] = &reportScalar<T>;
+  table.byTag[&typeTag<T, 1>] = &reportArray1<T>;
+  table.byTag[&typeTag<T, 2>] = &reportArray2<T>;
+  table.byTag[&typeTag<T, 3>] = &reportArray3<T>;
+  table.byName[valueType<T>().name] = {&inputSetter<T>, &reportValue<T>};
+}
+
+}  // namespace
+
+HandlerTable::HandlerTable() {
+  forEachRow(registeredTypes,
+             [this]<typename T>(const RegisteredType<T>&) { registerType<T>(*this); });
+}
+
+const HandlerTable& sharedHandlerTable() {
+  static const HandlerTable table;
+  return table;
+}
+
+}  // namespace vtlcmd

@@ -1,0 +1,22 @@
+#include "translation/vtlcmd_type_translation.h"
+
+#include "host/value_types.h"
+
+namespace vtlcmd {
+
+VtlCmdTypeTranslation::VtlCmdTypeTranslation()
+    : TypeTranslationPreview(Orvel::String("vtlcmd TypeTranslation")),
+      handlers(&sharedHandlerTable()) {}
+
+VtlCmdTypeTranslation::~VtlCmdTypeTranslation() = default;
+
+// Called through the slot, the object may be null: this file is compiled without the assumption
+// that `this` never is.
+void VtlCmdTypeTranslation::destroy() { delete this; }
+
+void VtlCmdTypeTranslation::getSupportedTypeNames(Orvel::Array<Orvel::String>& names) const {
+  for (const auto& [name, typeHandlers] : handlers->byName) names.append(name);
+  forEachRow(inputOnlyTypes, [&names](const auto& row) { names.append(row.name); });
+}
+
+}  // namespace vtlcmd
