@@ -25,7 +25,8 @@ constexpr bool agrees(const RegisteredType<T>& row) {
            (name.starts_with('u') == (std::is_unsigned_v<T> && !std::is_same_v<T, bool>));
   } else if constexpr (requires { T::componentCount; }) {
     return row.components == T::componentCount && row.tagKind == 0 &&
-           row.parseErrorEnd == valueType<typename T::ComponentType>().parseErrorEnd &&
+           std::string_view(row.parseErrorEnd) ==
+               valueType<typename T::ComponentType>().parseErrorEnd &&
            isMathSpelling(row.tagSpelling, name) &&
            (row.arrayClass == ArrayClass::refused) ==
                std::is_same_v<typename T::ComponentType, double>;
