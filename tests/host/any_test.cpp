@@ -1,0 +1,214 @@
+#include "host/any.h"
+
+#include <cstring>
+#include <gtest/gtest.h>
+#include <utility>
+
+#include "host/value_types.h"
+#include "support/type_samples.h"
+
+namespace vtlcmd {
+namespace {
+
+using testing::sampleValue;
+
+/// Equality of stored values: objects and arrays by identity.
+template <typename T>
+bool same(const T& a, const T& b) {
+  if constexpr (requires { a.control; }) {
+    return a.pointer == b.pointer && a.control == b.control;
+  } else {
+    return a == b;
+  }
+}
+
+template <typename T>
+void expectHolds(const Any& any, const T& value) {
+  const T* held = anyCast<T>(&any);
+  ASSERT_NE(held, nullptr);
+  EXPECT_TRUE(same(*held, value));
+  EXPECT_EQ(&any.type(), &tagOf<T>());
+  EXPECT_EQ(any_operations::address(any), held);
+  const auto* bytes = reinterpret_cast<const std::byte*>(held);
+  const auto* own = reinterpret_cast<const std::byte*>(&any);
+  EXPECT_EQ(storedInPlace<T>, bytes == own) << "in place exactly when it fits three words";
+}
+
+void expectEmpty(const Any& any) {
+  EXPECT_EQ(any.manager, nullptr);
+  EXPECT_EQ(&any.type(), &Orvel::Internal::TypeInfo::s_void);
+  EXPECT_EQ(anyCast<std::int32_t>(&any), nullptr);
+}
+
+template <typename T>
+void exerciseEveryOperation(const T& value, const T& other) {
+  const Any original = makeAny(value);
+  expectHolds(original, value);
+
+  Any copy(original);
+  expectHolds(copy, value);
+  expectHolds(original, value);
+
+  Any moved(std::move(copy));
+  expectHolds(moved, value);
+  expectEmpty(copy);  // NOLINT(bugprone-use-after-move): a moved-from Any is empty by contract
+
+  Any assigned = makeAny(other);
+  assigned = original;
+  expectHolds(assigned, value);
+  assigned = makeAny(other);
+  expectHolds(assigned, other);
+  assigned = Any{};
+  expectEmpty(assigned);
+
+  Any& self = moved;
+  moved = self;
+  expectEmpty(moved);
+
+  Any a = makeAny(value);
+  Any b = makeAny(other);
+  swap(a, b);
+  expectHolds(a, other);
+  expectHolds(b, value);
+  Any empty;
+  swap(a, empty);
+  expectEmpty(a);
+  expectHolds(empty, other);
+  swap(a, empty);
+  expectHolds(a, other);
+  expectEmpty(empty);
+  swap(a, a);
+  expectHolds(a, other);
+  swap(empty, empty);
+  expectEmpty(empty);
+
+  Any heap = makeAny(Math::double4{});
+  swap(a, heap);
+  expectHolds(heap, other);
+  expectHolds(a, Math::double4{});
+}
+
+template <typename T>
+class AnyOfRegisteredType : public ::testing::Test {};
+TYPED_TEST_SUITE(AnyOfRegisteredType, testing::RegisteredTestTypes);
+
+TYPED_TEST(AnyOfRegisteredType, EveryOperationAtRank0) {
+  exerciseEveryOperation(sampleValue<TypeParam>(0), sampleValue<TypeParam>(1));
+}
+
+TYPED_TEST(AnyOfRegisteredType, EveryOperationAtEveryArrayRank) {
+  const TypeParam value = sampleValue<TypeParam>(0);
+  const auto exercise = [&]<std::uint32_t Rank>(std::integral_constant<std::uint32_t, Rank>) {
+    exerciseEveryOperation(testing::nestedArray<TypeParam, Rank>(value),
+                           testing::nestedArray<TypeParam, Rank>(value));
+  };
+  exercise(std::integral_constant<std::uint32_t, 1>{});
+  exercise(std::integral_constant<std::uint32_t, 2>{});
+  exercise(std::integral_constant<std::uint32_t, 3>{});
+}
+
+TYPED_TEST(AnyOfRegisteredType, CastWantsTheExactTypeAndRank) {
+  const Any single = makeAny(sampleValue<TypeParam>(0));
+  const Any array = makeAny(testing::nestedArray<TypeParam, 1>(sampleValue<TypeParam>(0)));
+  EXPECT_EQ((anyCast<StoredArray<TypeParam, 1>>(&single)), nullptr);
+  EXPECT_EQ(anyCast<TypeParam>(&array), nullptr);
+  EXPECT_EQ((anyCast<StoredArray<TypeParam, 2>>(&array)), nullptr);
+  EXPECT_EQ(anyCast<TypeParam>(nullptr), nullptr);
+  forEachRow(registeredTypes, [&]<typename T>(const RegisteredType<T>&) {
+    EXPECT_EQ(anyCast<T>(&single) != nullptr, (std::is_same_v<T, TypeParam>));
+  });
+}
+
+TYPED_TEST(AnyOfRegisteredType, CopyOfAnArraySharesIt) {
+  const auto array = testing::nestedArray<TypeParam, 1>(sampleValue<TypeParam>(0));
+  ASSERT_EQ(Orvel::useCount(array), 1U);
+  {
+    const Any any = makeAny(array);
+    EXPECT_EQ(Orvel::useCount(array), 2U);
+    Any copy = any;
+    EXPECT_EQ(Orvel::useCount(array), 3U);
+    const Any moved = std::move(copy);
+    EXPECT_EQ(Orvel::useCount(array), 3U);
+  }
+  EXPECT_EQ(Orvel::useCount(array), 1U);
+}
+
+TEST(Any, StartsWithFourZeroWords) {
+  const Any any;
+  const std::uintptr_t zero[4] = {};
+  EXPECT_EQ(std::memcmp(&any, zero, sizeof(any)), 0);
+  expectEmpty(any);
+}
+
+TEST(Any, HoldsTheInputOnlyRecordsOnTheHeap) {
+  const Any time = makeAny(Vantrel::Simulation::Time{1, 0.5, 12, 0.25});
+  const Any copy = time;
+  const auto* held = anyCast<Vantrel::Simulation::Time>(&copy);
+  ASSERT_NE(held, nullptr);
+  EXPECT_NE(held, anyCast<Vantrel::Simulation::Time>(&time));
+  EXPECT_EQ(held->frame, 12);
+
+  Any scene = makeAny(Vantrel::File::Project::SceneInfo{"file", "dir/", "second", true});
+  const auto* payload = anyCast<Vantrel::File::Project::SceneInfo>(&scene);
+  const Any moved = std::move(scene);
+  const auto* after = anyCast<Vantrel::File::Project::SceneInfo>(&moved);
+  EXPECT_EQ(after, payload);
+  EXPECT_STREQ(after->fileName.c_str(), "file");
+  EXPECT_STREQ(after->directory.c_str(), "dir/");
+  EXPECT_STREQ(after->secondaryPath.c_str(), "second");
+  EXPECT_TRUE(after->hasSecondaryPath);
+}
+
+TEST(Any, MoveOfAHeapValueKeepsItsPayloadWhereItIs) {
+  Any any = makeAny(sampleValue<Math::double4>(0));
+  const void* payload = any_operations::address(any);
+  const Any moved = std::move(any);
+  EXPECT_EQ(any_operations::address(moved), payload);
+}
+
+TEST(Any, MoveOfAnInPlaceValueTakesExactlyItsBytes) {
+  Any any = makeAny(std::int32_t{-1});
+  const Any moved = std::move(any);
+  EXPECT_EQ(moved.storage[0], 0xFFFFFFFFU);
+  EXPECT_EQ(moved.storage[1], 0U);
+  EXPECT_EQ(moved.storage[2], 0U);
+}
+
+TEST(Any, CopyAndMoveTreatTheirDestinationAsRaw) {
+  Any source = makeAny(std::int32_t{5});
+  alignas(Any) std::byte raw[sizeof(Any)];
+  std::memset(raw, 0xAB, sizeof(raw));
+  AnyOpArgs args{AnyOp::copy, &source, raw, nullptr};
+  source.manager(&args);
+  Any& copied = *reinterpret_cast<Any*>(raw);
+  expectHolds(copied, std::int32_t{5});
+  EXPECT_EQ(copied.storage[1], 0U);
+
+  std::memset(raw, 0xAB, sizeof(raw));
+  args = {AnyOp::move, &source, raw, nullptr};
+  source.manager(&args);
+  expectHolds(copied, std::int32_t{5});
+  expectEmpty(source);
+}
+
+TEST(Any, ATagOfTheSameTextAtAnotherAddressCasts) {
+  const std::string spelling = "H";
+  const auto tag = makeTag(spelling, 0, 0);
+  const Any any = makeAny(std::int32_t{5});
+  EXPECT_EQ(any_operations::cast(any, tag), any_operations::address(any));
+  EXPECT_EQ(any_operations::cast(any, typeTag<std::uint32_t, 0>), nullptr);
+}
+
+TEST(Any, AForeignTypeTravelsWithItsOwnManager) {
+  struct Foreign {
+    double numbers[5];
+  };
+  static constexpr auto tag = makeTag("UForeign@@", 0, 0);
+  Any any = makeTaggedAny<tag>(Foreign{{1, 2, 3, 4, 5}});
+  const Any copy = any;
+  EXPECT_EQ(&copy.type(), &tag);
+  EXPECT_EQ(static_cast<const Foreign*>(any_operations::cast(copy, tag))->numbers[4], 5);
+}
+
+}  // namespace
+}  // namespace vtlcmd

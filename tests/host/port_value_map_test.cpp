@@ -1,0 +1,70 @@
+#include "host/port_value_map.h"
+
+#include <gtest/gtest.h>
+#include <string>
+
+namespace vtlcmd {
+namespace {
+
+// Published FNV-1a test values.
+TEST(PortValueMap, HashIsFnv1a) {
+  EXPECT_EQ(PortValueMap::hash(""), 0xcbf29ce484222325);
+  EXPECT_EQ(PortValueMap::hash("a"), 0xaf63dc4c8601ec8c);
+  EXPECT_EQ(PortValueMap::hash("foobar"), 0x85944171f73967e8);
+}
+
+TEST(PortValueMap, HashTakesHighBytesUnsigned) {
+  EXPECT_EQ(PortValueMap::hash("\xff"), (0xcbf29ce484222325 ^ 0xff) * 0x100000001b3);
+}
+
+TEST(PortValueMap, EmptyMapFindsNothing) {
+  const PortValueMap map;
+  EXPECT_TRUE(map.empty());
+  EXPECT_EQ(map.find("count"), nullptr);
+  EXPECT_EQ(map.find(""), nullptr);
+}
+
+TEST(PortValueMap, FindsEveryNameOfManyExactly) {
+  PortValueMap map;
+  constexpr int count = 1000;
+  for (int i = 0; i < count; ++i) {
+    map.insert(("port" + std::to_string(i)).c_str(), {"host", std::to_string(i).c_str()});
+  }
+  EXPECT_EQ(map.size(), 1000U);
+  for (int i = 0; i < count; ++i) {
+    const PortValueEntry* entry = map.find(("port" + std::to_string(i)).c_str());
+    ASSERT_NE(entry, nullptr);
+    EXPECT_EQ(entry->text.c_str(), std::to_string(i));
+  }
+  EXPECT_EQ(map.find("Port1"), nullptr);
+  EXPECT_EQ(map.find("port"), nullptr);
+  EXPECT_EQ(map.find("port1000"), nullptr);
+}
+
+TEST(PortValueMap, LaterEntryReplacesTheEarlier) {
+  PortValueMap map;
+  map.insert("count", {"", "1"});
+  map.insert("count", {"", "2"});
+  EXPECT_EQ(map.size(), 1U);
+  EXPECT_STREQ(map.find("count")->text.c_str(), "2");
+}
+
+TEST(PortValueMap, EmptyNameAndEmptyTextAreEntriesLikeAnyOther) {
+  PortValueMap map;
+  map.insert("", {"", ""});
+  ASSERT_NE(map.find(""), nullptr);
+  EXPECT_STREQ(map.find("")->text.c_str(), "");
+}
+
+TEST(PortValueMap, CopiesStandAlone) {
+  PortValueMap map;
+  map.insert("count", {"", "1"});
+  PortValueMap copy = map;
+  map.insert("count", {"", "2"});
+  map.insert("other", {"", "3"});
+  EXPECT_STREQ(copy.find("count")->text.c_str(), "1");
+  EXPECT_EQ(copy.find("other"), nullptr);
+}
+
+}  // namespace
+}  // namespace vtlcmd

@@ -1,0 +1,201 @@
+#include "input/input_setter.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
+
+#include "support/test_host.h"
+#include "support/type_samples.h"
+
+namespace vtlcmd {
+namespace {
+
+using ::testing::ElementsAre;
+using testing::sampleOf;
+using testing::sampleValue;
+using testing::TestHost;
+
+enum class Default { none, own, foreign };
+
+/// What a setter can meet: the kind of port, a result that held something, a default of the host's.
+struct State {
+  bool isJobPort;
+  bool filled;
+  Default defaultKind;
+};
+
+std::vector<State> allStates() {
+  std::vector<State> states;
+  for (const bool isJobPort : {false, true}) {
+    for (const bool filled : {false, true}) {
+      for (const Default kind : {Default::none, Default::own, Default::foreign}) {
+        states.push_back({isJobPort, filled, kind});
+      }
+    }
+  }
+  return states;
+}
+
+/// One call on the port "p" in one state.
+template <typename T>
+struct Call {
+  Call(const State& state, const char* text) : isJobPort(state.isJobPort) {
+    if (text != nullptr) (isJobPort ? host.jobValues : host.inputValues).insert("p", {"", text});
+    // Never looked at: the port has no text in the other map.
+    (isJobPort ? host.inputValues : host.jobValues).insert("p", {"", "other map"});
+    const auto old = testing::nestedArray<float, 1>(1);
+    if (state.filled) value = makeAny(old);
+    Any defaultValue;
+    if (state.defaultKind == Default::own) defaultValue = makeAny(sampleValue<T>(1));
+    if (state.defaultKind == Default::foreign) {
+      defaultValue = makeAny(testing::nestedArray<T, 1>(sampleValue<T>(1)));
+    }
+    result = host.setInput(Orvel::typeOf<T>(), value, "p", isJobPort, defaultValue);
+    EXPECT_EQ(result, value.holdsValue());
+    EXPECT_EQ(Orvel::useCount(old), 1U) << "what the result held is gone in every case";
+  }
+
+  std::string valueLine(const std::string& text) const {
+    return "verbose Set " + word() + " port 'p': (" + name + ") " + text;
+  }
+  std::string noValueLine() const {
+    return "verbose No value was provided to vtlcmd for " + word() + " port 'p' (" + name +
+           "). A default value will be used.";
+  }
+  std::string error(const std::string& text) const {
+    return std::string("error ") + (isJobPort ? "Job" : "Input") + " port 'p' (" + name +
+           "): " + text;
+  }
+  std::string word() const { return isJobPort ? "Job" : "input"; }
+
+  bool isJobPort;
+  TestHost host;
+  Any value;
+  bool result = false;
+  std::string name = valueType<T>().name;
+};
+
+template <typename T>
+class InputSetter : public ::testing::Test {};
+TYPED_TEST_SUITE(InputSetter, testing::RegisteredTestTypes);
+
+TYPED_TEST(InputSetter, TextBecomesTheValue) {
+  if constexpr (!std::is_same_v<TypeParam, ObjectPtr>) {
+    for (const State& state : allStates()) {
+      const Call<TypeParam> call(state, sampleOf<TypeParam>().text);
+      EXPECT_TRUE(call.result);
+      EXPECT_EQ(*anyCast<TypeParam>(&call.value), sampleValue<TypeParam>(0));
+      EXPECT_THAT(call.host.messages(), ElementsAre(call.valueLine(sampleOf<TypeParam>().report)));
+    }
+  }
+}
+
+TYPED_TEST(InputSetter, BadOrEmptyTextLeavesNothingAndUsesNoDefault) {
+  for (const State& state : allStates()) {
+    for (const char* text : {"x", ""}) {
+      const Call<TypeParam> call(state, text);
+      if constexpr (std::is_same_v<TypeParam, Orvel::String>) {
+        EXPECT_TRUE(call.result);
+        EXPECT_THAT(call.host.messages(),
+                    ElementsAre(call.valueLine("\"" + std::string(text) + "\"")));
+      } else {
+        EXPECT_FALSE(call.result);
+        std::string message = "Unable to convert '" + std::string(text) + "' to a" +
+                              (call.name == "int" ? "n " : " ") + call.name + " value.";
+        if constexpr (std::is_same_v<TypeParam, ObjectPtr>) {
+          message = "UNSUPPORTED: setFromString() for Object";
+        } else if constexpr (VectorType<TypeParam>) {
+          message = "Cannot extract " + call.name + " value from '" + text +
+                    "': invalid number of vector components";
+        }
+        EXPECT_THAT(call.host.messages(), ElementsAre(call.error(message)));
+      }
+    }
+  }
+}
+
+TYPED_TEST(InputSetter, WithoutTextTheDefaultIsUsed) {
+  for (const State& state : allStates()) {
+    const Call<TypeParam> call(state, nullptr);
+    EXPECT_TRUE(call.result);
+    std::string report = sampleOf<TypeParam>().zeroReport;
+    if (state.defaultKind == Default::foreign) {
+      EXPECT_EQ(&call.value.type(), (&typeTag<TypeParam, 1>)) << "copied as it stands";
+    } else {
+      const auto* value = anyCast<TypeParam>(&call.value);
+      ASSERT_NE(value, nullptr);
+      if (state.defaultKind == Default::own) report = sampleOf<TypeParam>().otherReport;
+      if constexpr (std::is_same_v<TypeParam, ObjectPtr>) {
+        EXPECT_TRUE(*value);
+        report = "{\n}";
+      } else {
+        EXPECT_EQ(*value,
+                  state.defaultKind == Default::own ? sampleValue<TypeParam>(1) : TypeParam{});
+      }
+    }
+    EXPECT_THAT(call.host.messages(), ElementsAre(call.noValueLine(), call.valueLine(report)));
+  }
+}
+
+TYPED_TEST(InputSetter, NamesCompareExactly) {
+  TestHost host;
+  host.giveText("P", "x");
+  host.giveText("p ", "x");
+  Any value;
+  EXPECT_TRUE(host.setInput(Orvel::typeOf<TypeParam>(), value, "p"));
+}
+
+TEST(InputSetterOfString, TextArrivesUnchanged) {
+  for (const char* text : {" a b ", "a,b", "say \"hi\"", "line\nline", "\xff"}) {
+    TestHost host;
+    host.giveText("s", text);
+    Any value;
+    EXPECT_TRUE(host.setInput(Orvel::typeOf<Orvel::String>(), value, "s"));
+    EXPECT_STREQ(anyCast<Orvel::String>(&value)->c_str(), text);
+    EXPECT_THAT(host.messages(),
+                ElementsAre("verbose Set input port 's': (string) \"" + std::string(text) + "\""));
+  }
+}
+
+TEST(InputSetterOfInt, WorkedMessages) {
+  TestHost host;
+  host.giveText("count", "12abc");
+  Any value;
+  EXPECT_FALSE(host.setInput(Orvel::typeOf<std::int32_t>(), value, "count"));
+  EXPECT_TRUE(host.setInput(Orvel::typeOf<std::int32_t>(), value, "other", false,
+                            makeAny(std::int32_t{7})));
+  EXPECT_THAT(
+      host.messages(),
+      ElementsAre("error Input port 'count' (int): Unable to convert '12abc' to an int value.",
+                  "verbose No value was provided to vtlcmd for input port 'other' (int). A "
+                  "default value will be used.",
+                  "verbose Set input port 'other': (int) 7"));
+}
+
+TEST(InputSetterOfFloat3, WorkedMessages) {
+  TestHost host;
+  const Orvel::Type type = Orvel::typeOf<Math::float3>();
+  Any value;
+  host.giveText("pos", "1,2");
+  EXPECT_FALSE(host.setInput(type, value, "pos"));
+  host.giveText("pos", "1,x,3");
+  EXPECT_FALSE(host.setInput(type, value, "pos"));
+  EXPECT_THAT(host.messages(),
+              ElementsAre("error Input port 'pos' (Math::float3): Cannot extract Math::float3 "
+                          "value from '1,2': invalid number of vector components",
+                          "error Input port 'pos' (Math::float3): Unable to convert 'x' to a "
+                          "float value."));
+}
+
+TEST(InputSetterOfObject, DefaultIsShared) {
+  const ObjectPtr object = Vantrel::createObject();
+  TestHost host;
+  Any value;
+  EXPECT_TRUE(host.setInput(Orvel::typeOf<ObjectPtr>(), value, "geo", false, makeAny(object)));
+  EXPECT_EQ(anyCast<ObjectPtr>(&value)->get(), object.get());
+  EXPECT_EQ(Orvel::useCount(object), 2U);
+}
+
+}  // namespace
+}  // namespace vtlcmd

@@ -1,0 +1,162 @@
+#include "object_report/object_report.h"
+
+#include <gtest/gtest.h>
+#include <sstream>
+#include <string>
+#include <tuple>
+
+#include "host/imports/vantrel_geometry.h"
+#include "host/value_types.h"
+#include "orvel_sdk/value_factory.h"
+#include "output/array_statistics.h"
+#include "support/type_samples.h"
+#include "vantrel_geometry/geometry_builder.h"
+#include "vantrel_object/object_builder.h"
+
+namespace vtlcmd {
+namespace {
+
+using testing::arrayOf;
+
+Orvel::StringView view(const char* text) { return {text, std::char_traits<char>::length(text)}; }
+
+class ObjectReport : public ::testing::Test {
+ protected:
+  void addComponent(const char* name, std::uint32_t count) {
+    Vantrel::Geometry::setComponentProperty(*object_, view(name), count);
+  }
+  template <typename T>
+  void addData(const char* name, const std::vector<T>& elements) {
+    addAny(name, makeAny(arrayOf<T>(elements)));
+  }
+  void addAny(const char* name, const Any& any) {
+    Vantrel::Geometry::setDataProperty(*object_, view(name), any);
+  }
+  std::string report() { return objectReport(object_); }
+
+  ObjectPtr object_ = Vantrel::createObject();
+};
+
+constexpr const char* nullReport = "{\n  No object produced, verify your inputs.\n}";
+
+TEST_F(ObjectReport, WorkedText) {
+  addComponent("pieces", 3);
+  addData<std::int32_t>("id", {1, 2, 6});
+  addData<Orvel::String>("label", {"a", "b"});
+  EXPECT_EQ(report(),
+            "{\n"
+            "  pieces: count: 3\n"
+            "  id: (3 int)\n"
+            "  {\n"
+            "     min: 1\n"
+            "     max: 6\n"
+            "     avg: 3\n"
+            "  }\n"
+            "  label: {non supported Data Geo Property}\n"
+            "}");
+}
+
+TEST_F(ObjectReport, ObjectWithoutPropertiesIsTwoBraces) { EXPECT_EQ(report(), "{\n}"); }
+
+TEST_F(ObjectReport, NullObjectHasATextOfItsOwn) {
+  EXPECT_EQ(objectReport({}), nullReport);
+  EXPECT_EQ(objectReportFromAny(makeAny(ObjectPtr{})), nullReport);
+  EXPECT_EQ(objectReportFromAny(Any{}), nullReport);
+  EXPECT_EQ(objectReportFromAny(makeAny(std::int32_t{5})), nullReport);
+  EXPECT_EQ(objectReportFromAny(makeAny(arrayOf<ObjectPtr>({object_}))), nullReport);
+  EXPECT_EQ(objectReportFromValue(Orvel::makeValue(ObjectPtr{})), nullReport);
+}
+
+TEST_F(ObjectReport, ComponentsStandBeforeDataEachInTheLibrarysOrder) {
+  addData<float>("z", {1});
+  addComponent("faces", 4294967295);
+  addData<float>("a", {2});
+  addComponent("corners", 0);
+  EXPECT_EQ(report(),
+            "{\n"
+            "  faces: count: 4294967295\n"
+            "  corners: count: 0\n"
+            "  z: (1 float)\n  {\n     min: 1\n     max: 1\n     avg: 1\n  }\n"
+            "  a: (1 float)\n  {\n     min: 2\n     max: 2\n     avg: 2\n  }\n"
+            "}");
+}
+
+TEST_F(ObjectReport, PropertiesThatAreNoGeometryAreNotReported) {
+  Vantrel::setProperty(*object_, view("note"), makeAny(Orvel::String("text")));
+  Vantrel::setProperty(*object_, view("child"), makeAny(ObjectPtr(Vantrel::createObject())));
+  EXPECT_EQ(report(), "{\n}");
+}
+
+TEST_F(ObjectReport, EmptyArrayPrintsItsBlockInTheEmptyForm) {
+  addData<std::int16_t>("s", {});
+  addData<bool>("b", {});
+  EXPECT_EQ(report(),
+            "{\n"
+            "  s: (0 short)\n  {\nempty array...  }\n"
+            "  b:  (0 bool)\n  {\nempty array...  }\n"
+            "}");
+}
+
+TEST_F(ObjectReport, UnknownValuesPrintNothingAndTheRestFollows) {
+  addAny("missing", Any{});
+  addAny("scalar", makeAny(1.5F));
+  addAny("nested", makeAny(testing::nestedArray<float, 2>(1)));
+  addAny("objects", makeAny(arrayOf<ObjectPtr>({object_})));
+  static constexpr auto foreign = makeTag("UForeign@@", 0, 1);
+  addAny("foreign", makeTaggedAny<foreign>(1));
+  addData<std::uint16_t>("last", {65535, 1});
+  EXPECT_EQ(report(),
+            "{\n"
+            "  last: (2 ushort)\n  {\n     min: 1\n     max: 65535\n     avg: 0\n  }\n"
+            "}");
+  // The object holds itself through that array; only an empty value lets it end.
+  addAny("objects", Any{});
+}
+
+TEST_F(ObjectReport, ReadsAlikeFromAnyAndFromValueAndLeavesTheObjectAlone) {
+  addComponent("pieces", 3);
+  const auto array = arrayOf<double>({1, 2});
+  addAny("weight", makeAny(array));
+  const auto objectUses = Orvel::useCount(object_);
+  const auto arrayUses = Orvel::useCount(array);
+  EXPECT_EQ(objectReportFromAny(makeAny(object_)), report());
+  EXPECT_EQ(objectReportFromValue(Orvel::makeValue(object_)), report());
+  EXPECT_EQ(Orvel::useCount(object_), objectUses);
+  EXPECT_EQ(Orvel::useCount(array), arrayUses);
+}
+
+template <typename T>
+class DataProperty : public ::testing::Test {
+ protected:
+  static std::pair<bool, std::string> print(const Any& value) {
+    std::ostringstream stream;
+    const bool printed = printDataProperty(value, stream, "p");
+    return {printed, stream.str()};
+  }
+};
+
+template <typename... A, typename... B>
+auto joinTypes(::testing::Types<A...>, ::testing::Types<B...>) -> ::testing::Types<A..., B...>;
+using ElementTypes =
+    decltype(joinTypes(testing::RegisteredTestTypes{}, testing::ReportOnlyTestTypes{}));
+TYPED_TEST_SUITE(DataProperty, ElementTypes);
+
+TYPED_TEST(DataProperty, IsSummarisedUnsupportedOrPassedOverByItsElementType) {
+  using T = TypeParam;
+  const auto [printed, text] = this->print(makeAny(arrayOf<T>({T{}})));
+  if constexpr (std::is_same_v<T, ObjectPtr>) {
+    EXPECT_FALSE(printed);
+    EXPECT_EQ(text, "");
+  } else if constexpr (Summarised<T>) {
+    std::ostringstream expected;
+    printNamedArrayStatistics(expected, "p", *arrayOf<T>({T{}}));
+    EXPECT_TRUE(printed);
+    EXPECT_EQ(text, expected.str());
+  } else {
+    EXPECT_FALSE(printed);
+    EXPECT_EQ(text, "  p: {non supported Data Geo Property}\n");
+  }
+}
+
+}  // namespace
+}  // namespace vtlcmd

@@ -1,0 +1,182 @@
+#include "output/array_printers.h"
+
+#include <gtest/gtest.h>
+#include <sstream>
+#include <string>
+
+#include "orvel_sdk/type_factory.h"
+#include "orvel_sdk/value_factory.h"
+#include "support/type_samples.h"
+
+namespace vtlcmd {
+namespace {
+
+using testing::arrayOf;
+using testing::nestedArray;
+using testing::sampleOf;
+using testing::sampleValue;
+
+constexpr std::uint32_t unlimited = 4294967295;
+
+template <typename T, std::uint32_t Rank>
+std::string print(const StoredArray<T, Rank>& array, std::uint32_t limit) {
+  VtlCmdLogger logger(limit);
+  const Any any = makeAny(array);
+  std::ostringstream stream;
+  printArray<T, Rank>(stream, &any, &logger);
+  EXPECT_TRUE(logger.messages.empty());
+  return stream.str();
+}
+
+template <typename T>
+std::string printValue(const Orvel::Value& value, std::size_t depth, std::uint32_t limit) {
+  VtlCmdLogger logger(limit);
+  std::ostringstream stream;
+  printArrayValue<T>(stream, value, depth, &logger);
+  return stream.str();
+}
+
+std::string note(std::uint64_t shown, std::uint64_t total, const std::string& word) {
+  return "(" + std::to_string(shown) + " out of " + std::to_string(total) + " " + word + ")";
+}
+
+std::string list(const std::string& head, const std::string& elements) {
+  return "\n" + head + "[\n" + elements + " ]\n";
+}
+
+template <typename T>
+class ArrayPrinters : public ::testing::Test {
+ protected:
+  std::string name() const { return valueType<T>().name; }
+  /// What a level of elements, the lowest, shows when it has something to show.
+  std::string lowest(const std::vector<T>& elements, std::uint64_t shown) const {
+    switch (valueType<T>().arrayClass) {
+      case ArrayClass::summarised:
+        return statistics(elements);
+      case ArrayClass::refused:
+        return "{non supported array of " + name() + " }";
+      case ArrayClass::listed:
+        break;
+    }
+    std::string texts;
+    for (std::uint64_t i = 0; i < shown; ++i) {
+      const Any any = makeAny(elements[i]);
+      texts += (i == 0 ? "" : ",\n") + anyToText<T>(&any);
+    }
+    return list(note(shown, elements.size(), name()), texts);
+  }
+  static std::string statistics(const std::vector<T>& elements) {
+    std::ostringstream stream;
+    if constexpr (Summarised<T>) printArrayStatistics(stream, *arrayOf<T>(elements));
+    return stream.str();
+  }
+
+  std::vector<T> five_{sampleValue<T>(0), sampleValue<T>(1), sampleValue<T>(0), sampleValue<T>(1),
+                       sampleValue<T>(0)};
+};
+TYPED_TEST_SUITE(ArrayPrinters, testing::RegisteredTestTypes);
+
+TYPED_TEST(ArrayPrinters, EmptyArrayIsAShortNoteAtEveryRank) {
+  using T = TypeParam;
+  const std::string expected = note(0, 0, this->name());
+  EXPECT_EQ((print<T, 1>(arrayOf<T>({}), 10)), expected);
+  EXPECT_EQ((print<T, 2>(arrayOf<StoredArray<T, 1>>({}), 10)), expected);
+  EXPECT_EQ((print<T, 3>(arrayOf<StoredArray<T, 2>>({}), 10)), expected);
+}
+
+TYPED_TEST(ArrayPrinters, EmptyValueNamesTheLevelBelow) {
+  using T = TypeParam;
+  EXPECT_EQ(printValue<T>(Orvel::makeValue(arrayOf<T>({})), 1, 10), note(0, 0, this->name()));
+  EXPECT_EQ(printValue<T>(Orvel::makeValue(arrayOf<StoredArray<T, 1>>({})), 2, 10),
+            note(0, 0, "array<" + this->name() + ">"));
+}
+
+TYPED_TEST(ArrayPrinters, LimitZeroIsAShortNoteOfAFilledArray) {
+  using T = TypeParam;
+  EXPECT_EQ((print<T, 1>(arrayOf<T>(this->five_), 0)), note(0, 5, this->name()));
+  EXPECT_EQ(printValue<T>(Orvel::makeValue(arrayOf<T>(this->five_)), 1, 0),
+            note(0, 5, this->name()));
+}
+
+TYPED_TEST(ArrayPrinters, LowestLevelGoesByItsClassAndTheLimitCapsListsAlone) {
+  using T = TypeParam;
+  const auto array = arrayOf<T>(this->five_);
+  for (const std::uint32_t limit : {1U, 2U, 5U, 6U, unlimited}) {
+    const std::string expected = this->lowest(this->five_, std::min(limit, 5U));
+    EXPECT_EQ((print<T, 1>(array, limit)), expected);
+    EXPECT_EQ(printValue<T>(Orvel::makeValue(array), 1, limit), expected);
+  }
+}
+
+TYPED_TEST(ArrayPrinters, OuterLevelsAreListsUpToTheLimit) {
+  using T = TypeParam;
+  const auto row = arrayOf<T>(this->five_);
+  const auto rows = arrayOf<StoredArray<T, 1>>({row, arrayOf<T>({}), row});
+  const std::string filled = this->lowest(this->five_, 5);
+  const std::string empty = note(0, 0, this->name());
+  EXPECT_EQ((print<T, 2>(rows, 10)),
+            list(note(3, 3, this->name()), filled + ",\n" + empty + ",\n" + filled));
+  EXPECT_EQ(
+      printValue<T>(Orvel::makeValue(rows), 2, 10),
+      list(note(3, 3, "array<" + this->name() + ">"), filled + ",\n" + empty + ",\n" + filled));
+  EXPECT_EQ((print<T, 2>(rows, 1)), list(note(1, 3, this->name()), this->lowest(this->five_, 1)));
+
+  const auto cube = arrayOf<StoredArray<T, 2>>({rows, rows});
+  const std::string inner =
+      list(note(2, 3, this->name()), this->lowest(this->five_, 2) + ",\n" + empty);
+  EXPECT_EQ((print<T, 3>(cube, 2)), list(note(2, 2, this->name()), inner + ",\n" + inner));
+}
+
+TYPED_TEST(ArrayPrinters, DeepValuesNestWithoutBound) {
+  using T = TypeParam;
+  Orvel::Value value = Orvel::makeValue(nestedArray<T, 1>(this->five_[0]));
+  std::string expected = this->lowest({this->five_[0]}, 1);
+  std::string word = this->name();
+  for (std::size_t depth = 2; depth <= 5; ++depth) {
+    word = "array<" + word + ">";
+    value = Orvel::makeArray(value.getType(), std::array{value});
+    expected = list(note(1, 1, word), expected);
+    EXPECT_EQ(printValue<T>(value, depth, 10), expected);
+  }
+}
+
+TYPED_TEST(ArrayPrinters, ArraysAreSharedNotCopied) {
+  using T = TypeParam;
+  const auto row = arrayOf<T>(this->five_);
+  {
+    const auto rows = arrayOf<StoredArray<T, 1>>({row, row});
+    const auto before = Orvel::useCount(row);
+    const auto data = row->data;
+    const Any any = makeAny(rows);
+    VtlCmdLogger logger(10);
+    std::ostringstream stream;
+    printArray2<T>(stream, &any, &logger);
+    EXPECT_EQ(Orvel::useCount(row), before);
+    EXPECT_EQ(Orvel::useCount(rows), 2U);
+    EXPECT_EQ(row->data, data);
+    printArrayValue<T>(stream, Orvel::makeValue(rows), 2, &logger);
+    EXPECT_EQ(Orvel::useCount(row), before);
+  }
+  EXPECT_EQ(Orvel::useCount(row), 1U);
+}
+
+TYPED_TEST(ArrayPrinters, DepthZeroIsTheSingleValuesText) {
+  EXPECT_EQ(printValue<TypeParam>(Orvel::makeValue(this->five_[0]), 0, 10),
+            sampleOf<TypeParam>().report);
+}
+
+TYPED_TEST(ArrayPrinters, TypeNameWrapsTheBaseName) {
+  EXPECT_STREQ(arrayTypeName<TypeParam>(1).c_str(), ("array<" + this->name() + ">").c_str());
+  EXPECT_STREQ(arrayTypeName<TypeParam>(2).c_str(), ("array<array<" + this->name() + ">>").c_str());
+  EXPECT_STREQ(arrayTypeName<TypeParam>(3).c_str(),
+               ("array<array<array<" + this->name() + ">>>").c_str());
+}
+
+TEST(PrintArrayValue, ForeignElementNameLeavesNoText) {
+  const Orvel::Value floats = Orvel::makeValue(arrayOf<float>({1, 2}));
+  EXPECT_EQ(printValue<std::int32_t>(floats, 1, 10), "");
+  EXPECT_EQ(printValue<Math::double2>(floats, 1, 10), "{non supported array of float }");
+}
+
+}  // namespace
+}  // namespace vtlcmd

@@ -1,0 +1,100 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "host/value_types.h"
+#include "support/test_host.h"
+#include "support/type_samples.h"
+
+namespace vtlcmd {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+using testing::TestHost;
+using Vantrel::Simulation::Time;
+
+/// A value of an array type around an element type, empty.
+Orvel::Value emptyArray(const char* name) {
+  return Orvel::makeZero(Orvel::typeNamed({name, std::strlen(name)}));
+}
+
+class OutputDispatch : public ::testing::Test {
+ protected:
+  TestHost host_;
+};
+
+TEST_F(OutputDispatch, UnsupportedValueGetsAWarning) {
+  EXPECT_FALSE(host_.getValue(Orvel::makeValue(Math::float2x2{}), "m"));
+  EXPECT_THAT(host_.messages(),
+              ElementsAre("progress Output port 'm' [Math::float2x2]",
+                          "warning The TypeTranslation does not support getting a value of type "
+                          "'Math::float2x2' for the Terminal output named 'm'."));
+}
+
+TEST_F(OutputDispatch, UnsupportedArrayIsNamedWholeThenByItsElement) {
+  EXPECT_FALSE(host_.getValue(emptyArray("array<array<Math::float2x2>>"), "m"));
+  EXPECT_THAT(host_.messages(),
+              ElementsAre("progress Output port 'm' [array<array<Math::float2x2>>]",
+                          "warning The TypeTranslation does not support getting a value of type "
+                          "'Math::float2x2' for the Terminal output named 'm'."));
+}
+
+TEST_F(OutputDispatch, ListedRecordAndShortAreNeverReported) {
+  EXPECT_FALSE(host_.getValue(Orvel::makeValue(Time{1, 0, 0, 1}), "t"));
+  EXPECT_FALSE(host_.getValue(emptyArray("array<short>"), "s"));
+  EXPECT_THAT(host_.messages(),
+              ElementsAre("progress Output port 't' [Simulation::Time]",
+                          "warning The TypeTranslation does not support getting a value of type "
+                          "'Simulation::Time' for the Terminal output named 't'.",
+                          "progress Output port 's' [array<short>]",
+                          "warning The TypeTranslation does not support getting a value of type "
+                          "'short' for the Terminal output named 's'."));
+  EXPECT_FALSE(host_.getAny(makeAny(Time{1, 0, 0, 1}), "t"));
+  EXPECT_EQ(host_.messages().size(), 4U) << "through an Any in silence";
+}
+
+TEST_F(OutputDispatch, UnsupportedAnyIsRefusedInSilence) {
+  EXPECT_FALSE(host_.getAny(Any{}, "empty"));
+  EXPECT_FALSE(host_.getAny(makeAny(testing::arrayOf<std::int16_t>({1})), "short"));
+  EXPECT_THAT(host_.messages(), IsEmpty());
+  EXPECT_TRUE(host_.logger.fallbackEntry.outputs.empty());
+}
+
+TEST_F(OutputDispatch, FourDeepArrayIsReportedAsAValueAlone) {
+  using Rank4 = Orvel::Ptr<Orvel::Array<StoredArray<std::int32_t, 3>>>;
+  const Rank4 array =
+      testing::arrayOf<StoredArray<std::int32_t, 3>>({testing::nestedArray<std::int32_t, 3>(7)});
+  EXPECT_TRUE(host_.getValue(Orvel::makeValue(array), "deep"));
+  EXPECT_THAT(host_.messages(),
+              ElementsAre("progress Output port 'deep': (array<array<array<array<int>>>>) \n"
+                          "(1 out of 1 array<array<array<int>>>)[\n"
+                          "\n"
+                          "(1 out of 1 array<array<int>>)[\n"
+                          "\n"
+                          "(1 out of 1 array<int>)[\n"
+                          "(1 int)\n"
+                          "  {\n"
+                          "     min: 7\n"
+                          "     max: 7\n"
+                          "     avg: 7\n"
+                          "  } ]\n"
+                          " ]\n"
+                          " ]\n"));
+  static constexpr auto rank4 = makeTag("H", 0, 4);
+  EXPECT_FALSE(host_.getAny(makeTaggedAny<rank4>(array), "deep"));
+  EXPECT_EQ(host_.messages().size(), 1U);
+}
+
+TEST_F(OutputDispatch, NullDataIsToldOnTheErrorStreamAlone) {
+  const std::string line = "[vtlcmd]  Critical: The TypeTranslation ValueData is null.\n";
+  ::testing::internal::CaptureStderr();
+  EXPECT_FALSE(host_.translation.getOutputAny(makeAny(true), nullptr));
+  EXPECT_EQ(::testing::internal::GetCapturedStderr(), line);
+  ::testing::internal::CaptureStderr();
+  EXPECT_FALSE(host_.translation.getOutputValue(Orvel::makeValue(true), nullptr));
+  EXPECT_EQ(::testing::internal::GetCapturedStderr(), line);
+  EXPECT_THAT(host_.messages(), IsEmpty());
+}
+
+}  // namespace
+}  // namespace vtlcmd

@@ -1,0 +1,79 @@
+#include "translation/vtlcmd_type_translation.h"
+
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
+
+#include "translation/entry.h"
+
+namespace vtlcmd {
+namespace {
+
+using VantrelGraph::Executor::TypeTranslation;
+
+std::vector<std::string> textsOf(const Orvel::Array<Orvel::String>& array) {
+  std::vector<std::string> texts;
+  for (const Orvel::String& text : array) texts.emplace_back(text.c_str());
+  return texts;
+}
+
+const std::vector<std::string> supported{"Math::double2",
+                                         "Math::double3",
+                                         "Math::double4",
+                                         "Math::float2",
+                                         "Math::float3",
+                                         "Math::float4",
+                                         "Object",
+                                         "bool",
+                                         "double",
+                                         "float",
+                                         "int",
+                                         "long",
+                                         "string",
+                                         "uint",
+                                         "ulong",
+                                         "Simulation::Time",
+                                         "File::Project::SceneInfo"};
+
+TEST(VtlCmdTypeTranslation, ListsSeventeenNames) {
+  const VtlCmdTypeTranslation translation;
+  Orvel::Array<Orvel::String> names;
+  translation.getSupportedTypeNames(names);
+  EXPECT_EQ(textsOf(names), supported);
+}
+
+TEST(VtlCmdTypeTranslation, AppendsBehindWhatTheArrayHeld) {
+  const VtlCmdTypeTranslation translation;
+  Orvel::Array<Orvel::String> names;
+  names.append("before");
+  translation.getSupportedTypeNames(names);
+  translation.getSupportedTypeNames(names);
+  std::vector<std::string> expected{"before"};
+  expected.insert(expected.end(), supported.begin(), supported.end());
+  expected.insert(expected.end(), supported.begin(), supported.end());
+  EXPECT_EQ(textsOf(names), expected);
+}
+
+/// The one member that the class adds stands behind what its bases hold.
+const HandlerTable* handlersOf(const TypeTranslation* object) {
+  const auto* words = reinterpret_cast<const HandlerTable* const*>(object);
+  return words[sizeof(VantrelGraph::Executor::TypeTranslationPreview) / sizeof(void*)];
+}
+
+TEST(CreateVantrelTypeTranslation, GivesObjectsThatShareTheTable) {
+  TypeTranslation* first = createVantrelTypeTranslation();
+  TypeTranslation* second = createVantrelTypeTranslation();
+  ASSERT_NE(first, nullptr);
+  ASSERT_NE(second, nullptr);
+  EXPECT_NE(first, second);
+  EXPECT_EQ(handlersOf(first), &sharedHandlerTable());
+  EXPECT_EQ(handlersOf(second), &sharedHandlerTable());
+  first->destroy();
+  Orvel::Array<Orvel::String> names;
+  second->getSupportedTypeNames(names);
+  EXPECT_EQ(names.size, 17U) << "the table stays when an object goes";
+  second->destroy();
+}
+
+}  // namespace
+}  // namespace vtlcmd
