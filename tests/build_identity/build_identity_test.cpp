@@ -63,5 +63,17 @@ TEST(DumpVersionInfo, WritesOneLineWhenAskedTo) {
   EXPECT_EQ(::testing::internal::GetCapturedStderr(), "");
 }
 
+TEST(DumpVersionInfo, IsSilentWithoutAnErrorStream) {
+  const pid_t child = fork();
+  if (child == 0) {
+    setenv("QUILLON_DUMP_VERSION_INFO", "1", 1);
+    close(STDERR_FILENO);
+    _exit(dumpVersionInfo() ? 1 : 0);
+  }
+  int status = 0;
+  waitpid(child, &status, 0);
+  EXPECT_EQ(status, 0);
+}
+
 }  // namespace
 }  // namespace vtlcmd::build_identity

@@ -1,0 +1,25 @@
+#!/usr/bin/env bash
+# check_symbols.sh PLUG_IN IMPORTS CLOSED_LIBRARY...
+# The plug-in exports one symbol, needs nothing but the standard library and the closed libraries,
+# and imports from those exactly what the file IMPORTS lists.
+set -euo pipefail
+plug_in=$1 imports=$2
+shift 2
+
+fail() {
+  echo "$1" >&2
+  exit 1
+}
+
+exported=$(nm -D --defined-only "$plug_in" | awk '{print $2, $3}')
+[[ $exported == "T createVantrelTypeTranslation" ]] || fail "exports: $exported"
+
+own=$(printf '%s\n' "$@" | sed 's,.*/,,' | sort)
+needed=$(readelf -d "$plug_in" | sed -n 's/.*NEEDED.*\[\(.*\)\]/\1/p' |
+  grep -vE '^(libstdc\+\+|libm|libgcc_s|libc|ld-linux[^/]*)\.so' | sed 's/\.so.*/.so/' | sort)
+[[ $needed == "$own" ]] || fail "needed libraries: $needed"
+
+list() { nm -D "$@" | awk '{print $NF}' | sed 's/@.*//' | sort -u; }
+used=$(comm -12 <(list --undefined-only "$plug_in") <(list --defined-only "$@") | c++filt | sort -u)
+diff <(echo "$used") "$imports" || fail "imports differ from $imports"
+echo "$(echo "$used" | wc -l) imports, one export"

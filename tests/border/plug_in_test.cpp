@@ -1,0 +1,147 @@
+#include <array>
+#include <dlfcn.h>
+#include <gtest/gtest.h>
+#include <string>
+
+#include "host/any.h"
+#include "host/host_records.h"
+#include "host/imports/vantrel_executor.h"
+#include "host/port_value_map.h"
+#include "host/value_types.h"
+#include "logging/vtlcmd_logger.h"
+#include "orvel_sdk/type_factory.h"
+#include "orvel_sdk/value_factory.h"
+
+namespace vtlcmd {
+namespace {
+
+using VantrelGraph::Executor::TypeTranslation;
+using VantrelGraph::Executor::TypeTranslationPreview;
+
+/// The plug-in as a host sees it: a file with one function.
+class LoadedPlugIn {
+ public:
+  LoadedPlugIn() : library_(dlopen(VTLCMD_PLUG_IN, RTLD_NOW | RTLD_LOCAL)) {
+    EXPECT_NE(library_, nullptr) << dlerror();
+  }
+  LoadedPlugIn(const LoadedPlugIn&) = delete;
+  LoadedPlugIn& operator=(const LoadedPlugIn&) = delete;
+  ~LoadedPlugIn() { EXPECT_EQ(dlclose(library_), 0); }
+
+  TypeTranslation* create() const {
+    auto* function =
+        reinterpret_cast<TypeTranslation* (*)()>(dlsym(library_, "createVantrelTypeTranslation"));
+    return function();
+  }
+
+  static bool isInProcess() {
+    void* again = dlopen(VTLCMD_PLUG_IN, RTLD_NOW | RTLD_NOLOAD);
+    if (again != nullptr) dlclose(again);
+    return again != nullptr;
+  }
+
+ private:
+  void* library_;
+};
+
+/// The host's records for one port.
+struct Port {
+  Orvel::String name = "port";
+  PortValueMap inputValues;
+  PortValueMap jobValues;
+  VtlCmdLogger logger{10};
+  RunContext context{&inputValues, &jobValues, 0, 0, 1, {}, {}, &logger};
+  InputValueData input{nullptr, &name, false, {}, &context};
+  OutputValueData output{nullptr, &name, &context};
+};
+
+/// Slot numbers with a virtual destructor of one entry; here it has two.
+constexpr std::size_t entryOf(std::size_t slot) { return slot == 0 ? 0 : slot + 1; }
+
+class PlugIn : public ::testing::Test {
+ protected:
+  ~PlugIn() override {
+    if (object_ != nullptr) object_->destroy();
+  }
+
+  template <typename Function>
+  Function* slot(std::size_t number) const {
+    return reinterpret_cast<Function*>(entry(number));
+  }
+  void* entry(std::size_t slotNumber) const {
+    void* const* table = *reinterpret_cast<void* const* const*>(object_);
+    return table[entryOf(slotNumber)];
+  }
+  std::string fileOfSlot(std::size_t number) const {
+    Dl_info info{};
+    EXPECT_NE(dladdr(entry(number), &info), 0);
+    const std::string path = info.dli_fname;
+    return path.substr(path.rfind('/') + 1);
+  }
+
+  LoadedPlugIn library_;
+  TypeTranslation* object_ = library_.create();
+};
+
+TEST_F(PlugIn, EachSlotLeadsToItsOperation) {
+  Port port;
+  Orvel::Array<Orvel::String> names;
+  slot<void(TypeTranslation*, Orvel::Array<Orvel::String>&)>(3)(object_, names);
+  EXPECT_EQ(names.size, 17U);
+
+  Any value;
+  port.inputValues.insert("port", {"", "12"});
+  using SetInput = bool(TypeTranslation*, const Orvel::Type&, Any&, InputValueData*);
+  EXPECT_TRUE(slot<SetInput>(4)(object_, Orvel::typeOf<std::int32_t>(), value, &port.input));
+  EXPECT_EQ(*anyCast<std::int32_t>(&value), 12);
+
+  using GetAny = bool(TypeTranslation*, const Any&, OutputValueData*);
+  EXPECT_TRUE(slot<GetAny>(5)(object_, makeAny(std::int32_t{5}), &port.output));
+  EXPECT_EQ(port.logger.messages.back().text, "Output port 'port': (int) 5");
+
+  using GetValue = bool(TypeTranslation*, const Orvel::Value&, OutputValueData*);
+  EXPECT_TRUE(slot<GetValue>(11)(object_, Orvel::makeValue(1.5F), &port.output));
+  EXPECT_EQ(port.logger.messages.back().text, "Output port 'port': (float) 1.5");
+
+  slot<void(TypeTranslation*)>(1)(object_);
+  object_ = nullptr;
+}
+
+TEST_F(PlugIn, SixSlotsAreItsOwnAndSixTheExecutors) {
+  for (const std::size_t own : {0, 1, 3, 4, 5, 11}) {
+    EXPECT_EQ(fileOfSlot(own).find("libVtlCmdTranslation"), 0U) << own;
+  }
+  for (const std::size_t inherited : {2, 6, 7, 8, 9, 10}) {
+    EXPECT_EQ(fileOfSlot(inherited).find("libVantrelBoardExecutor"), 0U) << inherited;
+  }
+}
+
+TEST_F(PlugIn, DestroyDoesNothingForANullObject) { slot<void(TypeTranslation*)>(1)(nullptr); }
+
+TEST_F(PlugIn, ValuesOutliveTheObjectThatMadeThem) {
+  Port port;
+  Any value;
+  EXPECT_TRUE(object_->setInputValue(Orvel::typeOf<Math::double4>(), value, &port.input));
+  object_->destroy();
+  object_ = nullptr;
+  const Any copy = value;
+  EXPECT_EQ(*anyCast<Math::double4>(&copy), Math::double4{});
+}
+
+TEST(PlugInLibrary, IsUnloadedWholeAndCanBeLoadedAgain) {
+  for (int round = 0; round < 3; ++round) {
+    ASSERT_FALSE(LoadedPlugIn::isInProcess());
+    const LoadedPlugIn library;
+    ASSERT_TRUE(LoadedPlugIn::isInProcess());
+    TypeTranslation* object = library.create();
+    Port port;
+    EXPECT_TRUE(static_cast<TypeTranslationPreview*>(object)->getOutputValue(Orvel::makeValue(true),
+                                                                             &port.output));
+    EXPECT_EQ(port.logger.messages.back().text, "Output port 'port': (bool) true");
+    object->destroy();
+  }
+  EXPECT_FALSE(LoadedPlugIn::isInProcess());
+}
+
+}  // namespace
+}  // namespace vtlcmd
