@@ -161,7 +161,7 @@ TYPED_TEST(ArrayPrinters, ArraysAreSharedNotCopied) {
 }
 
 TYPED_TEST(ArrayPrinters, DepthZeroIsTheSingleValuesText) {
-  EXPECT_EQ(printValue<TypeParam>(Orvel::makeValue(this->five_[0]), 0, 10),
+  EXPECT_EQ(printValue<TypeParam>(Orvel::makeValue(sampleValue<TypeParam>(0)), 0, 10),
             sampleOf<TypeParam>().report);
 }
 

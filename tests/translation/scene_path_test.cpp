@@ -77,7 +77,8 @@ TEST(NarrowPath, IsUtf8) {
 
 TEST(NarrowPath, RaisesForWhatNoTextCanExpress) {
   for (const char32_t code : {0xD800U, 0xDBFFU, 0xDC00U, 0xDFFFU, 0x110000U, 0xFFFFFFFFU}) {
-    EXPECT_THROW(narrowPath(L"a" + wide(code)), std::system_error) << code;
+    EXPECT_THROW(narrowPath(L"a" + wide(code)), std::system_error)
+        << static_cast<std::uint32_t>(code);
   }
 }
 
