@@ -74,9 +74,7 @@ std::optional<T> parseCore(const char* text, ParseStatus& status) {
     status = ParseStatus::ParseOutOfRange;
   } else if (!std::isfinite(value)) {
     status = ParseStatus::ParseNoNumber;
-  } else if (std::fabs(value) > largest) {
-    status = ParseStatus::ParseOutOfRange;
-  } else if (value != 0 && std::fabs(value) < smallestNormal) {
+  } else if (std::fabs(value) > largest || (value != 0 && std::fabs(value) < smallestNormal)) {
     status = ParseStatus::ParseOutOfRange;
   } else if (nothingRead(end, text)) {
     status = ParseStatus::ParseNoNumber;
