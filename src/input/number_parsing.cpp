@@ -62,27 +62,30 @@ std::optional<T> parseCore(const char* text, ParseStatus& status) {
   return narrowInteger<T>(value, digits, end, status);
 }
 
+/// The order of the tests is part of the contract.
 template <FloatingNumber T>
-std::optional<T> parseCore(const char* text, ParseStatus& status) {
+ParseStatus statusOf(double value, const char* text, const char* end) {
   constexpr double largest = std::numeric_limits<T>::max();
   constexpr double smallestNormal = std::numeric_limits<T>::min();
+  if (errno == ERANGE) return ParseStatus::ParseOutOfRange;
+  if (!std::isfinite(value)) return ParseStatus::ParseNoNumber;
+  if (std::fabs(value) > largest) return ParseStatus::ParseOutOfRange;
+  if (value != 0 && std::fabs(value) < smallestNormal) return ParseStatus::ParseOutOfRange;
+  if (nothingRead(end, text)) return ParseStatus::ParseNoNumber;
+  return statusAt(end);
+}
+
+template <FloatingNumber T>
+std::optional<T> parseCore(const char* text, ParseStatus& status) {
   char* end = nullptr;
   errno = 0;
   // Not strtold: long double may be wider, and then other texts would pass.
   const double value = std::strtod(text, &end);
-  if (errno == ERANGE) {
-    status = ParseStatus::ParseOutOfRange;
-  } else if (!std::isfinite(value)) {
-    status = ParseStatus::ParseNoNumber;
-  } else if (std::fabs(value) > largest || (value != 0 && std::fabs(value) < smallestNormal)) {
-    status = ParseStatus::ParseOutOfRange;
-  } else if (nothingRead(end, text)) {
-    status = ParseStatus::ParseNoNumber;
-  } else {
-    status = statusAt(end);
-    return static_cast<T>(value);
+  status = statusOf<T>(value, text, end);
+  if (status != ParseStatus::ParseOk && status != ParseStatus::ParseTrailingText) {
+    return std::nullopt;
   }
-  return std::nullopt;
+  return static_cast<T>(value);
 }
 
 }  // namespace
