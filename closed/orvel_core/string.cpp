@@ -1,10 +1,10 @@
-#include "host/imports/orvel_string.h"
-
 #include <algorithm>
 #include <cstring>
 #include <string>
 #include <string_view>
 #include <utility>
+
+#include "host/imports/orvel_string.h"
 
 namespace Orvel {
 namespace {

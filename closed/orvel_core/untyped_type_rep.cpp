@@ -9,11 +9,11 @@ void* UntypedTypeRep::allocate(std::uint64_t count) const {
   if (count > std::numeric_limits<std::uint64_t>::max() / elementSize) {
     throw std::bad_array_new_length();
   }
-  return ::operator new(count * elementSize, std::align_val_t{elementAlignment});
+  return ::operator new (count* elementSize, std::align_val_t{elementAlignment});
 }
 
-void UntypedTypeRep::deallocate(void* block, std::uint64_t count) const noexcept {
-  ::operator delete(block, count * elementSize, std::align_val_t{elementAlignment});
+void UntypedTypeRep::deallocate(void* block, std::uint64_t) const noexcept {
+  ::operator delete (block, std::align_val_t{elementAlignment});
 }
 
 }  // namespace Orvel::Internal

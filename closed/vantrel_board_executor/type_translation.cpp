@@ -15,9 +15,7 @@ bool TypeTranslation::portAdded(const Orvel::String&, PortDirection, const Orvel
   return true;
 }
 
-bool TypeTranslation::portRemoved(const Orvel::String&, const Orvel::String&) const {
-  return true;
-}
+bool TypeTranslation::portRemoved(const Orvel::String&, const Orvel::String&) const { return true; }
 
 bool TypeTranslation::portRenamed(const Orvel::String&, const Orvel::String&,
                                   const Orvel::String&) const {

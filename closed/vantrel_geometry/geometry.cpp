@@ -15,10 +15,10 @@ constexpr Orvel::StringView countKey{"count", 5};
 
 void setGeoProperty(Object& owner, Orvel::StringView name, Orvel::Ptr<Object> prototype,
                     Orvel::StringView contentKey, vtlcmd::Any content) {
-  const Orvel::MutablePtr<Object> property = createObject();
+  Orvel::MutablePtr<Object> property = createObject();
   setProperty(*property, prototypeKey, vtlcmd::makeAny(std::move(prototype)));
   setProperty(*property, contentKey, std::move(content));
-  setProperty(owner, name, vtlcmd::makeAny(Orvel::Ptr<Object>(Orvel::MutablePtr(property))));
+  setProperty(owner, name, vtlcmd::makeAny(Orvel::Ptr<Object>(std::move(property))));
 }
 
 /// The property of that name if it is of the prototype, else null.

@@ -16,6 +16,14 @@ struct Property {
   vtlcmd::Any value;
 };
 
+template <typename Properties>
+auto find(Properties& properties, Orvel::StringView key) {
+  return std::find_if(properties.begin(), properties.end(), [&](const Property& property) {
+    const Orvel::StringView own = property.key;
+    return std::string_view(own.data, own.size) == std::string_view(key.data, key.size);
+  });
+}
+
 /// The one class of objects: an ordered list, since objects have few properties.
 class PropertyList final : public Object {
  public:
@@ -37,15 +45,6 @@ class PropertyList final : public Object {
   }
 
   std::vector<Property> properties;
-
- private:
-  template <typename Properties>
-  static auto find(Properties& properties, Orvel::StringView key) {
-    return std::find_if(properties.begin(), properties.end(), [&](const Property& property) {
-      const Orvel::StringView own = property.key;
-      return std::string_view(own.data, own.size) == std::string_view(key.data, key.size);
-    });
-  }
 };
 
 template <typename AnyObject>

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "host/imports/orvel_type_info.h"
+#include "orvel_sdk/type_rep.h"
+
+namespace Orvel::Internal {
+
+/// The tag of any type whatever: that of the type table where it has one, else one in its manner.
+/// Equal types have one tag, which lives until the process ends. Callable from any thread.
+const TypeInfo& tagOf(const TypeRep& type);
+
+}  // namespace Orvel::Internal

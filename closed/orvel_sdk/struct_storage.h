@@ -1,0 +1,23 @@
+#pragma once
+
+#include <cstddef>
+#include <span>
+
+#include "orvel_sdk/type_rep.h"
+
+namespace Orvel::Internal {
+
+/// Memory member by member, for struct types that have no C++ type.
+extern const StorageOperations structOperations;
+
+/// Sets sizes, offsets and alignment of a struct from its members, as C++ would lay them out.
+void layOutMembers(TypeRep& type);
+
+/// Makes the members in raw memory as copies, one source each.
+void copyMembers(const TypeRep& type, void* raw, std::span<const void* const> sources);
+
+inline const TypeRep& memberType(const TypeRep& type, std::size_t index) noexcept {
+  return *type.members[index].declaredType().rep();
+}
+
+}  // namespace Orvel::Internal

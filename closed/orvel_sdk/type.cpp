@@ -1,0 +1,59 @@
+#include <stdexcept>
+#include <utility>
+
+#include "host/imports/orvel_types.h"
+#include "orvel_sdk/type_rep.h"
+
+namespace Orvel {
+
+using Internal::nameOf;
+using Internal::quoted;
+
+NamedEntity::NamedEntity(Internal::TypeHandle rep) noexcept : rep_(std::move(rep)) {}
+NamedEntity::NamedEntity(const NamedEntity& other) = default;
+NamedEntity& NamedEntity::operator=(const NamedEntity& other) = default;
+NamedEntity::~NamedEntity() = default;
+
+String NamedEntity::getFullyQualifiedName() const {
+  const std::string name = nameOf(*rep_);
+  return String(StringView{name.data(), name.size()});
+}
+
+Type::Type(Internal::TypeHandle rep) noexcept : NamedEntity(std::move(rep)) {}
+Type::Type(const Type& other) = default;
+Type& Type::operator=(const Type& other) = default;
+Type::~Type() = default;
+
+TypeKind Type::getTypeKind() const noexcept { return rep()->kind; }
+
+ArrayType::ArrayType(const Type& type) : Type(type) {
+  if (getTypeKind() != TypeKind::array) {
+    throw std::invalid_argument("The type " + quoted(*rep()) + " is no array type.");
+  }
+}
+ArrayType::~ArrayType() = default;
+
+Type ArrayType::getElementType() const { return Type(elementOf(*rep())); }
+
+StructType::Member::Member(String name, Type type) : name_(std::move(name)), type_(type) {}
+StructType::Member::Member(const Member& other) = default;
+StructType::Member::~Member() = default;
+
+String StructType::Member::getName() const { return name_; }
+
+StructType::StructType(const Type& type) : Type(type) {
+  if (getTypeKind() != Internal::structKind) {
+    throw std::invalid_argument("The type " + quoted(*rep()) + " is no struct type.");
+  }
+}
+StructType::~StructType() = default;
+
+BidirectionalIterator<StructType::Member> StructType::begin() const {
+  return BidirectionalIterator<Member>(rep()->members.data());
+}
+
+BidirectionalIterator<StructType::Member> StructType::end() const {
+  return BidirectionalIterator<Member>(rep()->members.data() + rep()->members.size());
+}
+
+}  // namespace Orvel

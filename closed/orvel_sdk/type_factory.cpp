@@ -1,0 +1,70 @@
+#include "orvel_sdk/type_factory.h"
+
+#include <stdexcept>
+#include <string_view>
+
+#include "orvel_core/make_ptr.h"
+#include "orvel_sdk/stored_type_reps.h"
+#include "orvel_sdk/struct_storage.h"
+
+namespace Orvel {
+
+using Internal::TypeHandle;
+using Internal::TypeRep;
+using Internal::viewOf;
+
+Type typeNamed(StringView name) {
+  static constexpr std::string_view arrayStart = "array<";
+  std::string_view rest = viewOf(name);
+  std::uint32_t depth = 0;
+  while (rest.starts_with(arrayStart) && rest.ends_with('>')) {
+    rest.remove_prefix(arrayStart.size());
+    rest.remove_suffix(1);
+    ++depth;
+  }
+  for (const TypeHandle& stored : Internal::storedTypeReps()) {
+    if (viewOf(stored->name) == rest) return Internal::storedType({stored->storedIndex, depth});
+  }
+  throw std::invalid_argument("There is no type named " + Internal::quoted(viewOf(name)) + ".");
+}
+
+std::vector<String> knownTypeNames() {
+  std::vector<String> names;
+  for (const TypeHandle& stored : Internal::storedTypeReps()) names.push_back(stored->name);
+  return names;
+}
+
+Type makeArrayType(const Type& element) { return Type(Internal::arrayOf(element.rep())); }
+
+Type makeStructType(StringView name, std::span<const MemberSpec> members) {
+  MutablePtr<TypeRep> type =
+      makeMutable<TypeRep>(TypeRep{.name = String(name),
+                                   .kind = Internal::structKind,
+                                   .size = 0,
+                                   .alignment = 1,
+                                   .operations = &Internal::structOperations});
+  for (const MemberSpec& member : members) {
+    for (const StructType::Member& earlier : type->members) {
+      if (earlier.getName() == member.name) {
+        throw std::invalid_argument("The struct " + Internal::quoted(*type) +
+                                    " has two members named " +
+                                    Internal::quoted(viewOf(member.name)) + ".");
+      }
+    }
+    type->members.emplace_back(member.name, member.type);
+  }
+  Internal::layOutMembers(*type);
+  return Type(TypeHandle(Ptr<TypeRep>(std::move(type))));
+}
+
+bool equalTypes(const Type& a, const Type& b) noexcept {
+  return a.rep()->depth == b.rep()->depth &&
+         &Internal::innermostOf(*a.rep()) == &Internal::innermostOf(*b.rep());
+}
+
+Type Internal::storedType(StoredTypeId id) {
+  const TypeHandle& element = storedTypeReps()[id.index];
+  return Type(id.depth == 0 ? element : arrayOf(element, id.depth));
+}
+
+}  // namespace Orvel

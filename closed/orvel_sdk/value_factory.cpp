@@ -1,0 +1,74 @@
+#include "orvel_sdk/value_factory.h"
+
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "orvel_sdk/array_storage.h"
+#include "orvel_sdk/struct_storage.h"
+#include "orvel_sdk/value_rep.h"
+
+namespace Orvel {
+
+using Internal::quoted;
+using Internal::TypeRep;
+
+Value makeZero(const Type& type) {
+  const TypeRep& rep = *type.rep();
+  return Value(
+      Internal::makeValueRep(type.rep(), [&](void* raw) { rep.operations->zero(rep, raw); }));
+}
+
+Value makeStruct(const Type& type, std::span<const Value> members) {
+  const StructType structType(type);
+  const TypeRep& rep = *structType.rep();
+  if (members.size() != rep.members.size()) {
+    throw std::invalid_argument("The type " + quoted(rep) + " has " +
+                                std::to_string(rep.members.size()) + " members, not " +
+                                std::to_string(members.size()) + ".");
+  }
+  std::vector<const void*> sources;
+  for (const Value& member : members) {
+    const StructType::Member& declared = rep.members[sources.size()];
+    if (!equalTypes(member.getType(), declared.declaredType())) {
+      throw std::invalid_argument("The member " + quoted(Internal::viewOf(declared.getName())) +
+                                  " of the type " + quoted(rep) + " is of type " +
+                                  quoted(*declared.declaredType().rep()) + ", not " +
+                                  quoted(*member.rep()->type) + ".");
+    }
+    sources.push_back(valueAddress(member));
+  }
+  return Value(Internal::makeValueRep(
+      type.rep(), [&](void* raw) { Internal::copyMembers(rep, raw, sources); }));
+}
+
+Value makeArray(const Type& elementType, std::span<const Value> elements) {
+  const auto array = makePtr<Internal::RunTimeArray>(elementType.rep(), elements.size());
+  for (const Value& element : elements) {
+    if (!equalTypes(element.getType(), elementType)) {
+      throw std::invalid_argument("Element " + std::to_string(array->size) + " is of type " +
+                                  quoted(*element.rep()->type) + ", not " +
+                                  quoted(*elementType.rep()) + ".");
+    }
+    array->append(valueAddress(element));
+  }
+  const Internal::ArrayPtr opaque(array);
+  return Internal::copyValue(makeArrayType(elementType), &opaque);
+}
+
+const void* valueAddress(const Value& value) noexcept { return value.rep()->storage; }
+
+Value Internal::copyValue(const Type& type, const void* source) {
+  return Value(copyToValueRep(type.rep(), source));
+}
+
+const void* Internal::checkedAddress(const Value& value, StoredTypeId id) {
+  const TypeRep& type = *value.rep()->type;
+  if (!isStored(type, id)) {
+    throw std::invalid_argument("A value of type " + quoted(type) + " was read as " +
+                                quoted(*storedType(id).rep()) + ".");
+  }
+  return value.rep()->storage;
+}
+
+}  // namespace Orvel
