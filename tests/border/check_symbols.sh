@@ -3,6 +3,7 @@
 # The plug-in exports one symbol, needs nothing but the standard library and the closed libraries,
 # and imports from those exactly what the file IMPORTS lists.
 set -euo pipefail
+export LC_ALL=C
 plug_in=$1 imports=$2
 shift 2
 
