@@ -30,6 +30,8 @@ bool hasErrorStream() {
 bool dumpVersionInfo() {
   const bool dump = envFlag("QUILLON_DUMP_VERSION_INFO") && hasErrorStream();
   if (dump) {
+    // While the library is loaded, nobody else may have set the standard streams up yet.
+    const std::ios_base::Init streams;
     std::ostringstream line;
     line << std::setw(16) << "VtlCmdTranslation"
          << ": " << buildBanner();

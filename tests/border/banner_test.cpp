@@ -1,6 +1,5 @@
 #include <array>
 #include <cstdlib>
-#include <dlfcn.h>
 #include <gtest/gtest.h>
 #include <regex>
 #include <string>
@@ -9,8 +8,8 @@
 
 namespace {
 
-/// What a process that loads the plug-in and ends writes to its error stream. A null value leaves
-/// the variable unset.
+/// What a fresh process that loads the plug-in and ends writes to its error stream. A null value
+/// leaves the variable unset.
 std::string errorTextOfLoading(const char* value) {
   std::array<int, 2> pipeEnds{};
   EXPECT_EQ(pipe(pipeEnds.data()), 0);
@@ -19,9 +18,8 @@ std::string errorTextOfLoading(const char* value) {
     dup2(pipeEnds[1], STDERR_FILENO);
     unsetenv("QUILLON_DUMP_VERSION_INFO");
     if (value != nullptr) setenv("QUILLON_DUMP_VERSION_INFO", value, 1);
-    void* library = dlopen(VTLCMD_PLUG_IN, RTLD_NOW);
-    if (library != nullptr) dlclose(library);
-    _exit(library == nullptr ? 1 : 0);
+    execl(VTLCMD_LOADER, VTLCMD_LOADER, VTLCMD_PLUG_IN, nullptr);
+    _exit(127);
   }
   close(pipeEnds[1]);
   std::string text;
