@@ -108,10 +108,12 @@ TEST_F(PlugIn, EachSlotLeadsToItsOperation) {
 }
 
 TEST_F(PlugIn, SixSlotsAreItsOwnAndSixTheExecutors) {
-  for (const std::size_t own : {0, 1, 3, 4, 5, 11}) {
+  constexpr std::size_t ownSlots[] = {0, 1, 3, 4, 5, 11};
+  constexpr std::size_t inheritedSlots[] = {2, 6, 7, 8, 9, 10};
+  for (const std::size_t own : ownSlots) {
     EXPECT_EQ(fileOfSlot(own).find("libVtlCmdTranslation"), 0U) << own;
   }
-  for (const std::size_t inherited : {2, 6, 7, 8, 9, 10}) {
+  for (const std::size_t inherited : inheritedSlots) {
     EXPECT_EQ(fileOfSlot(inherited).find("libVantrelBoardExecutor"), 0U) << inherited;
   }
 }

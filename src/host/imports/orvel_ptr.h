@@ -20,11 +20,14 @@ class ControlBlock {
   /// Slot 1: ends the object and the block. Called once, by whoever released the last use.
   virtual void endObject() noexcept = 0;
 
-  void addUse() noexcept { useCount.fetch_add(1, std::memory_order_relaxed); }
-
-  // A host's block may come from a compiler whose table carries no type information to check.
-  __attribute__((no_sanitize("vptr"))) void release() noexcept {
-    if (useCount.fetch_sub(1, std::memory_order_acq_rel) == 1) endObject();
+  // Both are static, and not checked for the block's dynamic type: a host's block may come from a
+  // compiler whose tables carry no type information.
+  __attribute__((no_sanitize("vptr"))) static void addUse(ControlBlock* block) noexcept {
+    if (block != nullptr) block->useCount.fetch_add(1, std::memory_order_relaxed);
+  }
+  __attribute__((no_sanitize("vptr"))) static void release(ControlBlock* block) noexcept {
+    if (block == nullptr) return;
+    if (block->useCount.fetch_sub(1, std::memory_order_acq_rel) == 1) block->endObject();
   }
 
   std::atomic<std::uint64_t> useCount{1};
@@ -50,14 +53,12 @@ struct SharedFields {
   SharedFields(T* object, ControlBlock* block) noexcept : pointer(object), control(block) {}
   SharedFields(const SharedFields& other) noexcept
       : pointer(other.pointer), control(other.control) {
-    if (control != nullptr) control->addUse();
+    ControlBlock::addUse(control);
   }
   SharedFields(SharedFields&& other) noexcept
       : pointer(std::exchange(other.pointer, nullptr)),
         control(std::exchange(other.control, nullptr)) {}
-  ~SharedFields() {
-    if (control != nullptr) control->release();
-  }
+  ~SharedFields() { ControlBlock::release(control); }
   SharedFields& operator=(SharedFields other) noexcept {
     std::swap(pointer, other.pointer);
     std::swap(control, other.control);
