@@ -1,0 +1,33 @@
+// Compares everything that reads a port's text with the model, for each type and text.
+
+#include <CLI/CLI.hpp>
+#include <cstdint>
+#include <iostream>
+#include <string>
+
+#include "input_comparison.h"
+#include "text_generator.h"
+
+int main(int argumentCount, char** arguments) {
+  using namespace vtlcmd::oracle;
+
+  std::uint64_t count = 50'000;
+  std::uint64_t seed = 1;
+  bool hard = false;
+  CLI::App app("Compares the parsers with an independent model over seeded texts.");
+  app.add_option("--count", count, "Number of texts")->capture_default_str();
+  app.add_option("--seed", seed, "Seed of the texts")->capture_default_str();
+  app.add_flag("--hard", hard, "Only numbers at limits and half-way between two neighbours");
+  CLI11_PARSE(app, argumentCount, arguments);
+
+  TextGenerator generator(seed, hard ? TextFamily::hardNumbers : TextFamily::mixed);
+  for (std::uint64_t index = 0; index < count; ++index) {
+    const std::string difference = firstDifference(generator.next());
+    if (difference.empty()) continue;
+    std::cerr << "text " << index << " of seed " << seed << (hard ? ", hard" : "") << ": "
+              << difference;
+    return 1;
+  }
+  std::cout << count << " texts, all types: no difference\n";
+  return 0;
+}
