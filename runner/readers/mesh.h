@@ -1,0 +1,16 @@
+#pragma once
+
+#include <filesystem>
+
+#include "host/value_types.h"
+
+namespace vtlcmd {
+
+/// Reads a mesh file, OBJ, PLY, STL or glTF among others, as an object with the component
+/// properties `points`, `faces` and `corners`. Its data properties are `position`, one a point;
+/// `face_size`, one a face; `corner_point`, the point of each corner; and as far as the file has
+/// them `normal`, `uv` and `color`, one a corner. Corners at equal positions share a point. In a
+/// file without faces every vertex is a point, and the data is by point. Throws ReadError.
+ObjectPtr readMesh(const std::filesystem::path& file);
+
+}  // namespace vtlcmd

@@ -1,0 +1,131 @@
+#include "readers/npy_header.h"
+
+#include <algorithm>
+#include <charconv>
+#include <optional>
+#include <string_view>
+
+#include "readers/read_error.h"
+#include "text/library_text.h"
+
+namespace vtlcmd {
+namespace {
+
+constexpr std::string_view magic = "\x93NUMPY";
+
+/// Reads the header's text, a Python dictionary with three keys.
+class DictionaryParser {
+ public:
+  explicit DictionaryParser(std::string_view text) : rest_(text) {}
+
+  NpyHeader parse() {
+    std::optional<std::string> descriptor;
+    std::optional<bool> fortranOrder;
+    std::optional<std::vector<std::uint64_t>> shape;
+    expect('{');
+    while (!take('}')) {
+      const std::string key = text();
+      expect(':');
+      if (key == "descr") {
+        descriptor = text();
+      } else if (key == "fortran_order") {
+        fortranOrder = flag();
+      } else if (key == "shape") {
+        shape = tuple();
+      } else {
+        fail("the key " + inQuotes(key) + " has no meaning");
+      }
+      if (!take(',')) {
+        expect('}');
+        break;
+      }
+    }
+    if (!descriptor || !fortranOrder || !shape) fail("a key is missing");
+    return {*std::move(descriptor), *fortranOrder, *std::move(shape), 0};
+  }
+
+ private:
+  [[noreturn]] static void fail(const std::string& reason) {
+    throw ReadError("the header can't be understood: " + reason);
+  }
+
+  void skipBlanks() {
+    rest_.remove_prefix(std::min(rest_.find_first_not_of(" \t\n"), rest_.size()));
+  }
+
+  bool take(char wanted) {
+    skipBlanks();
+    if (!rest_.starts_with(wanted)) return false;
+    rest_.remove_prefix(1);
+    return true;
+  }
+
+  void expect(char wanted) {
+    if (!take(wanted)) fail(std::string("expected '") + wanted + "'");
+  }
+
+  std::string text() {
+    skipBlanks();
+    const char quote = rest_.empty() ? '\0' : rest_.front();
+    if (quote != '\'' && quote != '"') fail("expected a text; arrays of records aren't supported");
+    const std::size_t end = rest_.find(quote, 1);
+    if (end == std::string_view::npos) fail("a text has no end");
+    const std::string result(rest_.substr(1, end - 1));
+    rest_.remove_prefix(end + 1);
+    return result;
+  }
+
+  bool flag() {
+    skipBlanks();
+    for (const std::string_view word : {"True", "False"}) {
+      if (!rest_.starts_with(word)) continue;
+      rest_.remove_prefix(word.size());
+      return word == "True";
+    }
+    fail("expected True or False");
+  }
+
+  std::vector<std::uint64_t> tuple() {
+    std::vector<std::uint64_t> numbers;
+    expect('(');
+    while (!take(')')) {
+      skipBlanks();
+      std::uint64_t number = 0;
+      const auto [end, error] = std::from_chars(rest_.data(), rest_.data() + rest_.size(), number);
+      if (error != std::errc()) fail("expected a number of elements");
+      rest_.remove_prefix(static_cast<std::size_t>(end - rest_.data()));
+      numbers.push_back(number);
+      if (!take(',')) {
+        expect(')');
+        break;
+      }
+    }
+    return numbers;
+  }
+
+  std::string_view rest_;
+};
+
+}  // namespace
+
+NpyHeader parseNpyHeader(std::span<const unsigned char> file) {
+  const std::string_view text(reinterpret_cast<const char*>(file.data()), file.size());
+  if (!text.starts_with(magic)) throw ReadError("this is no NumPy array file");
+  const std::size_t versionAt = magic.size();
+  const std::size_t lengthAt = versionAt + 2;
+  if (file.size() < lengthAt) throw ReadError("the file is cut short in its header");
+  const unsigned char version = file[versionAt];
+  if (version < 1 || version > 3)
+    throw ReadError("the format version " + std::to_string(version) + " isn't supported");
+  const std::size_t lengthSize = version == 1 ? 2 : 4;
+  const std::size_t start = lengthAt + lengthSize;
+  if (file.size() < start) throw ReadError("the file is cut short in its header");
+  std::size_t length = 0;
+  for (std::size_t i = 0; i < lengthSize; ++i) length |= std::size_t{file[lengthAt + i]} << (8 * i);
+  if (length > file.size() - start) throw ReadError("the file is cut short in its header");
+  NpyHeader header = DictionaryParser(text.substr(start, length)).parse();
+  header.dataOffset = start + length;
+  return header;
+}
+
+}  // namespace vtlcmd
