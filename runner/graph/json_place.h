@@ -1,0 +1,56 @@
+#pragma once
+
+#include <initializer_list>
+#include <nlohmann/json.hpp>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace vtlcmd {
+
+/// Parses a whole JSON document. Throws GraphError with line and column; a key given twice in one
+/// object is an error.
+nlohmann::json parseJson(std::string_view text);
+
+/// A JSON value together with where it stands, read with the types that the graph file wants. All
+/// readers throw GraphError at the place.
+class JsonPlace {
+ public:
+  /// The root. The document must outlive every place in it.
+  explicit JsonPlace(const nlohmann::json& document) : JsonPlace(document, "$") {}
+
+  const nlohmann::json& value() const noexcept { return *value_; }
+  const std::string& place() const noexcept { return place_; }
+
+  /// Refuses a value that is no object, and any member whose name isn't listed.
+  void allowMembers(std::initializer_list<std::string_view> names) const;
+
+  std::optional<JsonPlace> member(std::string_view name) const;
+  JsonPlace requiredMember(std::string_view name) const;
+
+  /// The elements of the array that stands under `name`; none when there is no such member.
+  std::vector<JsonPlace> listMember(std::string_view name) const;
+
+  std::vector<JsonPlace> elements() const;
+  /// Key and value of each member, in byte order of the keys.
+  std::vector<std::pair<std::string, JsonPlace>> members() const;
+
+  const std::string& text() const;
+  /// A text that can name something: not empty and without control characters.
+  const std::string& name() const;
+
+  [[noreturn]] void fail(const std::string& text) const;
+
+ private:
+  JsonPlace(const nlohmann::json& value, std::string place)
+      : value_(&value), place_(std::move(place)) {}
+
+  const nlohmann::json* value_;
+  std::string place_;
+};
+
+/// A short excerpt of a JSON value for a message.
+std::string excerptOf(const nlohmann::json& value);
+
+}  // namespace vtlcmd

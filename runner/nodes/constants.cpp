@@ -1,0 +1,19 @@
+#include "nodes/families.h"
+
+namespace vtlcmd::node_families {
+namespace {
+
+const NodeOperation table[] = {
+    {"constant",
+     {},
+     NodeSetting::typeAndValue,
+     [](const NodeTypes& types) { return *types.declared; },
+     [](const NodeCall& call) { return *call.literal; },
+     "The value that stands in the graph file."},
+};
+
+}  // namespace
+
+std::span<const NodeOperation> constants() { return table; }
+
+}  // namespace vtlcmd::node_families

@@ -1,0 +1,92 @@
+#include "nodes/families.h"
+#include "nodes/number_conversion.h"
+#include "nodes/operand.h"
+
+namespace vtlcmd::node_families {
+namespace {
+
+/// Single values convert to single values, vectors to vectors of as many components.
+template <typename To, typename From>
+constexpr bool converts() {
+  if constexpr (Composite<To> && Composite<From>) {
+    return To::componentCount == From::componentCount;
+  } else {
+    return std::is_arithmetic_v<To> && std::is_arithmetic_v<From>;
+  }
+}
+
+template <typename To, typename From>
+Converted<To> convert(const From& value) {
+  if constexpr (Composite<To>) {
+    Converted<To> result;
+    for (std::size_t i = 0; i < result.number.components.size(); ++i) {
+      const auto component = convertNumber<typename To::ComponentType>(value.components[i]);
+      result.number.components[i] = component.number;
+      result.clamped |= component.clamped;
+    }
+    return result;
+  } else {
+    return convertNumber<To>(value);
+  }
+}
+
+template <typename To, typename From>
+Orvel::Value convertValue(const NodeCall& call) {
+  const Operand<From> source(call[0], call.types[0].depth > 0);
+  std::uint64_t clamped = 0;
+  Orvel::Value result = singleOrArray<To>(source.size(), [&](std::uint64_t i) {
+    const Converted<To> converted = convert<To>(source[i]);
+    clamped += converted.clamped ? 1 : 0;
+    return converted.number;
+  });
+  if (clamped > 0) {
+    call.warn(std::to_string(clamped) + " out of " + std::to_string(source.size().value_or(1)) +
+              " values don't fit into " + call.resultType.element +
+              " and became the nearest that does");
+  }
+  return result;
+}
+
+/// Calls `function.operator()<To, From>()` when the one converts to the other.
+template <typename Function>
+bool withConversion(const std::string& to, const std::string& from, Function&& function) {
+  bool found = false;
+  withTypeNamed(registeredTypes, to, [&]<typename To>() {
+    withTypeNamed(registeredTypes, from, [&]<typename From>() {
+      if constexpr (converts<To, From>()) {
+        function.template operator()<To, From>();
+        found = true;
+      }
+    });
+  });
+  return found;
+}
+
+ValueType convertedType(const NodeTypes& types) {
+  const ValueType& to = *types.declared;
+  const bool exists = withConversion(to.element, types[0].element, []<typename, typename>() {});
+  if (exists && to.depth == types[0].depth) return to;
+  throw std::invalid_argument(nameOf(types[0]) + " doesn't convert to " + nameOf(to));
+}
+
+Orvel::Value evaluateConversion(const NodeCall& call) {
+  std::optional<Orvel::Value> result;
+  withConversion(call.resultType.element, call.types[0].element,
+                 [&]<typename To, typename From>() { result = convertValue<To, From>(call); });
+  return *std::move(result);
+}
+
+const NodeOperation table[] = {
+    {"convert",
+     {{"value", &type_classes::convertible}},
+     NodeSetting::type,
+     convertedType,
+     evaluateConversion,
+     "The value as another type; what is out of range becomes the nearest value, with a warning."},
+};
+
+}  // namespace
+
+std::span<const NodeOperation> conversions() { return table; }
+
+}  // namespace vtlcmd::node_families

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <span>
+
+#include "nodes/node_operation.h"
+
+namespace vtlcmd::node_families {
+
+std::span<const NodeOperation> constants();
+std::span<const NodeOperation> arithmetic();
+std::span<const NodeOperation> conversions();
+std::span<const NodeOperation> arrays();
+std::span<const NodeOperation> vectors();
+std::span<const NodeOperation> texts();
+std::span<const NodeOperation> runFacts();
+std::span<const NodeOperation> objects();
+std::span<const NodeOperation> files();
+
+}  // namespace vtlcmd::node_families

@@ -1,0 +1,47 @@
+#include "nodes/families.h"
+#include "nodes/operand.h"
+#include "readers/mesh.h"
+#include "readers/npy.h"
+#include "text/library_text.h"
+
+namespace vtlcmd::node_families {
+namespace {
+
+/// A relative path is looked up in the working directory, then beside the graph file.
+std::filesystem::path fileArgument(const NodeCall& call) {
+  const std::filesystem::path file(standardText(call[0].getString()));
+  std::error_code error;
+  if (file.is_relative() && !std::filesystem::exists(file, error)) {
+    const std::filesystem::path beside = call.graphFolder / file;
+    if (std::filesystem::exists(beside, error)) return beside;
+  }
+  return file;
+}
+
+Orvel::Value readArray(const NodeCall& call) {
+  const std::filesystem::path file = fileArgument(call);
+  Orvel::Value value = readNpy(file);
+  const std::string type = value.getType().getFullyQualifiedName().c_str();
+  if (type != nameOf(call.resultType))
+    throw NodeError(file.string() + " holds " + type + ", not " + nameOf(call.resultType));
+  return value;
+}
+
+const std::vector<Parameter> path{{"path", &type_classes::text}};
+
+const NodeOperation table[] = {
+    {"read_npy", path, NodeSetting::type, [](const NodeTypes& types) { return *types.declared; },
+     readArray, "The array in a NumPy file, which must be of the given type."},
+    {"read_mesh", path, NodeSetting::none,
+     [](const NodeTypes&) {
+       return ValueType{valueType<ObjectPtr>().name, 0};
+     },
+     [](const NodeCall& call) { return Orvel::makeValue(readMesh(fileArgument(call))); },
+     "The mesh in an OBJ, PLY, STL or glTF file, as points, faces and corners."},
+};
+
+}  // namespace
+
+std::span<const NodeOperation> files() { return table; }
+
+}  // namespace vtlcmd::node_families

@@ -1,0 +1,33 @@
+#include "nodes/node_table.h"
+
+#include <array>
+
+#include "nodes/families.h"
+
+namespace vtlcmd {
+
+std::span<const std::span<const NodeOperation>> nodeFamilies() {
+  using namespace node_families;
+  static const std::array families{constants(), arithmetic(), conversions(), arrays(), vectors(),
+                                   texts(),     runFacts(),   objects(),     files()};
+  return families;
+}
+
+const NodeOperation* findOperation(std::string_view name) {
+  for (const std::span<const NodeOperation> family : nodeFamilies()) {
+    for (const NodeOperation& operation : family) {
+      if (operation.name == name) return &operation;
+    }
+  }
+  return nullptr;
+}
+
+std::vector<std::string> operationNames() {
+  std::vector<std::string> names;
+  for (const std::span<const NodeOperation> family : nodeFamilies()) {
+    for (const NodeOperation& operation : family) names.emplace_back(operation.name);
+  }
+  return names;
+}
+
+}  // namespace vtlcmd

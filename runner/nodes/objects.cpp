@@ -1,0 +1,92 @@
+#include <limits>
+
+#include "host/imports/vantrel_geometry.h"
+#include "nodes/families.h"
+#include "nodes/integer_argument.h"
+#include "nodes/operand.h"
+#include "orvel_sdk/any_bridge.h"
+#include "text/library_text.h"
+#include "vantrel_geometry/geometry_builder.h"
+#include "vantrel_object/object_builder.h"
+
+namespace vtlcmd::node_families {
+namespace {
+
+using Vantrel::Object;
+
+ValueType objectType(const NodeTypes&) { return {valueType<ObjectPtr>().name, 0}; }
+
+Orvel::Value objectValue(Orvel::MutablePtr<Object> object) {
+  return Orvel::makeValue<ObjectPtr>(std::move(object));
+}
+
+const Object& objectArgument(const NodeCall& call) {
+  const ObjectPtr& object = Orvel::valueAs<ObjectPtr>(call[0]);
+  if (!object) throw NodeError("there is no object");
+  return *object;
+}
+
+Orvel::Value setComponent(const NodeCall& call) {
+  const Orvel::MutablePtr<Object> object = Vantrel::copyObject(objectArgument(call));
+  const std::uint64_t count = countArgument(call, 2, "the count");
+  if (!std::in_range<std::uint32_t>(count))
+    throw NodeError("the count " + std::to_string(count) + " is above 4294967295");
+  Vantrel::Geometry::setComponentProperty(*object, call[1].getString(),
+                                          static_cast<std::uint32_t>(count));
+  return objectValue(object);
+}
+
+Orvel::Value setData(const NodeCall& call) {
+  const Orvel::MutablePtr<Object> object = Vantrel::copyObject(objectArgument(call));
+  Vantrel::Geometry::setDataProperty(*object, call[1].getString(), Orvel::toAny(call[2]));
+  return objectValue(object);
+}
+
+Orvel::Value getData(const NodeCall& call) {
+  const Orvel::String name = call[1].getString();
+  const Orvel::Ptr<Object> property =
+      Vantrel::Geometry::getDataGeoProperty(objectArgument(call), name);
+  if (!property) throw NodeError("the object has no data property " + inQuotes(name.c_str()));
+  const Any data = property->propertyByKey(Vantrel::Geometry::sData);
+  try {
+    return Orvel::fromAny(libraryTypeOf(call.resultType), data);
+  } catch (const std::invalid_argument&) {
+    throw NodeError("the data property " + inQuotes(name.c_str()) + " holds no " +
+                    nameOf(call.resultType));
+  }
+}
+
+using namespace type_classes;
+
+const NodeOperation table[] = {
+    {"object",
+     {},
+     NodeSetting::none,
+     objectType,
+     [](const NodeCall&) { return objectValue(Vantrel::createObject()); },
+     "A new object without properties."},
+    {"set_component",
+     {{"object", &object}, {"name", &text}, {"count", &integer}},
+     NodeSetting::none,
+     objectType,
+     setComponent,
+     "The object with a component property of so many elements."},
+    {"set_data",
+     {{"object", &object}, {"name", &text}, {"array", &anyArray}},
+     NodeSetting::none,
+     objectType,
+     setData,
+     "The object with a data property that holds an array."},
+    {"get_data",
+     {{"object", &object}, {"name", &text}},
+     NodeSetting::type,
+     [](const NodeTypes& types) { return *types.declared; },
+     getData,
+     "The array of a data property, which must be of the given type."},
+};
+
+}  // namespace
+
+std::span<const NodeOperation> objects() { return table; }
+
+}  // namespace vtlcmd::node_families

@@ -1,0 +1,63 @@
+#include "nodes/type_classes.h"
+
+#include <concepts>
+
+#include "values/type_dispatch.h"
+
+namespace vtlcmd {
+namespace {
+
+using Vantrel::File::Project::SceneInfo;
+using Vantrel::Simulation::Time;
+
+template <typename Predicate>
+bool elementMatches(const ValueType& type, Predicate predicate) {
+  bool matches = false;
+  withTypeNamed(registeredTypes, type.element,
+                [&]<typename T>() { matches = predicate.template operator()<T>(); });
+  return matches;
+}
+
+constexpr auto isInteger = []<typename T>() { return Number<T> && std::integral<T>; };
+constexpr auto isScalar = []<typename T>() { return std::is_arithmetic_v<T>; };
+constexpr auto isFloating = []<typename T>() { return std::floating_point<T>; };
+constexpr auto isVector = []<typename T>() { return Composite<T>; };
+constexpr auto isArithmetic = []<typename T>() { return Number<T> || Composite<T>; };
+constexpr auto isConvertible = []<typename T>() { return std::is_arithmetic_v<T> || Composite<T>; };
+
+template <const auto& Predicate>
+bool isSingle(const ValueType& type) {
+  return type.depth == 0 && elementMatches(type, Predicate);
+}
+
+template <const auto& Predicate>
+bool isSingleOrArray(const ValueType& type) {
+  return type.depth <= 1 && elementMatches(type, Predicate);
+}
+
+template <typename T>
+bool isExactly(const ValueType& type) {
+  return type.depth == 0 && type.element == valueType<T>().name;
+}
+
+}  // namespace
+
+namespace type_classes {
+
+const TypeClass any{"any type", [](const ValueType&) { return true; }};
+const TypeClass anyArray{"an array", [](const ValueType& type) { return type.depth > 0; }};
+const TypeClass integer{"an integer", isSingle<isInteger>};
+const TypeClass scalar{"a number or a bool", isSingle<isScalar>};
+const TypeClass arithmetic{"a number, a vector or an array of them", isSingleOrArray<isArithmetic>};
+const TypeClass convertible{"a bool, a number, a vector or an array of them",
+                            isSingleOrArray<isConvertible>};
+const TypeClass floating{"a float, a double or an array of them", isSingleOrArray<isFloating>};
+const TypeClass vectors{"a vector or an array of vectors", isSingleOrArray<isVector>};
+const TypeClass text{"a string", isExactly<Orvel::String>};
+const TypeClass object{"an Object", isExactly<ObjectPtr>};
+const TypeClass time{"a Simulation::Time", isExactly<Time>};
+const TypeClass sceneInfo{"a File::Project::SceneInfo", isExactly<SceneInfo>};
+
+}  // namespace type_classes
+
+}  // namespace vtlcmd
