@@ -1,0 +1,32 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <vector>
+
+#include "graph/graph.h"
+#include "logging/vtlcmd_logger.h"
+
+namespace vtlcmd {
+
+/// Runs a graph. What nodes complain of goes to the logger as messages of the graph system, which
+/// it counts.
+class Executor {
+ public:
+  /// Graph and logger must outlive the executor.
+  Executor(const Graph& graph, std::filesystem::path graphFolder, VtlCmdLogger& logger);
+
+  /// The values by slot, from those of the ports. Nothing when a node failed: the run ends there.
+  std::optional<std::vector<Orvel::Value>> run(const std::vector<Orvel::Value>& portValues) const;
+
+ private:
+  using Slots = std::vector<std::optional<Orvel::Value>>;
+
+  Orvel::Value evaluate(const GraphNode& node, const Slots& slots) const;
+
+  const Graph& graph_;
+  std::filesystem::path graphFolder_;
+  VtlCmdLogger& logger_;
+};
+
+}  // namespace vtlcmd

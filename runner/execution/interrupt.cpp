@@ -1,0 +1,21 @@
+#include "execution/interrupt.h"
+
+#include <csignal>
+
+namespace vtlcmd {
+namespace {
+
+volatile std::sig_atomic_t requested = 0;
+
+extern "C" void onInterrupt(int signal) {
+  requested = 1;
+  std::signal(signal, SIG_DFL);
+}
+
+}  // namespace
+
+void rememberInterrupt() { std::signal(SIGINT, onInterrupt); }
+
+bool interruptRequested() noexcept { return requested != 0; }
+
+}  // namespace vtlcmd
