@@ -1,0 +1,102 @@
+#include "command_line/command_line.h"
+
+#include <CLI/App.hpp>
+#include <CLI/Config.hpp>
+#include <CLI/Formatter.hpp>
+#include <algorithm>
+#include <iostream>
+
+#include "build_facts.h"
+#include "command_line/commands.h"
+#include "command_line/usage_error.h"
+#include "execution/plug_in.h"
+#include "graph/graph_error.h"
+#include "text/library_text.h"
+#include "text/near_misses.h"
+
+namespace vtlcmd {
+namespace {
+
+std::string versionText() {
+  using namespace build_facts;
+  const std::string dot = ".";
+  return "vtlcmd " + std::string(majorVersion) + dot + minorVersion + dot + patchVersion + dot +
+         fourthVersion + " (" + buildDate + ", build " + buildNumber + ", commit " +
+         std::string(commit).substr(0, 7) + ", branch " + branch + ")";
+}
+
+void refuseUnknownCommand(const CLI::App& app, const std::vector<std::string>& arguments) {
+  if (arguments.empty() || arguments[0].starts_with('-')) return;
+  std::vector<std::string> known;
+  for (const CLI::App* command : app.get_subcommands({})) known.push_back(command->get_name());
+  if (std::find(known.begin(), known.end(), arguments[0]) != known.end()) return;
+  throw UsageError(inQuotes(arguments[0]) + " is no command" + nearMissHint(arguments[0], known));
+}
+
+/// Says what is wrong with the first word that a command didn't expect.
+std::string surplusText(const CLI::App& app) {
+  const std::vector<std::string> words = app.remaining(true);
+  const std::string word = words.empty() ? std::string() : words.front();
+  if (!word.starts_with('-')) return "the word " + inQuotes(word) + " isn't expected here";
+  const std::string option = word.substr(0, word.find('='));
+  std::vector<std::string> known;
+  const std::vector<CLI::App*> commands = app.get_subcommands();
+  const CLI::App& command = commands.empty() ? app : *commands.front();
+  for (const CLI::Option* candidate : command.get_options()) {
+    for (const std::string& name : candidate->get_lnames()) known.push_back("--" + name);
+  }
+  return "there is no option " + inQuotes(option) + nearMissHint(option, known);
+}
+
+ExitCode refuse(const CLI::App& app, const std::string& text) {
+  const std::vector<CLI::App*> commands = app.get_subcommands();
+  const std::string command = commands.empty() ? "" : " " + commands.front()->get_name();
+  std::cerr << "vtlcmd: " << text << "\nTry 'vtlcmd" << command << " --help'.\n";
+  return ExitCode::usage;
+}
+
+ExitCode failToLoad(const std::exception& error) {
+  std::cerr << "vtlcmd: " << error.what() << '\n';
+  return ExitCode::notLoaded;
+}
+
+void addCommands(CLI::App& app, CommandState& state) {
+  app.require_subcommand(1);
+  app.set_version_flag("--version", versionText());
+  addRunCommand(app, state);
+  addPortsCommand(app);
+  addTypesCommand(app);
+  addNodesCommand(app);
+  addShowCommand(app, state);
+}
+
+}  // namespace
+
+ExitCode runCommandLine(const std::vector<std::string>& arguments) {
+  CLI::App app("Runs compute graphs and reports their outputs", "vtlcmd");
+  CommandState state{arguments};
+  addCommands(app, state);
+  try {
+    refuseUnknownCommand(app, arguments);
+    // The parser takes its words from the back.
+    app.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
+  } catch (const CLI::ExtrasError&) {
+    return refuse(app, surplusText(app));
+  } catch (const CLI::ParseError& error) {
+    // Help and the version come this way too, with an exit code of zero.
+    if (error.get_exit_code() == 0) {
+      app.exit(error, std::cout, std::cerr);
+      return ExitCode::success;
+    }
+    return refuse(app, error.what());
+  } catch (const UsageError& error) {
+    return refuse(app, error.what());
+  } catch (const GraphError& error) {
+    return failToLoad(error);
+  } catch (const PlugInError& error) {
+    return failToLoad(error);
+  }
+  return state.exitCode;
+}
+
+}  // namespace vtlcmd

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "command_line/exit_code.h"
+
+namespace vtlcmd {
+
+/// Does what the words behind the program's name ask for and says on standard error what went
+/// wrong.
+ExitCode runCommandLine(const std::vector<std::string>& arguments);
+
+}  // namespace vtlcmd

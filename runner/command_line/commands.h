@@ -1,0 +1,24 @@
+#pragma once
+
+#include <CLI/App.hpp>
+#include <string>
+#include <vector>
+
+#include "command_line/exit_code.h"
+
+namespace vtlcmd {
+
+/// What the subcommands share: the words of the command line, and where each leaves its result.
+struct CommandState {
+  std::vector<std::string> arguments;
+  ExitCode exitCode = ExitCode::success;
+};
+
+// Each adds a subcommand whose callback does the work. App and state must outlive the parse.
+void addRunCommand(CLI::App& app, CommandState& state);
+void addPortsCommand(CLI::App& app);
+void addTypesCommand(CLI::App& app);
+void addNodesCommand(CLI::App& app);
+void addShowCommand(CLI::App& app, CommandState& state);
+
+}  // namespace vtlcmd

@@ -1,0 +1,61 @@
+#include "command_line/option_values.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <filesystem>
+#include <optional>
+#include <system_error>
+
+#include "command_line/usage_error.h"
+#include "logging/vtlcmd_logger.h"
+#include "text/library_text.h"
+#include "text/near_misses.h"
+
+namespace vtlcmd {
+namespace {
+
+/// The number that a whole text spells.
+template <typename T>
+std::optional<T> numberIn(const std::string& text) {
+  T number{};
+  const char* end = text.data() + text.size();
+  const auto [stop, error] = std::from_chars(text.data(), end, number);
+  if (error != std::errc() || stop != end) return std::nullopt;
+  return number;
+}
+
+}  // namespace
+
+double parseFramesPerSecond(const std::string& text) {
+  const std::optional<double> number = numberIn<double>(text);
+  if (!number || std::isnan(*number))
+    throw UsageError("--fps takes a number of frames a second, not " + inQuotes(text));
+  return *number;
+}
+
+std::uint32_t parseVerbosity(const std::string& text) {
+  const auto& names = VtlCmdLogger::levelNames;
+  const auto name = std::find(names.begin(), names.end(), text);
+  if (name != names.end()) return static_cast<std::uint32_t>(name - names.begin());
+  const std::optional<std::uint32_t> number = numberIn<std::uint32_t>(text);
+  if (number && *number < names.size()) return *number;
+  throw UsageError(inQuotes(text) + " is no level of messages: none, critical, error, warning, " +
+                   "progress, verbose and debug are, or 0 to 6" +
+                   nearMissHint(text, {names.begin(), names.end()}));
+}
+
+std::uint32_t parsePrintLimit(const std::string& text) {
+  if (const std::optional<std::uint32_t> number = numberIn<std::uint32_t>(text)) return *number;
+  throw UsageError("the print limit is a number from 0 to 4294967295, not " + inQuotes(text));
+}
+
+HostPath parsePath(const std::string& option, const std::string& text) {
+  try {
+    return std::filesystem::path(text).wstring();
+  } catch (const std::system_error&) {
+    throw UsageError(option + ": the path isn't valid text in the file system's code page");
+  }
+}
+
+}  // namespace vtlcmd

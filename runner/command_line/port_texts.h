@@ -1,0 +1,38 @@
+#pragma once
+
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "graph/graph.h"
+#include "host/port_value_map.h"
+
+namespace vtlcmd {
+
+/// The texts that a user gives for ports, sorted into the two maps of the plug-in.
+class PortTexts {
+ public:
+  explicit PortTexts(const Graph& graph) : graph_(graph) {}
+
+  /// From `PORT=TEXT`, for an input. A later text for a port replaces the earlier. Throws
+  /// UsageError for an unknown port.
+  void setInput(const std::string& assignment);
+  /// The same for a Job port.
+  void setJob(const std::string& assignment);
+  /// From `PORT=PATH`: the text is the content of a file without its last line end, of the
+  /// standard input for `-`. The port is of either kind.
+  void setFromFile(const std::string& assignment);
+
+  const PortValueMap& inputs() const noexcept { return inputs_; }
+  const PortValueMap& jobs() const noexcept { return jobs_; }
+
+ private:
+  const GraphPort& findPort(const std::string& name) const;
+  void set(const GraphPort& port, const std::string& text);
+
+  const Graph& graph_;
+  PortValueMap inputs_;
+  PortValueMap jobs_;
+};
+
+}  // namespace vtlcmd

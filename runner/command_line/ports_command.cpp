@@ -1,0 +1,83 @@
+#include <algorithm>
+#include <iostream>
+#include <memory>
+#include <nlohmann/json.hpp>
+
+#include "command_line/commands.h"
+#include "graph/graph.h"
+
+namespace vtlcmd {
+namespace {
+
+struct PortRow {
+  std::string kind;
+  std::string name;
+  std::string type;
+  std::string defaultText;
+  std::string description;
+};
+
+std::vector<PortRow> portRows(const Graph& graph) {
+  std::vector<PortRow> rows;
+  for (const GraphPort& port : graph.ports) {
+    rows.push_back({port.isJob ? "job" : "input", port.name, nameOf(port.type), port.defaultText,
+                    port.description});
+  }
+  for (const GraphOutput& output : graph.outputs) {
+    rows.push_back(
+        {"output", output.name, nameOf(graph.typeOfSlot(output.source)), "", output.description});
+  }
+  return rows;
+}
+
+std::string padded(const std::string& text, std::size_t width) {
+  return text + std::string(width - text.size() + 2, ' ');
+}
+
+void printTable(const std::vector<PortRow>& rows) {
+  std::size_t nameWidth = 0;
+  std::size_t typeWidth = 0;
+  for (const PortRow& row : rows) {
+    nameWidth = std::max(nameWidth, row.name.size());
+    typeWidth = std::max(typeWidth, row.type.size());
+  }
+  for (const PortRow& row : rows) {
+    std::string line =
+        padded(row.kind, 6) + padded(row.name, nameWidth) + padded(row.type, typeWidth);
+    if (!row.defaultText.empty()) line += "default " + row.defaultText + "  ";
+    line += row.description;
+    line.resize(line.find_last_not_of(' ') + 1);
+    std::cout << line << '\n';
+  }
+}
+
+void printJson(const Graph& graph) {
+  nlohmann::ordered_json ports = nlohmann::ordered_json::array();
+  for (const PortRow& row : portRows(graph)) {
+    nlohmann::ordered_json port{{"kind", row.kind}, {"name", row.name}, {"type", row.type}};
+    if (!row.defaultText.empty()) port["default"] = nlohmann::ordered_json::parse(row.defaultText);
+    if (!row.description.empty()) port["description"] = row.description;
+    ports.push_back(std::move(port));
+  }
+  const nlohmann::ordered_json document{{"graph", graph.name}, {"ports", std::move(ports)}};
+  std::cout << document.dump(2) << '\n';
+}
+
+}  // namespace
+
+void addPortsCommand(CLI::App& app) {
+  struct Options {
+    std::string graph;
+    bool json = false;
+  };
+  const auto options = std::make_shared<Options>();
+  CLI::App* command = app.add_subcommand("ports", "List the ports of a graph");
+  command->add_option("GRAPH", options->graph, "Graph file")->required()->type_name("");
+  command->add_flag("--json", options->json, "Print a JSON document");
+  command->callback([options] {
+    const Graph graph = loadGraph(options->graph);
+    options->json ? printJson(graph) : printTable(portRows(graph));
+  });
+}
+
+}  // namespace vtlcmd

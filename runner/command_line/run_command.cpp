@@ -1,0 +1,130 @@
+#include <iostream>
+#include <memory>
+#include <optional>
+
+#include "command_line/commands.h"
+#include "command_line/option_values.h"
+#include "command_line/port_texts.h"
+#include "command_line/report_options.h"
+#include "command_line/terminal.h"
+#include "execution/interrupt.h"
+#include "execution/progress.h"
+#include "execution/session.h"
+#include "graph/graph.h"
+
+namespace vtlcmd {
+namespace {
+
+struct RunOptions {
+  std::string graph;
+  std::vector<std::string> inputs;
+  std::vector<std::string> jobs;
+  std::vector<std::string> files;
+  std::string frames = "1";
+  std::string framesPerSecond = "24";
+  std::string scene;
+  std::string secondary;
+  bool strict = false;
+  /// Nothing: on a terminal.
+  std::optional<bool> progress;
+  ReportOptions report;
+};
+
+void addOptions(CLI::App& command, RunOptions& options) {
+  const auto addList = [&](const char* name, std::vector<std::string>& list, const char* help) {
+    return command.add_option(name, list, help)->allow_extra_args(false);
+  };
+  command.add_option("GRAPH", options.graph, "Graph file")->required()->type_name("");
+  addList("-s,--set", options.inputs, "Text for an input port, handed on as it stands")
+      ->type_name("PORT=TEXT");
+  addList("-j,--set-job", options.jobs, "Text for a Job port")->type_name("PORT=TEXT");
+  addList("--set-file", options.files,
+          "Text for a port from a file, without its last line end; '-' is the standard input")
+      ->type_name("PORT=PATH");
+  command
+      .add_option("-f,--frames", options.frames,
+                  "Frames to run: 1 or 1-10 or 1-10x2 or 1,5,9; fractions are fine")
+      ->type_name("FRAMES")
+      ->capture_default_str();
+  command
+      .add_option("--fps", options.framesPerSecond,
+                  "Frames a second; a frame's time is its number times the length of a frame")
+      ->type_name("NUMBER")
+      ->capture_default_str();
+  command.add_option("--scene", options.scene, "Scene file that the graph is told")
+      ->type_name("PATH");
+  command.add_option("--secondary", options.secondary, "Secondary path that the graph is told")
+      ->type_name("PATH");
+  command.add_flag("--strict", options.strict, "Fail on a warning too");
+  command.add_flag_function(
+      "--progress,!--no-progress", [&options](std::int64_t count) { options.progress = count > 0; },
+      "Tell on standard error how far the run is; without a choice, on a terminal");
+  options.report.addTo(command);
+}
+
+RunSettings settingsFrom(const RunOptions& options, const Graph& graph,
+                         std::vector<std::string> arguments) {
+  PortTexts texts(graph);
+  for (const std::string& assignment : options.files) texts.setFromFile(assignment);
+  for (const std::string& assignment : options.inputs) texts.setInput(assignment);
+  for (const std::string& assignment : options.jobs) texts.setJob(assignment);
+  RunSettings settings;
+  settings.graphFile = options.graph;
+  settings.arguments = std::move(arguments);
+  settings.inputValues = texts.inputs();
+  settings.jobValues = texts.jobs();
+  settings.frames = parseFrames(options.frames);
+  settings.framesPerSecond = parseFramesPerSecond(options.framesPerSecond);
+  settings.sceneFile = parsePath("--scene", options.scene);
+  settings.secondaryPath = parsePath("--secondary", options.secondary);
+  settings.verbosity = options.report.verbosity();
+  settings.outputForm = options.report.outputForm();
+  settings.strict = options.strict;
+  return settings;
+}
+
+ExitCode exitCodeOf(RunOutcome outcome) {
+  switch (outcome) {
+    case RunOutcome::succeeded:
+      return ExitCode::success;
+    case RunOutcome::failed:
+      return ExitCode::runFailed;
+    case RunOutcome::interrupted:
+      break;
+  }
+  return ExitCode::interrupted;
+}
+
+ExitCode run(const RunOptions& options, const std::vector<std::string>& arguments) {
+  const Graph graph = loadGraph(options.graph);
+  VtlCmdLogger logger(options.report.printLimit());
+  const RunSettings settings = settingsFrom(options, graph, arguments);
+  const PlugIn plugIn(options.report.plugInFile());
+  rememberInterrupt();
+
+  MessagePrinter printer(logger, static_cast<std::int16_t>(settings.verbosity),
+                         options.report.streams());
+  Progress progress(std::cerr, options.progress.value_or(errorsGoToTerminal()));
+  Session session(graph, plugIn.translation(), settings, logger);
+  const RunOutcome outcome = session.run(
+      [&](std::size_t frame) {
+        progress.show("frame " + std::to_string(frame + 1) + " of " +
+                      std::to_string(settings.frames.size()));
+      },
+      [&] {
+        progress.clear();
+        printer.printNew();
+      });
+  return exitCodeOf(outcome);
+}
+
+}  // namespace
+
+void addRunCommand(CLI::App& app, CommandState& state) {
+  const auto options = std::make_shared<RunOptions>();
+  CLI::App* command = app.add_subcommand("run", "Run a graph and report its outputs");
+  addOptions(*command, *options);
+  command->callback([options, &state] { state.exitCode = run(*options, state.arguments); });
+}
+
+}  // namespace vtlcmd

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <stdexcept>
+
+namespace vtlcmd {
+
+/// A command line that asks for something that can't be, in words for the user.
+class UsageError : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+}  // namespace vtlcmd
