@@ -25,8 +25,9 @@ std::string versionText() {
          std::string(commit).substr(0, 7) + ", branch " + branch + ")";
 }
 
-void refuseUnknownCommand(const CLI::App& app, const std::vector<std::string>& arguments) {
-  if (arguments.empty() || arguments[0].starts_with('-')) return;
+void refuseMissingOrUnknownCommand(const CLI::App& app, const std::vector<std::string>& arguments) {
+  if (arguments.empty()) throw UsageError("a command is missing");
+  if (arguments[0].starts_with('-')) return;
   std::vector<std::string> known;
   for (const CLI::App* command : app.get_subcommands({})) known.push_back(command->get_name());
   if (std::find(known.begin(), known.end(), arguments[0]) != known.end()) return;
@@ -73,15 +74,17 @@ void addCommands(CLI::App& app, CommandState& state) {
 }  // namespace
 
 ExitCode runCommandLine(const std::vector<std::string>& arguments) {
-  CLI::App app("Runs compute graphs and reports their outputs", "vtlcmd");
+  CLI::App app("Runs compute graphs and reports their outputs.", "vtlcmd");
   CommandState state{arguments};
   addCommands(app, state);
   try {
-    refuseUnknownCommand(app, arguments);
+    refuseMissingOrUnknownCommand(app, arguments);
     // The parser takes its words from the back.
     app.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
   } catch (const CLI::ExtrasError&) {
     return refuse(app, surplusText(app));
+  } catch (const CLI::RequiredError& error) {
+    return refuse(app, app.remaining(true).empty() ? error.what() : surplusText(app));
   } catch (const CLI::ParseError& error) {
     // Help and the version come this way too, with an exit code of zero.
     if (error.get_exit_code() == 0) {

@@ -56,9 +56,13 @@ void addOptions(CLI::App& command, RunOptions& options) {
   command.add_option("--secondary", options.secondary, "Secondary path that the graph is told")
       ->type_name("PATH");
   command.add_flag("--strict", options.strict, "Fail on a warning too");
-  command.add_flag_function(
-      "--progress,!--no-progress", [&options](std::int64_t count) { options.progress = count > 0; },
-      "Tell on standard error how far the run is; without a choice, on a terminal");
+  CLI::Option* progress = command.add_flag_callback(
+      "--progress", [&options] { options.progress = true; },
+      "Tell on standard error how far the run is, as is done on a terminal");
+  command
+      .add_flag_callback(
+          "--no-progress", [&options] { options.progress = false; }, "Don't")
+      ->excludes(progress);
   options.report.addTo(command);
 }
 
