@@ -1,5 +1,6 @@
 #pragma once
 
+#include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <memory>
@@ -168,7 +169,7 @@ T* valueOf(Any& any) noexcept {
   if constexpr (storedInPlace<T>) {
     return std::launder(reinterpret_cast<T*>(&any.storage));
   } else {
-    return reinterpret_cast<T*>(any.storage[0]);
+    return std::bit_cast<T*>(any.storage[0]);
   }
 }
 

@@ -34,7 +34,7 @@ std::string objectReport(const Orvel::Ptr<const Vantrel::Object>& object) {
 }
 
 std::string objectReportFromAny(const Any& value) {
-  const ObjectPtr* object = anyCast<ObjectPtr>(&value);
+  const auto* object = anyCast<ObjectPtr>(&value);
   return objectReport(object == nullptr ? ObjectPtr{} : *object);
 }
 
