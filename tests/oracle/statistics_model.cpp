@@ -32,8 +32,9 @@ std::string body(const Lines& lines) {
 const std::string emptyBody = "empty array...  }";
 
 template <typename T>
-std::string numberText(T value) {
+std::string numberText(T value, int precision = reportPrecision) {
   std::ostringstream stream;
+  stream.precision(precision);
   stream << value;
   return stream.str();
 }
@@ -87,7 +88,8 @@ std::string integerStatistics(std::span<const T> elements) {
 
 /// Every `stride`-th value from the first one on.
 template <typename Format>
-Lines floatingLines(std::span<const typename Format::Value> values, std::size_t stride) {
+Lines floatingLines(std::span<const typename Format::Value> values, std::size_t stride,
+                    int precision) {
   using Bits = typename Format::Bits;
   const auto bitsOf = [](typename Format::Value value) { return std::bit_cast<Bits>(value); };
   Bits minimum = bitsOf(values[0]);
@@ -101,8 +103,8 @@ Lines floatingLines(std::span<const typename Format::Value> values, std::size_t 
     sum = add<Format>(sum, value);
   }
   const Bits average = divide<Format>(sum, fromInteger<Format>(static_cast<Int128>(count)));
-  const auto text = [](Bits bits) {
-    return numberText(std::bit_cast<typename Format::Value>(bits));
+  const auto text = [precision](Bits bits) {
+    return numberText(std::bit_cast<typename Format::Value>(bits), precision);
   };
   return {text(minimum), text(maximum), text(average)};
 }
@@ -110,33 +112,34 @@ Lines floatingLines(std::span<const typename Format::Value> values, std::size_t 
 }  // namespace
 
 template <typename T>
-std::string statisticsModel(std::span<const T> elements) {
+std::string statisticsModel(std::span<const T> elements, [[maybe_unused]] int precision) {
   if constexpr (std::integral<T>) {
     return integerStatistics<T>(elements);
   } else {
     constexpr bool isFloat = std::same_as<T, float>;
     const std::string first = head(elements.size(), isFloat ? "float" : "double");
     if (elements.empty()) return first + emptyBody;
-    return first +
-           body(floatingLines<std::conditional_t<isFloat, Binary32, Binary64>>(elements, 1));
+    return first + body(floatingLines<std::conditional_t<isFloat, Binary32, Binary64>>(elements, 1,
+                                                                                       precision));
   }
 }
 
-template std::string statisticsModel(std::span<const std::int32_t>);
-template std::string statisticsModel(std::span<const std::uint32_t>);
-template std::string statisticsModel(std::span<const std::int64_t>);
-template std::string statisticsModel(std::span<const std::uint64_t>);
-template std::string statisticsModel(std::span<const std::int16_t>);
-template std::string statisticsModel(std::span<const std::uint16_t>);
-template std::string statisticsModel(std::span<const float>);
-template std::string statisticsModel(std::span<const double>);
+template std::string statisticsModel(std::span<const std::int32_t>, int);
+template std::string statisticsModel(std::span<const std::uint32_t>, int);
+template std::string statisticsModel(std::span<const std::int64_t>, int);
+template std::string statisticsModel(std::span<const std::uint64_t>, int);
+template std::string statisticsModel(std::span<const std::int16_t>, int);
+template std::string statisticsModel(std::span<const std::uint16_t>, int);
+template std::string statisticsModel(std::span<const float>, int);
+template std::string statisticsModel(std::span<const double>, int);
 
-std::string vectorStatisticsModel(std::span<const float> components, std::size_t width) {
+std::string vectorStatisticsModel(std::span<const float> components, std::size_t width,
+                                  int precision) {
   const std::string first = head(components.size() / width, "Math::float" + std::to_string(width));
   if (components.empty()) return first + emptyBody;
   Lines joined{"{", "{", "{"};
   for (std::size_t i = 0; i < width; ++i) {
-    const Lines lines = floatingLines<Binary32>(components.subspan(i), width);
+    const Lines lines = floatingLines<Binary32>(components.subspan(i), width, precision);
     const std::string end = i + 1 < width ? "f, " : "f}";
     joined.minimum += lines.minimum + end;
     joined.maximum += lines.maximum + end;
