@@ -1,0 +1,225 @@
+#include "orvel_sdk/value_factory.h"
+
+#include <gtest/gtest.h>
+#include <stdexcept>
+#include <vector>
+
+#include "closed/support/expect_error.h"
+#include "closed/support/failing_allocation.h"
+#include "closed/support/stored_samples.h"
+#include "closed/support/type_text.h"
+
+namespace Orvel {
+namespace {
+
+using testing::expectError;
+using testing::nameOf;
+using testing::same;
+using testing::sample;
+using vtlcmd::ObjectPtr;
+using vtlcmd::StoredArray;
+
+template <typename T>
+class StoredValueTest : public ::testing::Test {};
+TYPED_TEST_SUITE(StoredValueTest, testing::StoredTestTypes);
+
+TYPED_TEST(StoredValueTest, GivesBackWhatItWasMadeOfAtEveryDepth) {
+  testing::atEveryDepth<TypeParam>([]<typename Stored>(const Stored& source) {
+    const Value value = makeValue(source);
+    EXPECT_TRUE(equalTypes(value.getType(), typeOf<Stored>()));
+    EXPECT_TRUE(same(valueAs<Stored>(value), source));
+    EXPECT_EQ(&valueAs<Stored>(value), valueAddress(value));
+    const Value copy =
+        value;  // NOLINT(performance-unnecessary-copy-initialization): the copy is tested
+    EXPECT_EQ(valueAddress(copy), valueAddress(value));
+  });
+}
+
+TYPED_TEST(StoredValueTest, ArraysAreSharedAndNeverCopied) {
+  const auto array = testing::sampleArray<TypeParam, 2>();
+  const Value value = makeValue(array);
+  EXPECT_EQ(useCount(array), 2U);
+  {
+    const auto opened = value.template getArray<StoredArray<TypeParam, 1>>();
+    EXPECT_EQ(opened.get(), array.get());
+    EXPECT_EQ(useCount(array), 3U);
+    const Value row = ArrayValue(value).getElement(1);
+    EXPECT_TRUE(same(valueAs<StoredArray<TypeParam, 1>>(row), (*array)[1]));
+    EXPECT_EQ(useCount((*array)[1]), 2U);
+  }
+  EXPECT_EQ(useCount(array), 2U);
+  EXPECT_EQ(useCount((*array)[1]), 1U);
+}
+
+TYPED_TEST(StoredValueTest, ZeroOfArraysIsAnEmptyArray) {
+  const Value zero = makeZero(typeOf<StoredArray<TypeParam, 1>>());
+  const auto& array = valueAs<StoredArray<TypeParam, 1>>(zero);
+  ASSERT_NE(array.get(), nullptr);
+  EXPECT_EQ(array->size, 0U);
+  EXPECT_EQ(ArrayValue(makeZero(typeOf<StoredArray<TypeParam, 6>>())).size(), 0U);
+}
+
+TYPED_TEST(StoredValueTest, ZeroIsTheEmptyInitialiser) {
+  const Value zero = makeZero(typeOf<TypeParam>());
+  EXPECT_TRUE(same(valueAs<TypeParam>(zero), TypeParam{}));
+}
+
+TYPED_TEST(StoredValueTest, ArraysMadeOfValuesAreArraysOfTheType) {
+  const TypeParam first = sample<TypeParam>(0);
+  const TypeParam second = sample<TypeParam>(1);
+  const Value row =
+      makeArray(typeOf<TypeParam>(), std::vector{makeValue(first), makeValue(second)});
+  const auto& array = valueAs<StoredArray<TypeParam, 1>>(row);
+  ASSERT_EQ(array->size, 2U);
+  EXPECT_EQ(array->capacity, 2U);
+  EXPECT_TRUE(same((*array)[0], first));
+  EXPECT_TRUE(same((*array)[1], second));
+
+  const Value table = makeArray(row.getType(), std::vector{row, row, row});
+  const auto& rows = valueAs<StoredArray<TypeParam, 2>>(table);
+  ASSERT_EQ(rows->size, 3U);
+  EXPECT_TRUE(same((*rows)[2], array));
+  EXPECT_EQ(useCount(array), 4U);
+}
+
+TYPED_TEST(StoredValueTest, ReadAsAnotherTypeThrowsAndNamesBoth) {
+  const Value value = makeValue(testing::sampleArray<TypeParam, 1>());
+  const std::string text = std::string("A value of type 'array<") +
+                           vtlcmd::valueType<TypeParam>().name + ">' was read as '" +
+                           vtlcmd::valueType<TypeParam>().name + "'.";
+  expectError<std::invalid_argument>([&] { valueAs<TypeParam>(value); }, text.c_str());
+}
+
+class OwnStruct : public ::testing::Test {
+ protected:
+  /// A byte first, so that the members behind it are padded.
+  const std::vector<MemberSpec> members_{{"flag", typeOf<bool>()},
+                                         {"time", typeOf<double>()},
+                                         {"text", typeOf<String>()},
+                                         {"list", typeOf<StoredArray<float, 1>>()},
+                                         {"object", typeOf<ObjectPtr>()}};
+  const Type type_ = makeStructType(String("Own::Row"), members_);
+
+  Value make(const StoredArray<float, 1>& list, const ObjectPtr& object) const {
+    return makeStruct(type_, std::vector{makeValue(true), makeValue(2.5), makeValue(String("abc")),
+                                         makeValue(list), makeValue(object)});
+  }
+};
+
+TEST_F(OwnStruct, LiesInMemoryAsInCpp) {
+  struct Row {
+    bool flag;
+    double time;
+    String text;
+    StoredArray<float, 1> list;
+    ObjectPtr object;
+  };
+  const auto list = testing::sampleArray<float, 1>();
+  const ObjectPtr object = Vantrel::createObject();
+  const Value value = make(list, object);
+  const auto& row = *static_cast<const Row*>(valueAddress(value));
+  EXPECT_EQ(reinterpret_cast<std::uintptr_t>(&row) % alignof(Row), 0U);
+  EXPECT_TRUE(row.flag);
+  EXPECT_EQ(row.time, 2.5);
+  EXPECT_TRUE(row.text == "abc");
+  EXPECT_TRUE(same(row.list, list));
+  EXPECT_TRUE(same(row.object, object));
+}
+
+TEST_F(OwnStruct, SharesWhatItsMembersShare) {
+  const auto list = testing::sampleArray<float, 1>();
+  const ObjectPtr object = Vantrel::createObject();
+  {
+    const Value value = make(list, object);
+    EXPECT_EQ(useCount(list), 2U);
+    const Value array = makeArray(type_, std::vector{value, value});
+    EXPECT_EQ(useCount(list), 4U);
+    EXPECT_EQ(useCount(object), 4U);
+    const Value element = ArrayValue(array).getElement(1);
+    EXPECT_TRUE(equalTypes(element.getType(), type_));
+    EXPECT_EQ(useCount(list), 5U);
+  }
+  EXPECT_EQ(useCount(list), 1U);
+  EXPECT_EQ(useCount(object), 1U);
+}
+
+TEST_F(OwnStruct, NestsAndHasAZero) {
+  const MemberSpec members[] = {{"count", typeOf<std::uint8_t>()}, {"row", type_}};
+  const Type outer = makeStructType(String("Own::Outer"), members);
+  const Value row = StructValue(makeZero(outer))["row"];
+  const StructValue zero(row);
+  EXPECT_FALSE(zero["flag"].getBool());
+  EXPECT_EQ(zero["time"].getDouble(), 0);
+  EXPECT_TRUE(zero["text"].getString() == "");
+  EXPECT_EQ(ArrayValue(zero["list"]).size(), 0U);
+  EXPECT_EQ(zero["object"].getOrvelClass().get(), nullptr);
+}
+
+TEST_F(OwnStruct, WithoutMembersIsStillAValue) {
+  const Type empty = makeStructType(String("Own::Empty"), {});
+  const Value value = makeStruct(empty, {});
+  EXPECT_EQ(nameOf(value.getType()), "Own::Empty");
+  EXPECT_EQ(ArrayValue(makeArray(empty, std::vector{value, makeZero(empty)})).size(), 2U);
+}
+
+TEST_F(OwnStruct, EveryFailedAllocationLeavesNothing) {
+  const auto list = testing::sampleArray<float, 1>();
+  const ObjectPtr object = Vantrel::createObject();
+  const Value value = make(list, object);
+  const std::vector members{makeValue(true), makeValue(2.5), makeValue(String("abc")),
+                            makeValue(list), makeValue(object)};
+  const auto failAll = [&](auto operation) {
+    const std::size_t before = testing::liveBlocks();
+    testing::failEveryAllocation(operation, [&] {
+      ASSERT_EQ(testing::liveBlocks(), before);
+      ASSERT_EQ(useCount(list), 3U);
+      ASSERT_EQ(useCount(object), 3U);
+    });
+    EXPECT_EQ(testing::liveBlocks(), before);
+  };
+  failAll([&] { makeStruct(type_, members); });
+  failAll([&] { makeArray(type_, std::vector{value, value, value}); });
+  failAll([&] { makeZero(type_); });
+  failAll([&] { Internal::copyValue(type_, valueAddress(value)); });
+}
+
+TEST(MakeStruct, MakesTheStructsOfCppToo) {
+  using SceneInfo = Vantrel::File::Project::SceneInfo;
+  const Value value = makeStruct(typeOf<SceneInfo>(),
+                                 std::vector{makeValue(String("file")), makeValue(String("dir/")),
+                                             makeValue(String()), makeValue(true)});
+  EXPECT_TRUE(same(valueAs<SceneInfo>(value), SceneInfo{"file", "dir/", "", true}));
+
+  const Value vector =
+      makeStruct(typeOf<vtlcmd::Math::float2>(), std::vector{makeValue(1.5F), makeValue(-2.0F)});
+  EXPECT_EQ(valueAs<vtlcmd::Math::float2>(vector), (vtlcmd::Math::float2{{1.5F, -2.0F}}));
+}
+
+TEST(MakeStruct, RefusesWhatDoesNotFit) {
+  const Type type = typeOf<vtlcmd::Math::float2>();
+  expectError<std::invalid_argument>([&] { makeStruct(type, std::vector{makeValue(1.0F)}); },
+                                     "The type 'Math::float2' has 2 members, not 1.");
+  expectError<std::invalid_argument>(
+      [&] {
+        makeStruct(type, std::vector{makeValue(1.0F), makeValue(1)});
+      },
+      "The member 'y' of the type 'Math::float2' is of type 'float', not 'int'.");
+  expectError<std::invalid_argument>([&] { makeStruct(typeOf<int>(), {}); },
+                                     "The type 'int' is no struct type.");
+}
+
+TEST(MakeArray, RefusesElementsOfAnotherType) {
+  expectError<std::invalid_argument>(
+      [] {
+        makeArray(typeOf<float>(), std::vector{makeValue(1.0F), makeValue(1.0)});
+      },
+      "Element 1 is of type 'double', not 'float'.");
+}
+
+TEST(MakeArray, MayBeEmpty) {
+  const Value value = makeArray(typeOf<float>(), {});
+  EXPECT_EQ((valueAs<StoredArray<float, 1>>(value)->size), 0U);
+}
+
+}  // namespace
+}  // namespace Orvel

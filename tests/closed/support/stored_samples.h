@@ -1,0 +1,90 @@
+#pragma once
+
+#include <gtest/gtest.h>
+#include <type_traits>
+
+#include "host/imports/vantrel_object.h"
+#include "orvel_core/make_ptr.h"
+#include "orvel_sdk/stored_types.h"
+
+namespace Orvel::testing {
+
+using vtlcmd::StoredArray;
+
+template <typename List>
+struct TestTypesOf;
+template <typename... Rows>
+struct TestTypesOf<const std::tuple<Rows...>> {
+  using Types = ::testing::Types<typename Rows::Type...>;
+};
+
+/// Every element type of `storedTypes`.
+using StoredTestTypes = TestTypesOf<decltype(storedTypes)>::Types;
+
+/// A value of which no part is zero, another one for each number from 0.
+template <StoredElement T>
+T sample(int number) {
+  if constexpr (std::is_same_v<T, bool>) {
+    return true;
+  } else if constexpr (std::is_arithmetic_v<T>) {
+    return static_cast<T>(number + 3);
+  } else if constexpr (std::is_same_v<T, String>) {
+    return String("text ") + (number == 0 ? "zero" : "more");
+  } else if constexpr (std::is_same_v<T, vtlcmd::ObjectPtr>) {
+    return Vantrel::createObject();
+  } else if constexpr (std::is_same_v<T, Vantrel::Simulation::Time>) {
+    return {number + 1, 0.5, 12.25, 0.125};
+  } else if constexpr (std::is_same_v<T, Vantrel::File::Project::SceneInfo>) {
+    return {sample<String>(number), "directory/", "second/path", true};
+  } else {
+    T value;
+    int component = number;
+    for (auto& place : value.components) {
+      place = static_cast<std::remove_cvref_t<decltype(place)>>(++component);
+    }
+    return value;
+  }
+}
+
+/// Whether two values are the same; objects and arrays by identity.
+template <typename T>
+bool same(const T& a, const T& b) {
+  if constexpr (requires { a.control; }) {
+    return a.pointer == b.pointer && a.control == b.control;
+  } else if constexpr (std::is_same_v<T, Vantrel::Simulation::Time>) {
+    return a.mode == b.mode && a.time == b.time && a.frame == b.frame &&
+           a.frameLength == b.frameLength;
+  } else if constexpr (std::is_same_v<T, Vantrel::File::Project::SceneInfo>) {
+    return a.fileName == b.fileName && a.directory == b.directory &&
+           a.secondaryPath == b.secondaryPath && a.hasSecondaryPath == b.hasSecondaryPath;
+  } else {
+    return a == b;
+  }
+}
+
+/// Two elements at each level: `sample` 0 and 1 in the innermost arrays.
+template <StoredElement T, std::uint32_t Depth>
+StoredArray<T, Depth> sampleArray() {
+  auto array = makeMutable<Array<StoredArray<T, Depth - 1>>>();
+  if constexpr (Depth == 1) {
+    array->append(sample<T>(0));
+    array->append(sample<T>(1));
+  } else {
+    array->append(sampleArray<T, Depth - 1>());
+    array->append(sampleArray<T, Depth - 1>());
+  }
+  return array;
+}
+
+/// Calls `check` with a sample at every depth from 0 to 6.
+template <StoredElement T, typename Check, std::uint32_t Depth = 0>
+void atEveryDepth(Check check) {
+  if constexpr (Depth == 0) {
+    check(sample<T>(0));
+  } else {
+    check(sampleArray<T, Depth>());
+  }
+  if constexpr (Depth < 6) atEveryDepth<T, Check, Depth + 1>(check);
+}
+
+}  // namespace Orvel::testing

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "host/imports/orvel_types.h"
+
+namespace Orvel::testing {
+
+inline std::string textOf(const String& string) {
+  const StringView view = string;
+  return {view.data, view.size};
+}
+
+inline std::string nameOf(const Type& type) { return textOf(type.getFullyQualifiedName()); }
+
+/// Each member as "name: type", in declared order.
+inline std::vector<std::string> membersOf(const Type& type) {
+  const StructType structType(type);
+  std::vector<std::string> members;
+  const auto end = structType.end();
+  for (auto member = structType.begin(); member != end; member++) {
+    members.push_back(textOf(member->getName()) + ": " + nameOf(member->declaredType()));
+  }
+  return members;
+}
+
+}  // namespace Orvel::testing
