@@ -34,16 +34,18 @@ std::vector<std::size_t> findCircle(const Dependencies& dependencies) {
   if (first == unordered.end()) return {};
   // Each unordered node reads from another one, so that the way back must meet itself.
   std::vector<std::size_t> way{static_cast<std::size_t>(first - unordered.begin())};
+  std::vector<bool> seen(dependencies.size());
+  seen[way.front()] = true;
   for (;;) {
     const std::vector<std::size_t>& sources = dependencies[way.back()];
     const std::size_t source = *std::find_if(sources.begin(), sources.end(),
                                              [&](std::size_t node) { return unordered[node]; });
-    const auto met = std::find(way.begin(), way.end(), source);
-    if (met != way.end()) {
-      way.erase(way.begin(), met);
+    if (seen[source]) {
+      way.erase(way.begin(), std::find(way.begin(), way.end(), source));
       std::reverse(way.begin(), way.end());
       return way;
     }
+    seen[source] = true;
     way.push_back(source);
   }
 }

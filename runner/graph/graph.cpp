@@ -5,6 +5,7 @@
 
 #include "graph/evaluation_order.h"
 #include "graph/graph_error.h"
+#include "graph/json_document.h"
 #include "graph/json_place.h"
 #include "graph/literal.h"
 #include "nodes/node_table.h"

@@ -1,56 +1,12 @@
 #include "graph/json_place.h"
 
 #include <algorithm>
-#include <set>
 
 #include "graph/graph_error.h"
 #include "text/library_text.h"
 #include "text/near_misses.h"
 
 namespace vtlcmd {
-namespace {
-
-using nlohmann::json;
-
-/// "line 3, column 7" of a byte, counted from 1 as the parser does.
-std::string lineAndColumn(std::string_view text, std::size_t byte) {
-  const std::string_view before = text.substr(0, std::min(byte == 0 ? 0 : byte - 1, text.size()));
-  const auto line = 1 + std::count(before.begin(), before.end(), '\n');
-  const std::size_t lineStart = before.rfind('\n');
-  const std::size_t column =
-      lineStart == std::string_view::npos ? before.size() + 1 : before.size() - lineStart;
-  return "line " + std::to_string(line) + ", column " + std::to_string(column);
-}
-
-/// The parser's sentence without its prefix of name, number and position.
-std::string sentenceOf(const json::exception& error) {
-  const std::string_view text = error.what();
-  const std::size_t position = text.find("column ");
-  const std::size_t start = text.find(": ", position == std::string_view::npos ? 0 : position);
-  return std::string(start == std::string_view::npos ? text : text.substr(start + 2));
-}
-
-}  // namespace
-
-json parseJson(std::string_view text) {
-  std::vector<std::set<std::string>> keys;
-  const auto refuseRepeatedKeys = [&](int, json::parse_event_t event, json& parsed) {
-    if (event == json::parse_event_t::object_start) keys.emplace_back();
-    if (event == json::parse_event_t::object_end) keys.pop_back();
-    if (event == json::parse_event_t::key && !keys.back().insert(parsed.get<std::string>()).second)
-      throw GraphError(
-          "$", "the key " + inQuotes(parsed.get<std::string>()) + " stands twice in one object");
-    return true;
-  };
-  try {
-    return json::parse(text.begin(), text.end(), refuseRepeatedKeys);
-  } catch (const json::parse_error& error) {
-    throw GraphError(lineAndColumn(text, error.byte), sentenceOf(error));
-  } catch (const json::exception& error) {
-    const std::string_view sentence = error.what();
-    throw GraphError("$", std::string(sentence.substr(sentence.find("] ") + 2)));
-  }
-}
 
 void JsonPlace::allowMembers(std::initializer_list<std::string_view> names) const {
   if (!value_->is_object()) fail("expected an object, found " + excerptOf(*value_));
@@ -109,7 +65,7 @@ const std::string& JsonPlace::name() const {
 
 void JsonPlace::fail(const std::string& text) const { throw GraphError(place_, text); }
 
-std::string excerptOf(const json& value) {
+std::string excerptOf(const nlohmann::json& value) {
   constexpr std::size_t longest = 40;
   if (value.is_array()) return "an array";
   if (value.is_object()) return "an object";

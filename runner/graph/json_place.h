@@ -9,10 +9,6 @@
 
 namespace vtlcmd {
 
-/// Parses a whole JSON document. Throws GraphError with line and column; a key given twice in one
-/// object is an error.
-nlohmann::json parseJson(std::string_view text);
-
 /// A JSON value together with where it stands, read with the types that the graph file wants. All
 /// readers throw GraphError at the place.
 class JsonPlace {
