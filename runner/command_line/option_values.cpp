@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
-#include <filesystem>
 #include <optional>
 #include <system_error>
 
@@ -11,6 +10,7 @@
 #include "logging/vtlcmd_logger.h"
 #include "text/library_text.h"
 #include "text/near_misses.h"
+#include "text/wide_path.h"
 
 namespace vtlcmd {
 namespace {
@@ -52,7 +52,7 @@ std::uint32_t parsePrintLimit(const std::string& text) {
 
 HostPath parsePath(const std::string& option, const std::string& text) {
   try {
-    return std::filesystem::path(text).wstring();
+    return widePath(text);
   } catch (const std::system_error&) {
     throw UsageError(option + ": the path isn't valid text in the file system's code page");
   }

@@ -22,14 +22,12 @@ void ReportOptions::addTo(CLI::App& command) {
           ->type_name("LEVEL")
           ->capture_default_str();
   command.add_flag("-q,--quiet", quiet_, "Print warnings and errors only")->excludes(verbosity);
-  command
-      .add_option("--through", through_,
-                  "Form in which the plug-in gets output values: value or any")
+  command.add_option("--through", through_, "Form in which the plug-in gets output values")
       ->type_name("FORM")
       ->check(CLI::IsMember({"value", "any"}))
       ->capture_default_str();
   addPlugInOption(command, plugIn_);
-  command.add_option("--color", color_, "Colour of warnings and errors: auto, always or never")
+  command.add_option("--color", color_, "Colour of warnings and errors; auto means on a terminal")
       ->type_name("WHEN")
       ->check(CLI::IsMember({"auto", "always", "never"}))
       ->capture_default_str();

@@ -58,10 +58,11 @@ void addOptions(CLI::App& command, RunOptions& options) {
   command.add_flag("--strict", options.strict, "Fail on a warning too");
   CLI::Option* progress = command.add_flag_callback(
       "--progress", [&options] { options.progress = true; },
-      "Tell on standard error how far the run is, as is done on a terminal");
+      "Tell on standard error how far the run is, even off a terminal");
   command
       .add_flag_callback(
-          "--no-progress", [&options] { options.progress = false; }, "Don't")
+          "--no-progress", [&options] { options.progress = false; },
+          "Never tell how far the run is")
       ->excludes(progress);
   options.report.addTo(command);
 }

@@ -84,8 +84,9 @@ Orvel::Value slice(const NodeCall& call) {
   const std::uint64_t start = countArgument(call, 1, "the start");
   const std::uint64_t count = countArgument(call, 2, "the count");
   if (start > size || count > size - start) {
-    throw NodeError(std::to_string(count) + " elements from " + std::to_string(start) +
-                    " on are out of range, the array has " + std::to_string(size) + " elements");
+    throw NodeError("a slice of length " + std::to_string(count) + " from " +
+                    std::to_string(start) + " on is out of range, the array has " +
+                    std::to_string(size) + " elements");
   }
   std::vector<Orvel::Value> elements;
   appendElements(elements, call[0], start, count);

@@ -40,8 +40,10 @@ Orvel::Value convertValue(const NodeCall& call) {
     return converted.number;
   });
   if (clamped > 0) {
-    call.warn(std::to_string(clamped) + " out of " + std::to_string(source.size().value_or(1)) +
-              " values don't fit into " + call.resultType.element +
+    const std::string which = source.size() ? std::to_string(clamped) + " of " +
+                                                  std::to_string(*source.size()) + " values"
+                                            : "the value";
+    call.warn(which + " didn't fit into " + call.resultType.element +
               " and became the nearest that does");
   }
   return result;

@@ -129,8 +129,11 @@ class MeshBuilder {
 ObjectPtr readMesh(const std::filesystem::path& file) {
   Assimp::Importer importer;
   const aiScene* scene = importer.ReadFile(file.string(), 0);
-  if (scene == nullptr || scene->mRootNode == nullptr)
-    throw ReadError(file.string() + ": " + importer.GetErrorString());
+  if (scene == nullptr || scene->mRootNode == nullptr) {
+    std::string reason = importer.GetErrorString();
+    if (reason.ends_with('.')) reason.pop_back();
+    throw ReadError(file.string() + ": " + reason);
+  }
   try {
     MeshBuilder builder;
     builder.addNode(*scene, *scene->mRootNode, aiMatrix4x4());
