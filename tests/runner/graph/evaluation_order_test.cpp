@@ -1,0 +1,34 @@
+#include "graph/evaluation_order.h"
+
+#include <gtest/gtest.h>
+
+namespace vtlcmd {
+namespace {
+
+using Nodes = std::vector<std::size_t>;
+
+TEST(EvaluationOrder, KeepsGivenOrderWhereItCan) {
+  EXPECT_EQ(evaluationOrder({}), Nodes{});
+  EXPECT_EQ(evaluationOrder({{}, {}, {}}), (Nodes{0, 1, 2}));
+  EXPECT_EQ(evaluationOrder({{2}, {}, {}}), (Nodes{1, 2, 0}));
+}
+
+TEST(EvaluationOrder, SourcesComeFirst) {
+  EXPECT_EQ(evaluationOrder({{1}, {2}, {3}, {}}), (Nodes{3, 2, 1, 0}));
+  EXPECT_EQ(evaluationOrder({{}, {0}, {0}, {1, 2, 1}}), (Nodes{0, 1, 2, 3}));
+}
+
+TEST(EvaluationOrder, LeavesOutCirclesAndWhatIsBehind) {
+  EXPECT_EQ(evaluationOrder({{}, {2}, {1}, {2}, {0}}), (Nodes{0, 4}));
+}
+
+TEST(FindCircle, NoneInAnOrderedGraph) { EXPECT_EQ(findCircle({{}, {0}, {0, 1}}), Nodes{}); }
+
+TEST(FindCircle, NamesOnlyItsMembers) {
+  EXPECT_EQ(findCircle({{0}}), (Nodes{0}));
+  // Node 0 stands behind the circle of 1, 2 and 3.
+  EXPECT_EQ(findCircle({{3}, {3}, {1}, {2}}), (Nodes{1, 2, 3}));
+}
+
+}  // namespace
+}  // namespace vtlcmd

@@ -1,0 +1,39 @@
+#include "graph/json_document.h"
+
+#include <gtest/gtest.h>
+
+#include "graph/graph_error.h"
+
+namespace vtlcmd {
+namespace {
+
+std::string refusalOf(std::string_view text) {
+  try {
+    parseJson(text);
+  } catch (const GraphError& error) {
+    return error.what();
+  }
+  return "accepted";
+}
+
+TEST(JsonDocument, KeepsAll64Bits) {
+  EXPECT_EQ(parseJson("[18446744073709551615, -9223372036854775808]").dump(),
+            "[18446744073709551615,-9223372036854775808]");
+}
+
+TEST(JsonDocument, TheSameKeyMayStandInTwoObjects) {
+  EXPECT_EQ(refusalOf(R"([{"a": 1}, {"a": {"a": 2}}])"), "accepted");
+}
+
+TEST(JsonDocument, RepeatedKeysAreRefusedWhereTheyStand) {
+  EXPECT_EQ(refusalOf(R"([1, [2], {"b": [{"a": 1, "c": {}, "a": 2}]}])"),
+            "$[2].b[0].a: the key 'a' stands twice in one object");
+}
+
+TEST(JsonDocument, NumbersOutOfRangeAreRefusedWhereTheyStand) {
+  EXPECT_EQ(refusalOf(R"({"a": [{}, [], "x", 1e999]})"), "$.a[3]: number overflow parsing '1e999'");
+  EXPECT_EQ(refusalOf("-1e999"), "$: number overflow parsing '-1e999'");
+}
+
+}  // namespace
+}  // namespace vtlcmd

@@ -1,0 +1,208 @@
+#include "readers/npy.h"
+
+#include <algorithm>
+#include <gtest/gtest.h>
+
+#include "readers/read_error.h"
+#include "runner/support/npy_bytes.h"
+#include "values/library_array.h"
+
+namespace vtlcmd {
+namespace {
+
+template <typename T>
+std::vector<T> elementsOf(const Orvel::Value& value) {
+  const Orvel::Array<T>& array = arrayIn<T>(value);
+  return std::vector<T>(array.begin(), array.end());
+}
+
+template <typename T>
+Bytes swappedBytesOf(const std::vector<T>& numbers) {
+  Bytes bytes = bytesOf(numbers);
+  for (auto start = bytes.begin(); start != bytes.end(); start += sizeof(T))
+    std::reverse(start, start + sizeof(T));
+  return bytes;
+}
+
+std::string typeOf(const Orvel::Value& value) {
+  return value.getType().getFullyQualifiedName().c_str();
+}
+
+std::string refusalOf(const Bytes& file) {
+  try {
+    parseNpy(file);
+  } catch (const ReadError& error) {
+    return error.what();
+  }
+  return "accepted";
+}
+
+/// Reads two numbers in both byte orders.
+template <typename T>
+void expectBothOrders(const std::string& code, const std::string& type,
+                      const std::vector<T>& numbers) {
+  const auto read = [&](char order, const Bytes& data) {
+    return parseNpy(npyFile(npyHeader(std::string(1, order).append(code), "(2,)"), data));
+  };
+  const Orvel::Value little = read('<', bytesOf(numbers));
+  const Orvel::Value big = read('>', swappedBytesOf(numbers));
+  EXPECT_EQ(typeOf(little), type);
+  EXPECT_EQ(elementsOf<T>(little), numbers);
+  EXPECT_EQ(elementsOf<T>(big), numbers);
+}
+
+TEST(Npy, EveryElementTypeInBothByteOrders) {
+  expectBothOrders<std::int8_t>("i1", "array<signed char>", {-128, 127});
+  expectBothOrders<std::uint8_t>("u1", "array<unsigned char>", {0, 255});
+  expectBothOrders<std::int16_t>("i2", "array<short>", {-32768, 258});
+  expectBothOrders<std::uint16_t>("u2", "array<ushort>", {258, 65535});
+  expectBothOrders<std::int32_t>("i4", "array<int>", {-2147483647, 16909060});
+  expectBothOrders<std::uint32_t>("u4", "array<uint>", {16909060, 4294967295});
+  expectBothOrders<std::int64_t>("i8", "array<long>", {-9223372036854775807, 72623859790382856});
+  expectBothOrders<std::uint64_t>("u8", "array<ulong>", {18446744073709551615U, 3});
+  expectBothOrders<float>("f4", "array<float>", {1.5F, -0.1F});
+  expectBothOrders<double>("f8", "array<double>", {1.5, -0.1});
+}
+
+TEST(Npy, EveryByteButZeroIsTrue) {
+  const Orvel::Value value = parseNpy(npyFile(npyHeader("|b1", "(3,)"), {0, 1, 2}));
+  EXPECT_EQ(elementsOf<bool>(value), (std::vector<bool>{false, true, true}));
+}
+
+TEST(Npy, RowsInBothOrders) {
+  const Bytes data = bytesOf<std::int32_t>({1, 2, 3, 4, 5, 6});
+  Orvel::ArrayValue rows(parseNpy(npyFile(npyHeader("<i4", "(2, 3)"), data)));
+  EXPECT_EQ(elementsOf<std::int32_t>(rows.getElement(0)), (std::vector<std::int32_t>{1, 2, 3}));
+  EXPECT_EQ(elementsOf<std::int32_t>(rows.getElement(1)), (std::vector<std::int32_t>{4, 5, 6}));
+  Orvel::ArrayValue columns(parseNpy(npyFile(npyHeader("<i4", "(2, 3)", "True"), data)));
+  EXPECT_EQ(elementsOf<std::int32_t>(columns.getElement(0)), (std::vector<std::int32_t>{1, 3, 5}));
+  EXPECT_EQ(elementsOf<std::int32_t>(columns.getElement(1)), (std::vector<std::int32_t>{2, 4, 6}));
+}
+
+TEST(Npy, ThreeDimensionsInBothOrders) {
+  const Bytes data = bytesOf<std::int16_t>({0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11});
+  const auto lastRow = [&](const std::string& fortranOrder) {
+    const Orvel::Value value = parseNpy(npyFile(npyHeader("<i2", "(2, 3, 2)", fortranOrder), data));
+    EXPECT_EQ(typeOf(value), "array<array<array<short>>>");
+    return elementsOf<std::int16_t>(
+        Orvel::ArrayValue(Orvel::ArrayValue(value).getElement(1)).getElement(2));
+  };
+  EXPECT_EQ(lastRow("False"), (std::vector<std::int16_t>{10, 11}));
+  EXPECT_EQ(lastRow("True"), (std::vector<std::int16_t>{5, 11}));
+}
+
+TEST(Npy, EmptyArrays) {
+  EXPECT_EQ(elementsOf<float>(parseNpy(npyFile(npyHeader("<f4", "(0,)"), {}))).size(), 0U);
+  const Orvel::Value rows = parseNpy(npyFile(npyHeader("<f4", "(3, 0)"), {}));
+  EXPECT_EQ(Orvel::ArrayValue(rows).size(), 3U);
+  EXPECT_EQ(refusalOf(npyFile(npyHeader("<f4", "(0, 18446744073709551615)"), {})), "accepted");
+}
+
+TEST(Npy, AllVersions) {
+  for (unsigned char version = 1; version <= 3; ++version) {
+    const Orvel::Value value =
+        parseNpy(npyFile(npyHeader("<i4", "(1,)"), bytesOf<std::int32_t>({7}), version));
+    EXPECT_EQ(elementsOf<std::int32_t>(value), (std::vector<std::int32_t>{7}));
+  }
+}
+
+TEST(Npy, BytesBehindTheArrayDoNotMatter) {
+  EXPECT_EQ(refusalOf(npyFile(npyHeader("<i4", "(1,)"), Bytes(100))), "accepted");
+}
+
+TEST(Npy, HeadersInOtherForms) {
+  const Bytes data = bytesOf<std::int32_t>({7});
+  EXPECT_EQ(refusalOf(npyFile(R"({"shape":(1,),"fortran_order":True,"descr":"=i4"})", data)),
+            "accepted");
+  EXPECT_EQ(refusalOf(npyFile("{'descr': '<i4', 'fortran_order': False, 'shape': (1)}", data)),
+            "accepted");
+}
+
+TEST(Npy, NoArrayFile) {
+  EXPECT_EQ(refusalOf({}), "this is no NumPy array file");
+  EXPECT_EQ(refusalOf(Bytes(100, 'x')), "this is no NumPy array file");
+  EXPECT_EQ(refusalOf(npyFile(npyHeader("<i4", "(0,)"), {}, 4)),
+            "the format version 4 isn't supported");
+}
+
+std::string cutShort(std::size_t available) {
+  std::string text = "the file is cut short: its elements take more than the ";
+  text += std::to_string(available);
+  text += " bytes behind the header";
+  return text;
+}
+
+TEST(Npy, CutShort) {
+  const Bytes whole = npyFile(npyHeader("<i4", "(2,)"), bytesOf<std::int32_t>({1, 2}));
+  const std::size_t dataStart = whole.size() - 8;
+  for (std::size_t size = 0; size < whole.size(); ++size) {
+    const Bytes part(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(size));
+    const std::string expected = size < 6           ? "this is no NumPy array file"
+                                 : size < dataStart ? "the file is cut short in its header"
+                                                    : cutShort(size - dataStart);
+    EXPECT_EQ(refusalOf(part), expected) << size;
+  }
+}
+
+TEST(Npy, ShapesThatNoFileCouldHold) {
+  for (const char* shape : {"(18446744073709551615,)", "(4611686018427387905,)",
+                            "(4294967296, 4294967296)", "(3, 6148914691236517206, 2)"})
+    EXPECT_EQ(refusalOf(npyFile(npyHeader("<i4", shape), Bytes(4))), cutShort(4)) << shape;
+  EXPECT_EQ(refusalOf(npyFile(npyHeader("<i4", "(1000001, 0)"), {})),
+            "the shape has more than 1000000 empty rows");
+  EXPECT_EQ(refusalOf(npyFile(npyHeader("<i4", "(4294967296, 4294967296, 0)"), {})),
+            "the shape has more than 1000000 empty rows");
+}
+
+TEST(Npy, DimensionsAndTypesOutOfReach) {
+  EXPECT_EQ(refusalOf(npyFile(npyHeader("<i4", "()"), Bytes(4))),
+            "the array has 0 dimensions; 1 to 3 are supported");
+  EXPECT_EQ(refusalOf(npyFile(npyHeader("<i4", "(1, 1, 1, 1)"), Bytes(4))),
+            "the array has 4 dimensions; 1 to 3 are supported");
+  for (const char* type : {"<c16", "<f2", "<U4", "|O", "i4", "", "<M8[ns]"}) {
+    EXPECT_EQ(refusalOf(npyFile(npyHeader(type, "(1,)"), Bytes(16))),
+              "elements of type '" + std::string(type) + "' aren't supported");
+  }
+}
+
+struct BadHeader {
+  const char* text;
+  const char* reason;
+};
+
+class BadHeaders : public testing::TestWithParam<BadHeader> {};
+
+TEST_P(BadHeaders, SayWhy) {
+  EXPECT_EQ(refusalOf(npyFile(GetParam().text, Bytes(4))),
+            std::string("the header can't be understood: ") + GetParam().reason);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    All, BadHeaders,
+    testing::Values(BadHeader{"", "expected '{'"},
+                    BadHeader{"{", "expected a text; arrays of records aren't supported"},
+                    BadHeader{"{}", "a key is missing"},
+                    BadHeader{"{'descr' '<i4'}", "expected ':'"},
+                    BadHeader{"{'descr': '<i4", "a text has no end"},
+                    BadHeader{"{'descr': [('a', '<i4')]}",
+                              "expected a text; arrays of records aren't supported"},
+                    BadHeader{"{'other': 1}", "the key 'other' has no meaning"},
+                    BadHeader{"{'fortran_order': 0}", "expected True or False"},
+                    BadHeader{"{'shape': 3}", "expected '('"},
+                    BadHeader{"{'shape': (-3,)}", "expected a number of elements"},
+                    BadHeader{"{'shape': (18446744073709551616,)}",
+                              "expected a number of elements"},
+                    BadHeader{"{'shape': (3 4)}", "expected ')'"},
+                    BadHeader{"{'shape': (3,) 'descr': '<i4'}", "expected '}'"}));
+
+TEST(Npy, FilesAreNamed) {
+  try {
+    readNpy("no_such_folder/x.npy");
+    FAIL();
+  } catch (const ReadError& error) {
+    EXPECT_STREQ(error.what(), "no_such_folder/x.npy: No such file or directory");
+  }
+}
+
+}  // namespace
+}  // namespace vtlcmd
