@@ -1,7 +1,9 @@
 #include "output/array_printers.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 #include <sstream>
+#include <streambuf>
 #include <string>
 
 #include "orvel_sdk/type_factory.h"
@@ -43,6 +45,25 @@ std::string note(std::uint64_t shown, std::uint64_t total, const std::string& wo
 std::string list(const std::string& head, const std::string& elements) {
   return "\n" + head + "[\n" + elements + " ]\n";
 }
+
+/// A sink that looks at an array's use count whenever something is written.
+template <typename T>
+class CountingSink : public std::streambuf {
+ public:
+  explicit CountingSink(const Orvel::Ptr<Orvel::Array<T>>& array) : array_(array) {}
+
+  std::uint64_t highest() const { return highest_; }
+
+ protected:
+  int_type overflow(int_type character) override {
+    highest_ = std::max(highest_, Orvel::useCount(array_));
+    return traits_type::not_eof(character);
+  }
+
+ private:
+  const Orvel::Ptr<Orvel::Array<T>>& array_;
+  std::uint64_t highest_ = 0;
+};
 
 template <typename T>
 class ArrayPrinters : public ::testing::Test {
@@ -145,17 +166,20 @@ TYPED_TEST(ArrayPrinters, ArraysAreSharedNotCopied) {
   const auto row = arrayOf<T>(this->five_);
   {
     const auto rows = arrayOf<StoredArray<T, 1>>({row, row});
-    const auto before = Orvel::useCount(row);
-    const auto data = row->data;
+    const auto* data = row->data;
     const Any any = makeAny(rows);
+    const Orvel::Value value = Orvel::makeValue(rows);
+    const auto before = Orvel::useCount(row);
     VtlCmdLogger logger(10);
-    std::ostringstream stream;
+    CountingSink<T> sink(row);
+    std::ostream stream(&sink);
     printArray2<T>(stream, &any, &logger);
+    EXPECT_GE(sink.highest(), before + 1) << "a reference is held while the row is printed";
+    EXPECT_LE(sink.highest(), before + 3) << "and no more than its holders need";
     EXPECT_EQ(Orvel::useCount(row), before);
-    EXPECT_EQ(Orvel::useCount(rows), 2U);
+    printArrayValue<T>(stream, value, 2, &logger);
+    EXPECT_EQ(Orvel::useCount(row), before);
     EXPECT_EQ(row->data, data);
-    printArrayValue<T>(stream, Orvel::makeValue(rows), 2, &logger);
-    EXPECT_EQ(Orvel::useCount(row), before);
   }
   EXPECT_EQ(Orvel::useCount(row), 1U);
 }
