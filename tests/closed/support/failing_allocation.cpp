@@ -2,7 +2,9 @@
 
 #include <atomic>
 #include <cstdlib>
+#include <cstring>
 #include <limits>
+#include <memory>
 
 namespace {
 
@@ -42,16 +44,25 @@ void* operator new(std::size_t size) {
   return counted(std::malloc(size == 0 ? 1 : size));
 }
 
+// Portably: the block that malloc gave stands in the word before the aligned one.
 void* operator new(std::size_t size, std::align_val_t alignment) {
   failInTurn();
-  const auto step = static_cast<std::size_t>(alignment) < sizeof(void*)
-                        ? sizeof(void*)
-                        : static_cast<std::size_t>(alignment);
-  void* block = nullptr;
-  return counted(posix_memalign(&block, step, size == 0 ? 1 : size) == 0 ? block : nullptr);
+  std::size_t space = size + static_cast<std::size_t>(alignment);
+  void* whole = counted(std::malloc(sizeof whole + space));
+  void* block = static_cast<char*>(whole) + sizeof whole;
+  std::align(static_cast<std::size_t>(alignment), size, block, space);
+  std::memcpy(static_cast<char*>(block) - sizeof whole, &whole, sizeof whole);
+  return block;
 }
 
 void operator delete(void* block) noexcept { giveBack(block); }
 void operator delete(void* block, std::size_t) noexcept { giveBack(block); }
-void operator delete(void* block, std::align_val_t) noexcept { giveBack(block); }
-void operator delete(void* block, std::size_t, std::align_val_t) noexcept { giveBack(block); }
+void operator delete(void* block, std::align_val_t) noexcept {
+  if (block == nullptr) return;
+  void* whole = nullptr;
+  std::memcpy(&whole, static_cast<char*>(block) - sizeof whole, sizeof whole);
+  giveBack(whole);
+}
+void operator delete(void* block, std::size_t, std::align_val_t alignment) noexcept {
+  operator delete(block, alignment);
+}

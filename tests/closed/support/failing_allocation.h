@@ -5,6 +5,13 @@
 
 namespace Orvel::testing {
 
+/// Whether this program's operator new is that of the shared libraries too.
+#if defined(_WIN32)
+inline constexpr bool reachesLibraries = false;
+#else
+inline constexpr bool reachesLibraries = true;
+#endif
+
 /// Blocks of operator new that nobody has given back yet.
 std::size_t liveBlocks() noexcept;
 

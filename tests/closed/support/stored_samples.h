@@ -11,15 +11,14 @@ namespace Orvel::testing {
 
 using vtlcmd::StoredArray;
 
-template <typename List>
-struct TestTypesOf;
-template <typename... Rows>
-struct TestTypesOf<const std::tuple<Rows...>> {
-  using Types = ::testing::Types<typename Rows::Type...>;
-};
-
-/// Every element type of `storedTypes`.
-using StoredTestTypes = TestTypesOf<decltype(storedTypes)>::Types;
+/// Calls `check` with each element type of `storedTypes` as its template argument.
+template <typename Check>
+void forEachStoredElement(Check check) {
+  vtlcmd::forEachRow(storedTypes, [&](const auto& row) {
+    SCOPED_TRACE(row.name);
+    check.template operator()<typename std::remove_cvref_t<decltype(row)>::Type>();
+  });
+}
 
 /// A value of which no part is zero, another one for each number from 0.
 template <StoredElement T>
@@ -76,15 +75,25 @@ StoredArray<T, Depth> sampleArray() {
   return array;
 }
 
-/// Calls `check` with a sample at every depth from 0 to 6.
-template <StoredElement T, typename Check, std::uint32_t Depth = 0>
-void atEveryDepth(Check check) {
-  if constexpr (Depth == 0) {
+/// Calls `check` with a sample at each depth from 0 to `Last`.
+template <StoredElement T, std::uint32_t Last, typename Check>
+void atEachDepth(Check check) {
+  if constexpr (Last == 0) {
     check(sample<T>(0));
   } else {
-    check(sampleArray<T, Depth>());
+    atEachDepth<T, Last - 1>(check);
+    check(sampleArray<T, Last>());
   }
-  if constexpr (Depth < 6) atEveryDepth<T, Check, Depth + 1>(check);
+}
+
+/// Every element type at depth 0 to 4, one more than has a tag in the type table, and two of them
+/// as deep as nobody nests.
+template <typename Check>
+void forEachStoredType(Check check) {
+  forEachStoredElement([&]<typename T>() { atEachDepth<T, 4>(check); });
+  check(sampleArray<std::int32_t, 5>());
+  check(sampleArray<std::int32_t, 6>());
+  check(sampleArray<String, 6>());
 }
 
 }  // namespace Orvel::testing
