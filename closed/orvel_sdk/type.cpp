@@ -35,7 +35,7 @@ ArrayType::~ArrayType() = default;
 
 Type ArrayType::getElementType() const { return Type(elementOf(*rep())); }
 
-StructType::Member::Member(String name, Type type) : name_(std::move(name)), type_(type) {}
+StructType::Member::Member(String name, const Type& type) : name_(std::move(name)), type_(type) {}
 StructType::Member::Member(const Member& other) = default;
 StructType::Member::~Member() = default;
 

@@ -63,7 +63,7 @@ class ORVEL_SDK_API StructType : public Type {
  public:
   class ORVEL_SDK_API Member {
    public:
-    Member(String name, Type type);
+    Member(String name, const Type& type);
     Member(const Member& other);
     ~Member();
 
