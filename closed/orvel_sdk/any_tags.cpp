@@ -27,7 +27,8 @@ constexpr std::array storedTagStarts = std::apply(
 std::string structSpelling(std::string_view name) {
   static constexpr std::string_view scope = "::";
   std::string spelling = "U";
-  for (std::size_t at; (at = name.rfind(scope)) != name.npos; name = name.substr(0, at)) {
+  for (std::size_t at; (at = name.rfind(scope)) != std::string_view::npos;
+       name = name.substr(0, at)) {
     spelling.append(name.substr(at + scope.size())) += '@';
   }
   return spelling.append(name) + "@@";

@@ -26,6 +26,7 @@ bool TypeTranslation::registerHostPlugins(const PluginHostData*) const { return 
 
 bool TypeTranslation::unregisterHostPlugins(const PluginHostData*) const { return true; }
 
+// NOLINTNEXTLINE(modernize-pass-by-value): the signature is the border
 TypeTranslationPreview::TypeTranslationPreview(const Orvel::String& name) : name_(name) {}
 
 TypeTranslationPreview::~TypeTranslationPreview() = default;
