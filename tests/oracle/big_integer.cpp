@@ -52,9 +52,9 @@ void BigInteger::subtract(const BigInteger& other) {
 
 std::uint32_t BigInteger::divideBy(std::uint32_t divisor) {
   std::uint64_t remainder = 0;
-  for (auto limb = limbs_.rbegin(); limb != limbs_.rend(); ++limb) {
-    const std::uint64_t dividend = (remainder << limbBits) | *limb;
-    *limb = lowHalf(dividend / divisor);
+  for (std::size_t i = limbs_.size(); i-- > 0;) {
+    const std::uint64_t dividend = (remainder << limbBits) | limbs_[i];
+    limbs_[i] = lowHalf(dividend / divisor);
     remainder = dividend % divisor;
   }
   dropLeadingZeros();

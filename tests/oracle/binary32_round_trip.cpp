@@ -7,8 +7,9 @@
 #include <bit>
 #include <charconv>
 #include <cstdint>
-#include <cstdio>
+#include <exception>
 #include <iostream>
+#include <syncstream>
 #include <thread>
 #include <vector>
 
@@ -38,7 +39,10 @@ bool roundTrips(std::uint32_t bits) {
                         ? !value && status == vtlcmd::ParseStatus::ParseOutOfRange
                         : value && status == vtlcmd::ParseStatus::ParseOk &&
                               std::bit_cast<std::uint32_t>(*value) == bits;
-  if (!good) std::fprintf(stderr, "0x%08x, printed as %s\n", bits, text.data());
+  if (!good) {
+    std::osyncstream(std::cerr) << std::hex << "0x" << bits << std::dec << ", printed as "
+                                << text.data() << '\n';
+  }
   return good;
 }
 
@@ -59,7 +63,7 @@ std::uint64_t failuresOfRun(std::uint64_t run, std::uint64_t threads, std::uint6
 
 }  // namespace
 
-int main(int argumentCount, char** arguments) {
+int main(int argumentCount, char** arguments) try {
   std::uint64_t stride = 5;
   bool exhaustive = false;
   CLI::App app("Prints floats with nine digits and parses them back.");
@@ -79,6 +83,10 @@ int main(int argumentCount, char** arguments) {
       runs.emplace_back([&, run] { failures += failuresOfRun(run, threads, stride); });
     }
   }
-  std::cout << "every float of " << stride << ", both signs: " << failures << " magnitudes fail\n";
+  std::cout << "normal floats of both signs, stride " << stride << ": " << failures
+            << " magnitudes fail\n";
   return failures == 0 ? 0 : 1;
+} catch (const std::exception& error) {
+  std::cerr << error.what() << '\n';
+  return 2;
 }

@@ -1,8 +1,10 @@
 #include "input_comparison.h"
 
+#include <algorithm>
+#include <array>
 #include <bit>
 #include <concepts>
-#include <cstring>
+#include <cstddef>
 #include <optional>
 #include <sstream>
 #include <string_view>
@@ -48,7 +50,8 @@ TextAnswer<T> expectedAnswer(const std::string& text) {
 template <typename T>
 bool sameBits(const T& a, const T& b) {
   if constexpr (std::is_trivially_copyable_v<T>) {
-    return std::memcmp(&a, &b, sizeof(T)) == 0;
+    using Bytes = std::array<std::byte, sizeof(T)>;
+    return std::bit_cast<Bytes>(a) == std::bit_cast<Bytes>(b);
   } else if constexpr (std::same_as<T, ObjectPtr>) {
     return a.get() == b.get();
   } else {

@@ -2,15 +2,16 @@
 
 #include <CLI/CLI.hpp>
 #include <cstdint>
+#include <exception>
 #include <iostream>
 #include <string>
 
 #include "input_comparison.h"
 #include "text_generator.h"
 
-int main(int argumentCount, char** arguments) {
-  using namespace vtlcmd::oracle;
+using namespace vtlcmd::oracle;
 
+int main(int argumentCount, char** arguments) try {
   std::uint64_t count = 50'000;
   std::uint64_t seed = 1;
   bool hard = false;
@@ -30,4 +31,7 @@ int main(int argumentCount, char** arguments) {
   }
   std::cout << count << " texts, all types: no difference\n";
   return 0;
+} catch (const std::exception& error) {
+  std::cerr << error.what() << '\n';
+  return 2;
 }

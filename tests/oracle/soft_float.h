@@ -54,8 +54,7 @@ bool isNan(typename Format::Bits bits);
 template <typename Format>
 bool isLess(typename Format::Bits a, typename Format::Bits b);
 
-/// The sum. Of operands that are no numbers the first one comes back, quiet; opposite infinities
-/// give the negative quiet pattern, as the reference processor has it.
+/// The sum. Of operands that are no numbers the first one comes back, quiet.
 template <typename Format>
 typename Format::Bits add(typename Format::Bits a, typename Format::Bits b);
 

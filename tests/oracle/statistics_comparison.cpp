@@ -31,7 +31,7 @@ std::string difference(const Orvel::Array<T>& array, const Model& model) {
     printArrayStatistics(stream, array);
     const std::string text = stream.str();
     if (withoutNanSignInAverage(text) != withoutNanSignInAverage(expected)) {
-      return "expected:\n" + expected + "\ngot:\n" + text + '\n';
+      return std::string("expected:\n").append(expected).append("\ngot:\n").append(text) + '\n';
     }
   }
   return {};

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <exception>
 #include <iostream>
 #include <iterator>
 #include <string>
@@ -63,7 +64,7 @@ std::string largeDifference() {
 
 }  // namespace
 
-int main(int argumentCount, char** arguments) {
+int main(int argumentCount, char** arguments) try {
   std::uint64_t count = 50'000;
   std::uint64_t seed = 1;
   CLI::App app("Compares array statistics with an independent model over seeded arrays.");
@@ -87,4 +88,7 @@ int main(int argumentCount, char** arguments) {
   }
   std::cout << count << " arrays, all element types: no difference\n";
   return 0;
+} catch (const std::exception& error) {
+  std::cerr << error.what() << '\n';
+  return 2;
 }
