@@ -28,10 +28,9 @@ void destroyStored(const TypeRep&, void* value) noexcept {
 template <typename T>
 constexpr StorageOperations storedOperations{zeroStored<T>, copyStored<T>, destroyStored<T>};
 
-template <typename Row>
-MutablePtr<TypeRep> describe(const Row& row) {
-  using T = typename Row::Type;
-  return makeMutable<TypeRep>(TypeRep{.name = row.name,
+template <typename T>
+MutablePtr<TypeRep> describe() {
+  return makeMutable<TypeRep>(TypeRep{.name = vtlcmd::valueType<T>().name,
                                       .kind = StoredStruct<T> ? structKind : plainKind,
                                       .size = sizeof(T),
                                       .alignment = alignof(T),
@@ -41,7 +40,6 @@ MutablePtr<TypeRep> describe(const Row& row) {
 
 using Reps = std::array<TypeHandle, storedTypeCount>;
 
-/// Members refer to other stored types, so they come when all of these are there.
 template <typename T>
 void addMembers(TypeRep& type, const Reps& reps) {
   if constexpr (StoredStruct<T>) {
@@ -53,16 +51,20 @@ void addMembers(TypeRep& type, const Reps& reps) {
 }
 
 Reps describeAll() {
-  return std::apply(
-      [](const auto&... row) {
-        const std::array made{describe(row)...};
-        Reps reps;
-        for (std::size_t i = 0; i < made.size(); ++i) reps[i] = Ptr<TypeRep>(MutablePtr(made[i]));
-        std::size_t next = 0;
-        (addMembers<typename std::remove_cvref_t<decltype(row)>::Type>(*made[next++], reps), ...);
-        return reps;
-      },
-      storedTypes);
+  Reps reps;
+  std::array<TypeRep*, storedTypeCount> open{};
+  vtlcmd::forEachRow(storedTypes, [&]<typename Row>(const Row&) {
+    using T = typename Row::Type;
+    MutablePtr<TypeRep> rep = describe<T>();
+    open[storedTypeIndex<T>()] = rep.get();
+    reps[storedTypeIndex<T>()] = Ptr<TypeRep>(std::move(rep));
+  });
+  // Members refer to other stored types, so they come when all of these are there.
+  vtlcmd::forEachRow(storedTypes, [&]<typename Row>(const Row&) {
+    using T = typename Row::Type;
+    addMembers<T>(*open[storedTypeIndex<T>()], reps);
+  });
+  return reps;
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include <stdexcept>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "orvel_sdk/array_storage.h"
@@ -43,7 +44,7 @@ Value makeStruct(const Type& type, std::span<const Value> members) {
 }
 
 Value makeArray(const Type& elementType, std::span<const Value> elements) {
-  const auto array = makePtr<Internal::RunTimeArray>(elementType.rep(), elements.size());
+  auto array = makePtr<Internal::RunTimeArray>(elementType.rep(), elements.size());
   for (const Value& element : elements) {
     if (!equalTypes(element.getType(), elementType)) {
       throw std::invalid_argument("Element " + std::to_string(array->size) + " is of type " +
@@ -52,7 +53,7 @@ Value makeArray(const Type& elementType, std::span<const Value> elements) {
     }
     array->append(valueAddress(element));
   }
-  const Internal::ArrayPtr opaque(array);
+  const Internal::ArrayPtr opaque(std::move(array));
   return Internal::copyValue(makeArrayType(elementType), &opaque);
 }
 

@@ -45,8 +45,7 @@ TEST(String, CopiesAViewByLength) {
 
 TEST(String, CopiesHaveTheirOwnText) {
   const String text(withNul);
-  const String copy =
-      text;  // NOLINT(performance-unnecessary-copy-initialization): the copy is tested
+  const String copy = text;
   EXPECT_EQ(bytesOf(copy), bytesOf(text));
   EXPECT_NE(copy.c_str(), text.c_str());
 }

@@ -69,8 +69,7 @@ TEST(StructType, IteratorsCopyAndCompareByPosition) {
 
 TEST(StructType, MembersAreValues) {
   const StructType::Member member("name", typeOf<float>());
-  const StructType::Member copy =
-      member;  // NOLINT(performance-unnecessary-copy-initialization): the copy is tested
+  const StructType::Member copy = member;
   EXPECT_EQ(copy.getName(), "name");
   EXPECT_TRUE(equalTypes(copy.declaredType(), typeOf<float>()));
 }

@@ -164,8 +164,7 @@ TEST(StructValue, GivesMembersByName) {
   EXPECT_EQ(value["x"].getDouble(), 1.5);
   EXPECT_EQ(value["y"].getDouble(), 2.5);
   const StructValue::Member last = value["z"];
-  const StructValue::Member copy =
-      last;  // NOLINT(performance-unnecessary-copy-initialization): the copy is tested
+  const StructValue::Member copy = last;
   EXPECT_EQ(copy.getDouble(), 3.5);
   EXPECT_EQ(nameOf(copy.getType()), "double");
 }
