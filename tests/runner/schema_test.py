@@ -1,0 +1,58 @@
+"""The schema of the graph file agrees with the program and with the graphs of the project."""
+
+import argparse
+import json
+import pathlib
+import subprocess
+import sys
+
+import jsonschema
+
+parser = argparse.ArgumentParser(description=__doc__)
+parser.add_argument("--program", required=True)
+parser.add_argument("--folder", required=True, type=pathlib.Path)
+arguments = parser.parse_args()
+
+problems = []
+
+
+def listed(command):
+    return json.loads(subprocess.check_output([arguments.program, command, "--json"]))
+
+
+schema = json.loads((arguments.folder / "docs/graph.schema.json").read_text())
+jsonschema.Draft202012Validator.check_schema(schema)
+validator = jsonschema.Draft202012Validator(schema)
+
+if schema["$defs"]["node"]["properties"]["op"]["enum"] != [node["op"] for node in listed("nodes")]:
+    problems.append("the operations differ from those of `vtlcmd nodes`")
+for name in listed("types"):
+    for type_name in (name, f"array<array<{name}>>"):
+        graph = {"inputs": [{"name": "port", "type": type_name}]}
+        problems += [f"{type_name}: {error.message}" for error in validator.iter_errors(graph)]
+
+good = [*arguments.folder.glob("examples/*.json"), *arguments.folder.glob("tests/runner/data/*.json")]
+for path in good:
+    for error in validator.iter_errors(json.loads(path.read_text())):
+        problems.append(f"{path.name}: {error.json_path}: {error.message}")
+if len(good) < 10:
+    problems.append("the graphs to check weren't found")
+
+# What a schema can't know: whether texts name something that exists and fits.
+beyond_schema = {
+    "circle", "doubled_name", "doubled_output", "huge_number", "mixed_list", "missing_input", "no_conversion",
+    "no_vector_type", "other_component_type", "reads_itself", "record_default", "repeated_key",
+    "surplus_type", "too_few_components", "type_mismatch", "unknown_input", "unknown_output_source",
+    "unknown_source", "vector_of_arrays", "wrong_class", "wrong_class_in_list", "wrong_component",
+    "wrong_components", "wrong_default", "wrong_element", "wrong_literal",
+}
+for path in arguments.folder.glob("tests/runner/data/bad_graphs/*.json"):
+    try:
+        accepted = validator.is_valid(json.loads(path.read_text()))
+    except json.JSONDecodeError:
+        accepted = False
+    if accepted != (path.stem in beyond_schema):
+        problems.append(f"{path.name}: {'accepted' if accepted else 'refused'}")
+
+print("\n".join(problems))
+sys.exit(1 if problems else 0)
