@@ -9,9 +9,8 @@
 #include "build_facts.h"
 #include "command_line/commands.h"
 #include "command_line/usage_error.h"
-#include "execution/plug_in.h"
-#include "graph/graph_error.h"
 #include "text/library_text.h"
+#include "text/load_error.h"
 #include "text/near_misses.h"
 
 namespace vtlcmd {
@@ -56,11 +55,6 @@ ExitCode refuse(const CLI::App& app, const std::string& text) {
   return ExitCode::usage;
 }
 
-ExitCode failToLoad(const std::exception& error) {
-  std::cerr << "vtlcmd: " << error.what() << '\n';
-  return ExitCode::notLoaded;
-}
-
 void addCommands(CLI::App& app, CommandState& state) {
   app.require_subcommand(1);
   app.set_version_flag("--version", versionText());
@@ -94,10 +88,9 @@ ExitCode runCommandLine(const std::vector<std::string>& arguments) {
     return refuse(app, error.what());
   } catch (const UsageError& error) {
     return refuse(app, error.what());
-  } catch (const GraphError& error) {
-    return failToLoad(error);
-  } catch (const PlugInError& error) {
-    return failToLoad(error);
+  } catch (const LoadError& error) {
+    std::cerr << "vtlcmd: " << error.what() << '\n';
+    return ExitCode::notLoaded;
   }
   return state.exitCode;
 }

@@ -5,12 +5,13 @@
 #include <cmath>
 #include <optional>
 #include <system_error>
+#include <utility>
 
 #include "command_line/usage_error.h"
 #include "logging/vtlcmd_logger.h"
 #include "text/library_text.h"
 #include "text/near_misses.h"
-#include "text/wide_path.h"
+#include "text/path_text.h"
 
 namespace vtlcmd {
 namespace {
@@ -36,8 +37,8 @@ double parseFramesPerSecond(const std::string& text) {
 
 std::uint32_t parseVerbosity(const std::string& text) {
   const auto& names = VtlCmdLogger::levelNames;
-  const auto name = std::find(names.begin(), names.end(), text);
-  if (name != names.end()) return static_cast<std::uint32_t>(name - names.begin());
+  const auto named = std::find(names.begin(), names.end(), text) - names.begin();
+  if (std::cmp_less(named, names.size())) return static_cast<std::uint32_t>(named);
   const std::optional<std::uint32_t> number = numberIn<std::uint32_t>(text);
   if (number && *number < names.size()) return *number;
   throw UsageError(inQuotes(text) + " is no level of messages: none, critical, error, warning, " +

@@ -45,8 +45,8 @@ OutputForm ReportOptions::outputForm() const {
 
 std::filesystem::path ReportOptions::plugInFile() const { return plugInFileFrom(plugIn_); }
 
-MessagePrinter::Streams ReportOptions::streams() const {
-  return {std::cout, std::cerr, wantsColor(color_)};
+MessagePrinter::Streams ReportOptions::streams(std::ostream& report) const {
+  return {report, std::cerr, wantsColor(color_)};
 }
 
 CLI::Option* addPlugInOption(CLI::App& command, std::string& plugIn) {

@@ -3,6 +3,7 @@
 #include <CLI/App.hpp>
 #include <cstdint>
 #include <filesystem>
+#include <iosfwd>
 #include <string>
 
 #include "execution/message_printer.h"
@@ -21,8 +22,8 @@ class ReportOptions {
 
   OutputForm outputForm() const;
   std::filesystem::path plugInFile() const;
-  /// The process's standard streams.
-  MessagePrinter::Streams streams() const;
+  /// Prints the report to a stream and problems to the standard error stream.
+  MessagePrinter::Streams streams(std::ostream& report) const;
 
  private:
   std::string printLimit_ = "10";

@@ -5,12 +5,14 @@
 #include "command_line/commands.h"
 #include "command_line/option_values.h"
 #include "command_line/port_texts.h"
+#include "command_line/report_file.h"
 #include "command_line/report_options.h"
 #include "command_line/terminal.h"
 #include "execution/interrupt.h"
 #include "execution/progress.h"
 #include "execution/session.h"
 #include "graph/graph.h"
+#include "text/load_error.h"
 
 namespace vtlcmd {
 namespace {
@@ -25,6 +27,7 @@ struct RunOptions {
   std::string scene;
   std::string secondary;
   bool strict = false;
+  std::string reportFile;
   /// Nothing: on a terminal.
   std::optional<bool> progress;
   ReportOptions report;
@@ -56,6 +59,11 @@ void addOptions(CLI::App& command, RunOptions& options) {
   command.add_option("--secondary", options.secondary, "Secondary path that the graph is told")
       ->type_name("PATH");
   command.add_flag("--strict", options.strict, "Fail on a warning too");
+  command
+      .add_option("--report", options.reportFile,
+                  "Write a JSON report of the run; '-' is the standard output, and the text then "
+                  "goes to standard error")
+      ->type_name("FILE");
   CLI::Option* progress = command.add_flag_callback(
       "--progress", [&options] { options.progress = true; },
       "Tell on standard error how far the run is, even off a terminal");
@@ -100,15 +108,14 @@ ExitCode exitCodeOf(RunOutcome outcome) {
   return ExitCode::interrupted;
 }
 
-ExitCode run(const RunOptions& options, const std::vector<std::string>& arguments) {
-  const Graph graph = loadGraph(options.graph);
-  VtlCmdLogger logger(options.report.printLimit());
-  const RunSettings settings = settingsFrom(options, graph, arguments);
+ExitCode runGraph(const Graph& graph, const RunSettings& settings, const RunOptions& options,
+                  VtlCmdLogger& logger) {
   const PlugIn plugIn(options.report.plugInFile());
   rememberInterrupt();
-
+  // The standard output is the JSON report's when it goes there.
+  const bool jsonOnOutput = options.reportFile == ReportFile::standardOutput;
   MessagePrinter printer(logger, static_cast<std::int16_t>(settings.verbosity),
-                         options.report.streams());
+                         options.report.streams(jsonOnOutput ? std::cerr : std::cout));
   Progress progress(std::cerr, options.progress.value_or(errorsGoToTerminal()));
   Session session(graph, plugIn.translation(), settings, logger);
   const RunOutcome outcome = session.run(
@@ -121,6 +128,32 @@ ExitCode run(const RunOptions& options, const std::vector<std::string>& argument
         printer.printNew();
       });
   return exitCodeOf(outcome);
+}
+
+/// A run that never began, for the JSON report.
+void recordLoadFailure(VtlCmdLogger& logger, const std::string& graphFile, const LoadError& error) {
+  const GroupScope group(logger, graphFile);
+  logger.addMessage(vtlcmdSource, levelCritical, error.what());
+}
+
+ExitCode run(const RunOptions& options, const std::vector<std::string>& arguments) {
+  VtlCmdLogger logger(options.report.printLimit());
+  ReportFile reportFile(options.reportFile);
+  std::vector<std::string> portNames;
+  try {
+    const Graph graph = loadGraph(options.graph);
+    for (const GraphPort& port : graph.ports) portNames.push_back(port.name);
+    const RunSettings settings = settingsFrom(options, graph, arguments);
+    reportFile.open();
+    const ExitCode code = runGraph(graph, settings, options, logger);
+    reportFile.write(logger, portNames);
+    return code;
+  } catch (const LoadError& error) {
+    recordLoadFailure(logger, options.graph, error);
+    reportFile.open();
+    reportFile.write(logger, portNames);
+    throw;
+  }
 }
 
 }  // namespace

@@ -1,3 +1,4 @@
+#include <iostream>
 #include <memory>
 
 #include "command_line/commands.h"
@@ -35,7 +36,7 @@ bool show(const std::string& file, const PlugIn::Translation& translation, Outpu
 ExitCode showAll(const ShowOptions& options) {
   VtlCmdLogger logger(options.report.printLimit());
   MessagePrinter printer(logger, static_cast<std::int16_t>(options.report.verbosity()),
-                         options.report.streams());
+                         options.report.streams(std::cout));
   const PlugIn plugIn(options.report.plugInFile());
   const PortValueMap noTexts;
   RunContext context{&noTexts, &noTexts, 0, 0, 1, {}, {}, &logger};

@@ -20,7 +20,8 @@ bool errorsGoToTerminal() {
 
 bool wantsColor(const std::string& choice) {
   if (choice != "auto") return choice == "always";
-  const char* noColor = std::getenv("NO_COLOR");
+  // Nothing in this program writes to the environment.
+  const char* noColor = std::getenv("NO_COLOR");  // NOLINT(concurrency-mt-unsafe)
   return errorsGoToTerminal() && (noColor == nullptr || *noColor == '\0');
 }
 

@@ -9,12 +9,12 @@ volatile std::sig_atomic_t requested = 0;
 
 extern "C" void onInterrupt(int signal) {
   requested = 1;
-  std::signal(signal, SIG_DFL);
+  static_cast<void>(std::signal(signal, SIG_DFL));
 }
 
 }  // namespace
 
-void rememberInterrupt() { std::signal(SIGINT, onInterrupt); }
+void rememberInterrupt() { static_cast<void>(std::signal(SIGINT, onInterrupt)); }
 
 bool interruptRequested() noexcept { return requested != 0; }
 

@@ -39,7 +39,8 @@ constexpr std::array plugInPlaces{"VtlCmdTranslation.dll", "libVtlCmdTranslation
 #else
 
 std::string lastError() {
-  const char* error = ::dlerror();
+  // The text is kept by thread.
+  const char* error = ::dlerror();  // NOLINT(concurrency-mt-unsafe)
   return error == nullptr ? "unknown error" : error;
 }
 

@@ -1,16 +1,16 @@
 #pragma once
 
 #include <filesystem>
-#include <stdexcept>
 
 #include "host/imports/vantrel_executor.h"
+#include "text/load_error.h"
 
 namespace vtlcmd {
 
 /// A plug-in that can't be loaded; the text names the file.
-class PlugInError : public std::runtime_error {
+class PlugInError : public LoadError {
  public:
-  using std::runtime_error::runtime_error;
+  using LoadError::LoadError;
 };
 
 /// A loaded plug-in with one translation object. Values, Anys too, that came from it must end

@@ -50,12 +50,16 @@ RunOutcome Session::run(const std::function<void(std::size_t)>& beforeFrame,
   const GroupScope group(logger_, graph_.name);
   logger_.setLoaded(true);
   bool succeeded = true;
-  for (std::size_t i = 0; i < settings_.frames.size() && !interruptRequested(); ++i) {
+  for (std::size_t i = 0; i < settings_.frames.size(); ++i) {
     beforeFrame(i);
-    succeeded &= runFrame(i);
+    const EntryScope entry(logger_, describe(i));
+    succeeded &= runFrame(settings_.frames[i]);
     afterFrame();
+    if (interruptRequested()) {
+      logger_.setInterrupted(true);
+      return RunOutcome::interrupted;
+    }
   }
-  if (interruptRequested()) return RunOutcome::interrupted;
   logger_.setFinished(true);
   return succeeded ? RunOutcome::succeeded : RunOutcome::failed;
 }
@@ -82,10 +86,9 @@ RunDescription Session::describe(std::size_t frameIndex) const {
   return description;
 }
 
-bool Session::runFrame(std::size_t frameIndex) {
-  const EntryScope entry(logger_, describe(frameIndex));
+bool Session::runFrame(double frame) {
   const std::size_t firstMessage = logger_.messages.size();
-  context_.frame = settings_.frames[frameIndex];
+  context_.frame = frame;
   context_.time = context_.frame * context_.frameLength;
   const std::optional<std::vector<Orvel::Value>> inputs = setInputs();
   logger_.setInputsSet(inputs.has_value());
@@ -95,7 +98,6 @@ bool Session::runFrame(std::size_t frameIndex) {
     if (values) logger_.setOutputsReported(reportOutputs(*values));
   }
   logger_.setWithoutErrors(!hasMessageUpTo(levelError, firstMessage));
-  logger_.setInterrupted(interruptRequested());
   const bool tolerable = !settings_.strict || !hasMessageUpTo(levelWarning, firstMessage);
   return tolerable && logger_.currentEntry().succeeded();
 }

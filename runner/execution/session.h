@@ -56,7 +56,7 @@ class Session {
   };
 
   RunDescription describe(std::size_t frameIndex) const;
-  bool runFrame(std::size_t frameIndex);
+  bool runFrame(double frame);
   std::optional<std::vector<Orvel::Value>> setInputs();
   std::optional<Orvel::Value> setInput(std::size_t index);
   bool reportOutputs(const std::vector<Orvel::Value>& values);

@@ -1,15 +1,15 @@
 #pragma once
 
-#include <stdexcept>
 #include <string>
+
+#include "text/load_error.h"
 
 namespace vtlcmd {
 
 /// A graph file that can't be used. The text names the place, like `$.nodes[3].op: ...`.
-class GraphError : public std::runtime_error {
+class GraphError : public LoadError {
  public:
-  GraphError(const std::string& place, const std::string& text)
-      : std::runtime_error(place + ": " + text) {}
+  GraphError(const std::string& place, const std::string& text) : LoadError(place + ": " + text) {}
 };
 
 }  // namespace vtlcmd

@@ -110,6 +110,7 @@ Orvel::Value readValue(const ValueType& type, const JsonPlace& place) {
   }
   const ValueType elementType = elementOf(type);
   std::vector<Orvel::Value> values;
+  values.reserve(elements.size());
   for (const JsonPlace& element : elements) values.push_back(readValue<T>(elementType, element));
   return Orvel::makeArray(libraryTypeOf(elementType), values);
 }

@@ -50,6 +50,7 @@ std::vector<std::string> nearMisses(std::string_view text, const std::vector<std
                    [](const auto& a, const auto& b) { return a.first < b.first; });
   if (near.size() > mostMisses) near.resize(mostMisses);
   std::vector<std::string> names;
+  names.reserve(near.size());
   for (auto& [distance, name] : near) names.push_back(std::move(name));
   return names;
 }

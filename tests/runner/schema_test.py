@@ -1,4 +1,4 @@
-"""The schema of the graph file agrees with the program and with the graphs of the project."""
+"""The schemas of graph file and run report agree with the program and the project's graphs."""
 
 import argparse
 import json
@@ -53,6 +53,17 @@ for path in arguments.folder.glob("tests/runner/data/bad_graphs/*.json"):
         accepted = False
     if accepted != (path.stem in beyond_schema):
         problems.append(f"{path.name}: {'accepted' if accepted else 'refused'}")
+
+report_schema = json.loads((arguments.folder / "docs/report.schema.json").read_text())
+jsonschema.Draft202012Validator.check_schema(report_schema)
+report_validator = jsonschema.Draft202012Validator(report_schema)
+for path in [*good, *arguments.folder.glob("tests/runner/data/bad_graphs/*.json")]:
+    for form in ("value", "any"):
+        run = subprocess.run(
+            [arguments.program, "run", path, "--report", "-", "--through", form, "-f", "1-2"],
+            cwd=arguments.folder, capture_output=True)
+        for error in report_validator.iter_errors(json.loads(run.stdout)):
+            problems.append(f"report of {path.name}: {error.json_path}: {error.message}")
 
 print("\n".join(problems))
 sys.exit(1 if problems else 0)

@@ -1,4 +1,4 @@
-#include "text/wide_path.h"
+#include "text/path_text.h"
 
 #include <gtest/gtest.h>
 #include <system_error>
@@ -15,6 +15,19 @@ TEST(WidePath, ReadsCharactersOfEveryLength) {
   EXPECT_EQ(
       widePath("\x7F\xC2\x80\xDF\xBF\xE0\xA0\x80\xEF\xBF\xBF\xF0\x90\x80\x80\xF4\x8F\xBF\xBF"),
       L"\x7F\x80\u07FF\u0800\uFFFF\U00010000\U0010FFFF");
+}
+
+TEST(Utf8Path, IsTheWayBack) {
+  const std::string path =
+      "/a\x7F\xC2\x80\xDF\xBF\xE0\xA0\x80\xEF\xBF\xBF\xF0\x90\x80\x80\xF4\x8F\xBF\xBF";
+  EXPECT_EQ(utf8Path(widePath(path)), path);
+  EXPECT_EQ(utf8Path(L""), "");
+}
+
+TEST(Utf8Path, WritesAQuestionMarkForWhatIsNoCharacter) {
+  const HostPath path{L'a', static_cast<wchar_t>(0xD800), static_cast<wchar_t>(0x110000),
+                      static_cast<wchar_t>(-1)};
+  EXPECT_EQ(utf8Path(path), "a???");
 }
 
 TEST(WidePath, RefusesWhatIsNoText) {

@@ -1,4 +1,4 @@
-#include "text/wide_path.h"
+#include "text/path_text.h"
 
 #include <array>
 #include <cstddef>
@@ -10,6 +10,11 @@ namespace vtlcmd {
 #if defined(_WIN32)
 
 HostPath widePath(std::string_view path) { return std::filesystem::path(path).wstring(); }
+
+std::string utf8Path(const HostPath& path) {
+  const std::u8string text = std::filesystem::path(path).u8string();
+  return {text.begin(), text.end()};
+}
 
 #else
 
@@ -29,6 +34,8 @@ constexpr std::array<Form, 4> forms{{{0x80, 0x00, 0, 0x0},
                                      {0xF0, 0xE0, 2, 0x800},
                                      {0xF8, 0xF0, 3, 0x10000}}};
 
+bool isCharacter(char32_t code) { return code <= 0x10FFFF && (code < 0xD800 || code > 0xDFFF); }
+
 [[noreturn]] void refuse() {
   throw std::system_error(std::make_error_code(std::errc::illegal_byte_sequence));
 }
@@ -45,8 +52,7 @@ char32_t takeCharacter(std::string_view& text) {
       if ((byte & 0xC0U) != 0x80U) refuse();
       character = (character << 6U) | (byte & 0x3FU);
     }
-    const bool isSurrogate = character >= 0xD800 && character <= 0xDFFF;
-    if (character < form.least || character > 0x10FFFF || isSurrogate) refuse();
+    if (character < form.least || !isCharacter(character)) refuse();
     text.remove_prefix(form.following + 1);
     return character;
   }
@@ -59,6 +65,20 @@ HostPath widePath(std::string_view path) {
   HostPath wide;
   while (!path.empty()) wide.push_back(static_cast<wchar_t>(takeCharacter(path)));
   return wide;
+}
+
+std::string utf8Path(const HostPath& path) {
+  std::string text;
+  for (const wchar_t wide : path) {
+    const auto code = static_cast<char32_t>(wide);
+    const char32_t character = isCharacter(code) ? code : U'?';
+    std::size_t following = 0;
+    while (following + 1 < forms.size() && character >= forms[following + 1].least) ++following;
+    const auto put = [&](char32_t byte) { text.push_back(static_cast<char>(byte)); };
+    put(forms[following].mark | (character >> (6 * following)));
+    while (following-- > 0) put(0x80U | ((character >> (6 * following)) & 0x3FU));
+  }
+  return text;
 }
 
 #endif

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <stdexcept>
+
+namespace vtlcmd {
+
+/// A graph or a plug-in that can't be loaded, in words for the user.
+class LoadError : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+}  // namespace vtlcmd
