@@ -9,10 +9,10 @@ namespace {
 
 /// A relative path is looked up in the working directory, then beside the graph file.
 std::filesystem::path fileArgument(const NodeCall& call) {
-  const std::filesystem::path file(standardText(call[0].getString()));
+  std::filesystem::path file(standardText(call[0].getString()));
   std::error_code error;
   if (file.is_relative() && !std::filesystem::exists(file, error)) {
-    const std::filesystem::path beside = call.graphFolder / file;
+    std::filesystem::path beside = call.graphFolder / file;
     if (std::filesystem::exists(beside, error)) return beside;
   }
   return file;

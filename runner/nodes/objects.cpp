@@ -21,7 +21,7 @@ Orvel::Value objectValue(Orvel::MutablePtr<Object> object) {
 }
 
 const Object& objectArgument(const NodeCall& call) {
-  const ObjectPtr& object = Orvel::valueAs<ObjectPtr>(call[0]);
+  const auto& object = Orvel::valueAs<ObjectPtr>(call[0]);
   if (!object) throw NodeError("there is no object");
   return *object;
 }

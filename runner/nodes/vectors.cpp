@@ -39,7 +39,7 @@ ValueType vectorType(const NodeTypes& types) {
     }
   });
   if (!isVector) throw std::invalid_argument(nameOf(declared) + " is no vector type");
-  const ValueType result{declared.element, depth};
+  ValueType result{declared.element, depth};
   if (result != declared)
     throw std::invalid_argument("the components give " + nameOf(result) + ", not " +
                                 nameOf(declared));

@@ -70,7 +70,7 @@ class DictionaryParser {
     if (quote != '\'' && quote != '"') fail("expected a text; arrays of records aren't supported");
     const std::size_t end = rest_.find(quote, 1);
     if (end == std::string_view::npos) fail("a text has no end");
-    const std::string result(rest_.substr(1, end - 1));
+    std::string result(rest_.substr(1, end - 1));
     rest_.remove_prefix(end + 1);
     return result;
   }
