@@ -95,7 +95,8 @@ bool Session::runFrame(double frame) {
   if (inputs) {
     const std::optional<std::vector<Orvel::Value>> values = executor_.run(*inputs);
     logger_.setExecuted(values.has_value());
-    if (values) logger_.setOutputsReported(reportOutputs(*values));
+    if (values) reportOutputs(*values);
+    logger_.setOutputsReported(values.has_value());
   }
   logger_.setWithoutErrors(!hasMessageUpTo(levelError, firstMessage));
   const bool tolerable = !settings_.strict || !hasMessageUpTo(levelWarning, firstMessage);
@@ -131,13 +132,11 @@ std::optional<Orvel::Value> Session::setInput(std::size_t index) {
   return std::nullopt;
 }
 
-bool Session::reportOutputs(const std::vector<Orvel::Value>& values) {
-  bool complete = true;
+/// An output that the plug-in has no report for leaves a warning and doesn't stop the others.
+void Session::reportOutputs(const std::vector<Orvel::Value>& values) {
   for (const GraphOutput& output : graph_.outputs) {
-    complete &= reportOutput(translation_, output.name, values[output.source], settings_.outputForm,
-                             context_);
+    reportOutput(translation_, output.name, values[output.source], settings_.outputForm, context_);
   }
-  return complete;
 }
 
 bool Session::hasMessageUpTo(LogLevel level, std::size_t firstMessage) const {

@@ -59,7 +59,7 @@ class Session {
   bool runFrame(double frame);
   std::optional<std::vector<Orvel::Value>> setInputs();
   std::optional<Orvel::Value> setInput(std::size_t index);
-  bool reportOutputs(const std::vector<Orvel::Value>& values);
+  void reportOutputs(const std::vector<Orvel::Value>& values);
   bool hasMessageUpTo(LogLevel level, std::size_t firstMessage) const;
 
   const Graph& graph_;

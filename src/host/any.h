@@ -158,9 +158,11 @@ inline void swap(Any& a, Any& b) noexcept {
 }
 
 /// Where a value of type T is kept: in the three words, or in a heap block behind the first.
+// NOLINTBEGIN(misc-redundant-expression): the linter takes the two alignments for one
 template <typename T>
 inline constexpr bool storedInPlace = sizeof(T) <= sizeof(Any::storage) &&
-                                      alignof(T) <= alignof(std::uintptr_t);
+                                      alignof(T) <= alignof(Any);
+// NOLINTEND(misc-redundant-expression)
 
 namespace any_operations {
 
