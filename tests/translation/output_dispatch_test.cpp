@@ -1,3 +1,4 @@
+#include <array>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -83,6 +84,35 @@ TEST_F(OutputDispatch, FourDeepArrayIsReportedAsAValueAlone) {
   static constexpr auto rank4 = makeTag("H", 0, 4);
   EXPECT_FALSE(host_.getAny(makeTaggedAny<rank4>(array), "deep"));
   EXPECT_EQ(host_.messages().size(), 1U);
+}
+
+TEST_F(OutputDispatch, FiveDeepArraysGoByTheirClassAtTheLowestLevel) {
+  const auto wrapped = [](Orvel::Value value) {
+    for (int level = 0; level < 2; ++level) {
+      value = Orvel::makeArray(value.getType(), std::array{value});
+    }
+    return value;
+  };
+  EXPECT_TRUE(host_.getValue(wrapped(Orvel::makeValue(testing::nestedArray<Orvel::String, 3>("a"))),
+                             "texts"));
+  EXPECT_TRUE(host_.getValue(wrapped(Orvel::makeValue(testing::nestedArray<Math::double2, 3>({}))),
+                             "vectors"));
+  EXPECT_THAT(
+      host_.messages(),
+      ElementsAre("progress Output port 'texts': (array<array<array<array<array<string>>>>>) \n"
+                  "(1 out of 1 array<array<array<array<string>>>>)[\n"
+                  "\n(1 out of 1 array<array<array<string>>>)[\n"
+                  "\n(1 out of 1 array<array<string>>)[\n"
+                  "\n(1 out of 1 array<string>)[\n"
+                  "\n(1 out of 1 string)[\n"
+                  "\"a\" ]\n ]\n ]\n ]\n ]\n",
+                  "progress Output port 'vectors': "
+                  "(array<array<array<array<array<Math::double2>>>>>) \n"
+                  "(1 out of 1 array<array<array<array<Math::double2>>>>)[\n"
+                  "\n(1 out of 1 array<array<array<Math::double2>>>)[\n"
+                  "\n(1 out of 1 array<array<Math::double2>>)[\n"
+                  "\n(1 out of 1 array<Math::double2>)[\n"
+                  "{non supported array of Math::double2 } ]\n ]\n ]\n ]\n"));
 }
 
 TEST_F(OutputDispatch, NullDataIsToldOnTheErrorStreamAlone) {
