@@ -161,14 +161,11 @@ struct Nesting<Orvel::Ptr<Orvel::Array<Inner>>> {
 }  // namespace type_lists
 
 template <typename T>
-concept Registered = type_lists::contains < RegisteredType<T>,
-decltype(registeredTypes) > ;
+concept Registered = (type_lists::contains<RegisteredType<T>, decltype(registeredTypes)>);
 template <typename T>
-concept InputOnly = type_lists::contains < InputOnlyType<T>,
-decltype(inputOnlyTypes) > ;
+concept InputOnly = (type_lists::contains<InputOnlyType<T>, decltype(inputOnlyTypes)>);
 template <typename T>
-concept ReportOnly = type_lists::contains < ReportOnlyType<T>,
-decltype(reportOnlyTypes) > ;
+concept ReportOnly = (type_lists::contains<ReportOnlyType<T>, decltype(reportOnlyTypes)>);
 
 /// The row of a type in whichever list has it.
 template <typename T>

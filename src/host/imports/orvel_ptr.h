@@ -71,6 +71,10 @@ struct SharedFields {
   explicit operator bool() const noexcept { return pointer != nullptr; }
 };
 
+/// Another type whose objects can be pointed at as T.
+template <typename U, typename T>
+concept SeenAs = std::convertible_to<U*, T*> && !std::same_as<U, T>;
+
 }  // namespace Internal
 
 /// A shared object that its maker may still write to.
@@ -90,9 +94,8 @@ class Ptr : public Internal::SharedFields<T> {
   Ptr(MutablePtr<T>&& other) noexcept : Internal::SharedFields<T>(std::move(other)) {}
 
   /// One more use of the same object, seen as another type that its pointer converts to.
-  template <typename U>
-  requires(std::convertible_to<U*, T*> && !std::same_as<U, T>) Ptr(Ptr<U> other)
-  noexcept
+  template <Internal::SeenAs<T> U>
+  Ptr(Ptr<U> other) noexcept
       : Internal::SharedFields<T>(std::exchange(other.pointer, nullptr),
                                   std::exchange(other.control, nullptr)) {}
 
