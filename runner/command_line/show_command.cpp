@@ -14,19 +14,22 @@ namespace {
 
 struct ShowOptions {
   std::vector<std::string> files;
+  bool vectors = false;
   ReportOptions report;
 };
 
-Orvel::Value readData(const std::filesystem::path& file) {
-  return file.extension() == ".npy" ? readNpy(file) : Orvel::makeValue(readMesh(file));
+Orvel::Value readData(const std::filesystem::path& file, bool vectors) {
+  if (file.extension() != ".npy") return Orvel::makeValue(readMesh(file));
+  return readNpy(file, vectors ? NpyElements::vectors : NpyElements::numbers);
 }
 
 /// One entry of the report a file. False when the file can't be read or reported.
-bool show(const std::string& file, const PlugIn::Translation& translation, OutputForm form,
-          RunContext& context) {
+bool show(const std::string& file, const ShowOptions& options,
+          const PlugIn::Translation& translation, RunContext& context) {
   const EntryScope entry(*context.logger, {});
   try {
-    return reportOutput(translation, file, readData(file), form, context);
+    return reportOutput(translation, file, readData(file, options.vectors),
+                        options.report.outputForm(), context);
   } catch (const std::exception& error) {
     context.logger->addMessage(vtlcmdSource, levelError, error.what());
     return false;
@@ -43,7 +46,7 @@ ExitCode showAll(const ShowOptions& options) {
   const GroupScope group(logger, "show");
   bool complete = true;
   for (const std::string& file : options.files) {
-    complete &= show(file, plugIn.translation(), options.report.outputForm(), context);
+    complete &= show(file, options, plugIn.translation(), context);
     printer.printNew();
   }
   return complete ? ExitCode::success : ExitCode::runFailed;
@@ -55,7 +58,14 @@ void addShowCommand(CLI::App& app, CommandState& state) {
   const auto options = std::make_shared<ShowOptions>();
   CLI::App* command = app.add_subcommand("show", "Report what is in data files: .npy or a mesh");
   command->add_option("FILE", options->files, "Data files")->required()->type_name("");
+  command->add_flag("--vectors", options->vectors,
+                    "Take a last dimension of 2 to 4 floats in .npy files as vectors");
   options->report.addTo(*command);
+  command->footer(R"(Examples:
+  vtlcmd show temperatures.npy scan.ply
+  vtlcmd show --vectors positions.npy
+  vtlcmd show -l 3 names.npy
+)");
   command->callback([options, &state] { state.exitCode = showAll(*options); });
 }
 

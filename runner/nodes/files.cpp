@@ -3,6 +3,7 @@
 #include "readers/mesh.h"
 #include "readers/npy.h"
 #include "text/library_text.h"
+#include "values/type_dispatch.h"
 
 namespace vtlcmd::node_families {
 namespace {
@@ -18,9 +19,18 @@ std::filesystem::path fileArgument(const NodeCall& call) {
   return file;
 }
 
+/// What an array's declared type makes of the file's last dimension.
+NpyElements elementsFor(const ValueType& type) {
+  NpyElements elements = NpyElements::numbers;
+  withTypeNamed(registeredTypes, type.element, [&]<typename T>() {
+    if constexpr (Composite<T>) elements = NpyElements::vectors;
+  });
+  return elements;
+}
+
 Orvel::Value readArray(const NodeCall& call) {
   const std::filesystem::path file = fileArgument(call);
-  Orvel::Value value = readNpy(file);
+  Orvel::Value value = readNpy(file, elementsFor(call.resultType));
   const std::string type = value.getType().getFullyQualifiedName().c_str();
   if (type != nameOf(call.resultType))
     throw NodeError(file.string() + " holds " + type + ", not " + nameOf(call.resultType));
@@ -31,7 +41,9 @@ const std::vector<Parameter> path{{"path", &type_classes::text}};
 
 const NodeOperation table[] = {
     {"read_npy", path, NodeSetting::type, [](const NodeTypes& types) { return *types.declared; },
-     readArray, "The array in a NumPy file, which must be of the given type."},
+     readArray,
+     "The array in a NumPy file, which must be of the given type. Vectors are made of a last "
+     "dimension of 2 to 4 floats."},
     {"read_mesh", path, NodeSetting::none,
      [](const NodeTypes&) {
        return ValueType{valueType<ObjectPtr>().name, 0};

@@ -49,6 +49,9 @@ MappedFile::~MappedFile() {
   if (data_ != nullptr) UnmapViewOfFile(data_);
 }
 
+// The system takes pages of a mapped file from a process by itself when others need them.
+void MappedFile::release(std::size_t) const noexcept {}
+
 #else
 
 namespace {
@@ -77,6 +80,11 @@ MappedFile::MappedFile(const std::filesystem::path& file) {
 
 MappedFile::~MappedFile() {
   if (data_ != nullptr) ::munmap(const_cast<unsigned char*>(data_), size_);
+}
+
+void MappedFile::release(std::size_t count) const noexcept {
+  const auto page = static_cast<std::size_t>(::sysconf(_SC_PAGESIZE));
+  ::madvise(const_cast<unsigned char*>(data_), count / page * page, MADV_DONTNEED);
 }
 
 #endif

@@ -17,6 +17,10 @@ class MappedFile {
 
   std::span<const unsigned char> bytes() const noexcept { return {data_, size_}; }
 
+  /// Gives back the memory of the first `count` bytes, where the system can. They can be read
+  /// again, from the file.
+  void release(std::size_t count) const noexcept;
+
  private:
   const unsigned char* data_ = nullptr;
   std::size_t size_ = 0;

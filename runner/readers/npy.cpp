@@ -3,17 +3,15 @@
 #include <algorithm>
 #include <array>
 #include <bit>
-#include <cstring>
 #include <limits>
 #include <string_view>
 #include <system_error>
 
-#include "host/value_types.h"
 #include "readers/mapped_file.h"
 #include "readers/npy_header.h"
+#include "readers/npy_values.h"
 #include "readers/read_error.h"
 #include "text/library_text.h"
-#include "values/library_array.h"
 
 namespace vtlcmd {
 namespace {
@@ -21,63 +19,28 @@ namespace {
 /// Without elements the file's size says nothing about the rows; so many of them are still sane.
 constexpr std::uint64_t mostEmptyRows = 1'000'000;
 
-/// The elements of a file, addressed by their place along each dimension.
-struct Elements {
-  const unsigned char* data;
-  bool swapped;
-  std::vector<std::uint64_t> shape;
-  /// By dimension, in elements.
-  std::vector<std::uint64_t> strides;
-};
-
-template <typename T>
-T load(const Elements& elements, std::uint64_t index) {
-  const unsigned char* source = elements.data + index * sizeof(T);
-  if constexpr (std::is_same_v<T, bool>) {
-    return *source != 0;
-  } else {
-    std::array<unsigned char, sizeof(T)> bytes;
-    std::memcpy(bytes.data(), source, sizeof(T));
-    if (elements.swapped) std::reverse(bytes.begin(), bytes.end());
-    return std::bit_cast<T>(bytes);
-  }
-}
-
-template <typename T, std::uint32_t Rank>
-StoredArray<T, Rank> build(const Elements& elements, std::uint64_t offset) {
-  const std::size_t dimension = elements.shape.size() - Rank;
-  return shareArray(
-      generateArray<StoredArray<T, Rank - 1>>(elements.shape[dimension], [&](std::uint64_t i) {
-        const std::uint64_t index = offset + i * elements.strides[dimension];
-        if constexpr (Rank == 1) {
-          return load<T>(elements, index);
-        } else {
-          return build<T, Rank - 1>(elements, index);
-        }
-      }));
-}
-
-template <typename T>
-Orvel::Value buildValue(const Elements& elements) {
-  switch (elements.shape.size()) {
-    case 1:
-      return Orvel::makeValue(build<T, 1>(elements, 0));
-    case 2:
-      return Orvel::makeValue(build<T, 2>(elements, 0));
-    default:
-      return Orvel::makeValue(build<T, 3>(elements, 0));
-  }
-}
+using Builder = Orvel::Value (*)(const NpyLayout&, NpyNumbers&);
 
 struct ElementCode {
   std::string_view code;
   std::uint64_t size;
-  Orvel::Value (*build)(const Elements&);
+  Builder build;
+  /// Of vectors of two, three and four elements; null for elements that have none.
+  std::array<Builder, 3> buildVectors;
 };
 
 template <typename T>
 constexpr ElementCode elementCode(std::string_view code) {
-  return {code, sizeof(T), buildValue<T>};
+  if constexpr (std::is_floating_point_v<T>) {
+    using Vantrel::Math::Vector;
+    return {
+        code,
+        sizeof(T),
+        buildNpyValue<T>,
+        {buildNpyValue<Vector<T, 2>>, buildNpyValue<Vector<T, 3>>, buildNpyValue<Vector<T, 4>>}};
+  } else {
+    return {code, sizeof(T), buildNpyValue<T>, {}};
+  }
 }
 
 constexpr std::array elementCodes{
@@ -124,38 +87,43 @@ void checkSize(const NpyHeader& header, std::uint64_t elementSize, std::uint64_t
     throw ReadError("the shape has more than " + std::to_string(mostEmptyRows) + " empty rows");
 }
 
-std::vector<std::uint64_t> stridesOf(const NpyHeader& header) {
-  const std::size_t rank = header.shape.size();
-  std::vector<std::uint64_t> strides(rank);
-  std::uint64_t stride = 1;
-  for (std::size_t i = 0; i < rank; ++i) {
-    const std::size_t dimension = header.fortranOrder ? i : rank - 1 - i;
-    strides[dimension] = stride;
-    stride *= header.shape[dimension];
+/// The builder for vectors along the last dimension.
+Builder vectorBuilder(const ElementCode& code, const NpyHeader& header) {
+  const std::uint64_t length = header.shape.back();
+  if (code.buildVectors[0] == nullptr) {
+    throw ReadError("elements of type " + inQuotes(header.descriptor) +
+                    " make no vectors; floats do");
   }
-  return strides;
+  if (header.shape.size() < 2 || length < 2 || length > 4)
+    throw ReadError("vectors want a last dimension of 2 to 4 behind another one");
+  return code.buildVectors[length - 2];
 }
 
 }  // namespace
 
-Orvel::Value parseNpy(std::span<const unsigned char> file) {
+Orvel::Value parseNpy(std::span<const unsigned char> file, NpyElements form,
+                      const std::function<void(std::size_t)>& consumed) {
   const NpyHeader header = parseNpyHeader(file);
   const ElementCode& code = elementCodeOf(header.descriptor);
   if (header.shape.empty() || header.shape.size() > 3) {
     throw ReadError("the array has " + std::to_string(header.shape.size()) +
                     " dimensions; 1 to 3 are supported");
   }
-  const std::span<const unsigned char> data = file.subspan(header.dataOffset);
-  checkSize(header, code.size, data.size());
+  const bool asVectors = form == NpyElements::vectors;
+  const Builder build = asVectors ? vectorBuilder(code, header) : code.build;
+  checkSize(header, code.size, file.size() - header.dataOffset);
   const char order = header.descriptor[0];
   const bool swapped = order == (std::endian::native == std::endian::little ? '>' : '<');
-  return code.build({data.data(), swapped, header.shape, stridesOf(header)});
+  std::vector<std::uint64_t> shape = header.shape;
+  if (asVectors) shape.pop_back();
+  NpyNumbers numbers(file, header.dataOffset, swapped, consumed);
+  return build({std::move(shape), header.fortranOrder}, numbers);
 }
 
-Orvel::Value readNpy(const std::filesystem::path& file) {
+Orvel::Value readNpy(const std::filesystem::path& file, NpyElements form) {
   try {
     const MappedFile mapped(file);
-    return parseNpy(mapped.bytes());
+    return parseNpy(mapped.bytes(), form, [&](std::size_t count) { mapped.release(count); });
   } catch (const ReadError& error) {
     throw ReadError(file.string() + ": " + error.what());
   } catch (const std::system_error& error) {

@@ -91,6 +91,65 @@ TEST(Npy, ThreeDimensionsInBothOrders) {
   EXPECT_EQ(lastRow("True"), (std::vector<std::int16_t>{5, 11}));
 }
 
+TEST(Npy, LongRowsInFortranOrder) {
+  const Bytes data = bytesOf<std::int32_t>({1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12});
+  const Orvel::Value value = parseNpy(npyFile(npyHeader("<i4", "(1, 3, 4)", "True"), data));
+  EXPECT_EQ(elementsOf<std::int32_t>(
+                Orvel::ArrayValue(Orvel::ArrayValue(value).getElement(0)).getElement(1)),
+            (std::vector<std::int32_t>{2, 5, 8, 11}));
+}
+
+TEST(Npy, VectorsInBothOrders) {
+  using Vantrel::Math::float2;
+  const Bytes data = bytesOf<float>({1, 2, 3, 4, 5, 6});
+  const auto read = [&](const std::string& fortranOrder) {
+    const Orvel::Value value =
+        parseNpy(npyFile(npyHeader("<f4", "(3, 2)", fortranOrder), data), NpyElements::vectors);
+    EXPECT_EQ(typeOf(value), "array<Math::float2>");
+    return elementsOf<float2>(value);
+  };
+  EXPECT_EQ(read("False"), (std::vector<float2>{{{1, 2}}, {{3, 4}}, {{5, 6}}}));
+  EXPECT_EQ(read("True"), (std::vector<float2>{{{1, 4}}, {{2, 5}}, {{3, 6}}}));
+}
+
+TEST(Npy, RowsOfVectors) {
+  using Vantrel::Math::double3;
+  const Bytes data = bytesOf<double>({1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12});
+  const auto lastRow = [&](const std::string& fortranOrder) {
+    const Orvel::Value value =
+        parseNpy(npyFile(npyHeader("<f8", "(2, 2, 3)", fortranOrder), data), NpyElements::vectors);
+    EXPECT_EQ(typeOf(value), "array<array<Math::double3>>");
+    return elementsOf<double3>(Orvel::ArrayValue(value).getElement(1));
+  };
+  EXPECT_EQ(lastRow("False"), (std::vector<double3>{{{7, 8, 9}}, {{10, 11, 12}}}));
+  EXPECT_EQ(lastRow("True"), (std::vector<double3>{{{2, 6, 10}}, {{4, 8, 12}}}));
+}
+
+TEST(Npy, RefusesVectorsOfOtherLengthsAndElements) {
+  const auto refusal = [](const std::string& code, const std::string& shape) {
+    try {
+      parseNpy(npyFile(npyHeader(code, shape), Bytes(800)), NpyElements::vectors);
+    } catch (const ReadError& error) {
+      return std::string(error.what());
+    }
+    return std::string("accepted");
+  };
+  const std::string wrongShape = "vectors want a last dimension of 2 to 4 behind another one";
+  EXPECT_EQ(refusal("<f4", "(3,)"), wrongShape);
+  EXPECT_EQ(refusal("<f4", "(3, 1)"), wrongShape);
+  EXPECT_EQ(refusal("<f8", "(3, 5)"), wrongShape);
+  EXPECT_EQ(refusal("<i4", "(3, 2)"), "elements of type '<i4' make no vectors; floats do");
+}
+
+TEST(Npy, TellsWhatIsConsumed) {
+  const Bytes file = npyFile(npyHeader("|u1", "(50000000,)"), Bytes(50'000'000));
+  std::vector<std::size_t> told;
+  parseNpy(file, NpyElements::numbers, [&](std::size_t count) { told.push_back(count); });
+  ASSERT_EQ(told.size(), 2U);
+  EXPECT_LT(told[0], told[1]);
+  EXPECT_LT(told[1], file.size());
+}
+
 TEST(Npy, EmptyArrays) {
   EXPECT_EQ(elementsOf<float>(parseNpy(npyFile(npyHeader("<f4", "(0,)"), {}))).size(), 0U);
   const Orvel::Value rows = parseNpy(npyFile(npyHeader("<f4", "(3, 0)"), {}));
