@@ -5,8 +5,8 @@
 #include "command_line/commands.h"
 #include "command_line/option_values.h"
 #include "command_line/port_texts.h"
-#include "command_line/report_file.h"
 #include "command_line/report_options.h"
+#include "command_line/run_reports.h"
 #include "command_line/terminal.h"
 #include "execution/interrupt.h"
 #include "execution/progress.h"
@@ -16,6 +16,16 @@
 
 namespace vtlcmd {
 namespace {
+
+constexpr const char* footer = R"(Examples:
+  vtlcmd run scatter.json -s count=1000 -s offset=10,0,-5 -j seed=7
+  vtlcmd run animated.json -f 1-48 --fps 24 --report run.html
+  vtlcmd run scatter.json -q --report - | jq .groups[0].entries[0].outputs
+  echo 12 | vtlcmd run scatter.json --set-file count=-
+
+Texts of ports are handed on as they stand: numbers like 12 or 1.5e3, true and
+false, vectors like 1,2.5,3, strings without quotes.
+)";
 
 struct RunOptions {
   std::string graph;
@@ -27,7 +37,7 @@ struct RunOptions {
   std::string scene;
   std::string secondary;
   bool strict = false;
-  std::string reportFile;
+  std::vector<std::string> reports;
   /// Nothing: on a terminal.
   std::optional<bool> progress;
   ReportOptions report;
@@ -59,10 +69,9 @@ void addOptions(CLI::App& command, RunOptions& options) {
   command.add_option("--secondary", options.secondary, "Secondary path that the graph is told")
       ->type_name("PATH");
   command.add_flag("--strict", options.strict, "Fail on a warning too");
-  command
-      .add_option("--report", options.reportFile,
-                  "Write a JSON report of the run; '-' is the standard output, and the text then "
-                  "goes to standard error")
+  addList("--report", options.reports,
+          "Write a report of the run: a page for people to a file named *.html, else a JSON "
+          "document; '-' is the standard output, and the text then goes to standard error")
       ->type_name("FILE");
   CLI::Option* progress = command.add_flag_callback(
       "--progress", [&options] { options.progress = true; },
@@ -108,14 +117,25 @@ ExitCode exitCodeOf(RunOutcome outcome) {
   return ExitCode::interrupted;
 }
 
+/// Closes a run with what the graph system complained of: "2 errors, 1 warning".
+void printCounts(const VtlCmdLogger& logger) {
+  const char* separator = "";
+  const auto print = [&](std::uint64_t count, const char* noun) {
+    if (count == 0) return;
+    std::cerr << separator << count << ' ' << noun << (count == 1 ? "" : "s");
+    separator = ", ";
+  };
+  print(logger.errorCount, "error");
+  print(logger.warningCount, "warning");
+  if (*separator != '\0') std::cerr << '\n';
+}
+
 ExitCode runGraph(const Graph& graph, const RunSettings& settings, const RunOptions& options,
-                  VtlCmdLogger& logger) {
+                  bool documentOnOutput, VtlCmdLogger& logger) {
   const PlugIn plugIn(options.report.plugInFile());
   rememberInterrupt();
-  // The standard output is the JSON report's when it goes there.
-  const bool jsonOnOutput = options.reportFile == ReportFile::standardOutput;
   MessagePrinter printer(logger, static_cast<std::int16_t>(settings.verbosity),
-                         options.report.streams(jsonOnOutput ? std::cerr : std::cout));
+                         options.report.streams(documentOnOutput ? std::cerr : std::cout));
   Progress progress(std::cerr, options.progress.value_or(errorsGoToTerminal()));
   Session session(graph, plugIn.translation(), settings, logger);
   const RunOutcome outcome = session.run(
@@ -127,6 +147,7 @@ ExitCode runGraph(const Graph& graph, const RunSettings& settings, const RunOpti
         progress.clear();
         printer.printNew();
       });
+  if (settings.verbosity >= levelVerbose) printCounts(logger);
   return exitCodeOf(outcome);
 }
 
@@ -138,20 +159,20 @@ void recordLoadFailure(VtlCmdLogger& logger, const std::string& graphFile, const
 
 ExitCode run(const RunOptions& options, const std::vector<std::string>& arguments) {
   VtlCmdLogger logger(options.report.printLimit());
-  ReportFile reportFile(options.reportFile);
+  RunReports reports(options.reports);
   std::vector<std::string> portNames;
   try {
     const Graph graph = loadGraph(options.graph);
     for (const GraphPort& port : graph.ports) portNames.push_back(port.name);
     const RunSettings settings = settingsFrom(options, graph, arguments);
-    reportFile.open();
-    const ExitCode code = runGraph(graph, settings, options, logger);
-    reportFile.write(logger, portNames);
+    reports.open();
+    const ExitCode code = runGraph(graph, settings, options, reports.useStandardOutput(), logger);
+    reports.write(logger, portNames);
     return code;
   } catch (const LoadError& error) {
     recordLoadFailure(logger, options.graph, error);
-    reportFile.open();
-    reportFile.write(logger, portNames);
+    reports.open();
+    reports.write(logger, portNames);
     throw;
   }
 }
@@ -161,6 +182,7 @@ ExitCode run(const RunOptions& options, const std::vector<std::string>& argument
 void addRunCommand(CLI::App& app, CommandState& state) {
   const auto options = std::make_shared<RunOptions>();
   CLI::App* command = app.add_subcommand("run", "Run a graph and report its outputs");
+  command->footer(footer);
   addOptions(*command, *options);
   command->callback([options, &state] { state.exitCode = run(*options, state.arguments); });
 }

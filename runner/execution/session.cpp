@@ -135,7 +135,14 @@ std::optional<Orvel::Value> Session::setInput(std::size_t index) {
 /// An output that the plug-in has no report for leaves a warning and doesn't stop the others.
 void Session::reportOutputs(const std::vector<Orvel::Value>& values) {
   for (const GraphOutput& output : graph_.outputs) {
-    reportOutput(translation_, output.name, values[output.source], settings_.outputForm, context_);
+    try {
+      reportOutput(translation_, output.name, values[output.source], settings_.outputForm,
+                   context_);
+    } catch (const std::exception& error) {
+      logger_.addMessage(
+          vtlcmdSource, levelError,
+          "Reporting output port " + inQuotes(output.name) + " failed: " + error.what());
+    }
   }
 }
 

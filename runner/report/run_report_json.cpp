@@ -1,5 +1,9 @@
 #include "report/run_report_json.h"
 
+#include <nlohmann/json.hpp>
+#include <ostream>
+
+#include "report/message_distribution.h"
 #include "text/library_text.h"
 #include "text/path_text.h"
 
@@ -7,17 +11,6 @@ namespace vtlcmd {
 namespace {
 
 using Json = nlohmann::ordered_json;
-
-std::string sourceName(LogSource source) {
-  return source == vtlcmdSource    ? "vtlcmd"
-         : source == vantrelSource ? "graph"
-                                   : std::to_string(source);
-}
-
-std::string levelName(LogLevel level) {
-  return level < VtlCmdLogger::levelNames.size() ? VtlCmdLogger::levelNames[level]
-                                                 : std::to_string(level);
-}
 
 Json messagesAsJson(const MessagesBySource& messages) {
   Json document = Json::object();
@@ -91,20 +84,14 @@ Json groupAsJson(const ReportGroup& group, const std::vector<std::string>& portN
 
 }  // namespace
 
-Json runReportAsJson(VtlCmdLogger& logger, const std::vector<std::string>& portNames) {
-  for (const LogMessage& message : logger.messages) {
-    MessagesBySource& messages = logger.messagesFor(message.groupIndex, message.entryIndex);
-    messages[message.source][message.level].push_back(message.text);
-  }
+void writeJsonReport(std::ostream& stream, const VtlCmdLogger& logger,
+                     const std::vector<std::string>& portNames) {
   Json groups = Json::array();
   for (const ReportGroup& group : logger.groups) groups.push_back(groupAsJson(group, portNames));
-  return {{"graph_errors", logger.errorCount},
-          {"graph_warnings", logger.warningCount},
-          {"groups", std::move(groups)}};
-}
-
-std::string runReportText(const Json& report) {
-  return report.dump(2, ' ', false, Json::error_handler_t::replace) + "\n";
+  const Json report{{"graph_errors", logger.errorCount},
+                    {"graph_warnings", logger.warningCount},
+                    {"groups", std::move(groups)}};
+  stream << report.dump(2, ' ', false, Json::error_handler_t::replace) << '\n';
 }
 
 }  // namespace vtlcmd

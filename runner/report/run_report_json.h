@@ -1,6 +1,6 @@
 #pragma once
 
-#include <nlohmann/json.hpp>
+#include <iosfwd>
 #include <string>
 #include <vector>
 
@@ -8,12 +8,10 @@
 
 namespace vtlcmd {
 
-/// All that a logger knows of its runs, as one document. Hands the logger's messages to the records
-/// that they belong to, so it is called once. `portNames` are the ports whose texts are told.
-nlohmann::ordered_json runReportAsJson(VtlCmdLogger& logger,
-                                       const std::vector<std::string>& portNames);
-
-/// The document's text. Bytes that are no UTF-8 text become replacement characters.
-std::string runReportText(const nlohmann::ordered_json& report);
+/// Writes all that a logger knows of its runs as one JSON document. Its messages must have been
+/// distributed. `portNames` are the ports whose texts are told. Bytes that are no UTF-8 text become
+/// replacement characters.
+void writeJsonReport(std::ostream& stream, const VtlCmdLogger& logger,
+                     const std::vector<std::string>& portNames);
 
 }  // namespace vtlcmd
