@@ -6,9 +6,10 @@
 #include <algorithm>
 #include <iostream>
 
-#include "build_facts.h"
 #include "command_line/commands.h"
+#include "command_line/completion.h"
 #include "command_line/usage_error.h"
+#include "command_line/version_text.h"
 #include "text/library_text.h"
 #include "text/load_error.h"
 #include "text/near_misses.h"
@@ -16,13 +17,22 @@
 namespace vtlcmd {
 namespace {
 
-std::string versionText() {
-  using namespace build_facts;
-  const std::string dot = ".";
-  return "vtlcmd " + std::string(majorVersion) + dot + minorVersion + dot + patchVersion + dot +
-         fourthVersion + " (" + buildDate + ", build " + buildNumber + ", commit " +
-         std::string(commit).substr(0, 7) + ", branch " + branch + ")";
-}
+constexpr const char* programFooter = R"(Examples:
+  vtlcmd ports examples/scatter.json
+  vtlcmd run examples/scatter.json -s count=1000 -s offset=10,0,-5 -j seed=7
+  vtlcmd show scan.ply temperatures.npy
+
+Exit codes:
+  0    all well
+  1    the run failed: a port got no value, or there was an error
+  2    the command line is wrong
+  3    the graph or the plug-in can't be loaded; nothing was run
+  130  interrupted
+
+Environment:
+  NO_COLOR                     when set and not empty, --color auto means never
+  QUILLON_DUMP_VERSION_INFO    when 1, the plug-in says at load who it is
+)";
 
 void refuseMissingOrUnknownCommand(const CLI::App& app, const std::vector<std::string>& arguments) {
   if (arguments.empty()) throw UsageError("a command is missing");
@@ -55,7 +65,12 @@ ExitCode refuse(const CLI::App& app, const std::string& text) {
   return ExitCode::usage;
 }
 
+}  // namespace
+
 void addCommands(CLI::App& app, CommandState& state) {
+  app.description("Runs compute graphs and reports their outputs.");
+  app.name("vtlcmd");
+  app.footer(programFooter);
   app.require_subcommand(1);
   app.set_version_flag("--version", versionText());
   addRunCommand(app, state);
@@ -65,12 +80,15 @@ void addCommands(CLI::App& app, CommandState& state) {
   addShowCommand(app, state);
 }
 
-}  // namespace
-
 ExitCode runCommandLine(const std::vector<std::string>& arguments) {
-  CLI::App app("Runs compute graphs and reports their outputs.", "vtlcmd");
   CommandState state{arguments};
+  CLI::App app;
   addCommands(app, state);
+  // Called by the shells' completion scripts; the words behind it are anything but a command line.
+  if (!arguments.empty() && arguments[0] == "complete") {
+    printCompletions(app, {arguments.begin() + 1, arguments.end()}, std::cout);
+    return ExitCode::success;
+  }
   try {
     refuseMissingOrUnknownCommand(app, arguments);
     // The parser takes its words from the back.

@@ -14,6 +14,9 @@ struct CommandState {
   ExitCode exitCode = ExitCode::success;
 };
 
+/// Makes `app` the program's command line. App and state must outlive the parse.
+void addCommands(CLI::App& app, CommandState& state);
+
 // Each adds a subcommand whose callback does the work. App and state must outlive the parse.
 void addRunCommand(CLI::App& app, CommandState& state);
 void addPortsCommand(CLI::App& app);

@@ -59,6 +59,10 @@ void addTypesCommand(CLI::App& app) {
   };
   const auto options = std::make_shared<Options>();
   CLI::App* command = app.add_subcommand("types", "List the types that the plug-in handles");
+  command->footer(R"(Examples:
+  vtlcmd types
+  vtlcmd types --plugin ./build/libVtlCmdTranslation.so --json
+)");
   addPlugInOption(*command, options->plugIn);
   command->add_flag("--json", options->json, "Print a JSON document");
   command->callback([options] {
@@ -74,6 +78,10 @@ void addTypesCommand(CLI::App& app) {
 void addNodesCommand(CLI::App& app) {
   const auto json = std::make_shared<bool>(false);
   CLI::App* command = app.add_subcommand("nodes", "List the operations that nodes can have");
+  command->footer(R"(Examples:
+  vtlcmd nodes
+  vtlcmd nodes --json | jq -r .[].op
+)");
   command->add_flag("--json", *json, "Print a JSON document");
   command->callback([json] {
     Json document = Json::array();

@@ -72,6 +72,10 @@ void addPortsCommand(CLI::App& app) {
   };
   const auto options = std::make_shared<Options>();
   CLI::App* command = app.add_subcommand("ports", "List the ports of a graph");
+  command->footer(R"(Examples:
+  vtlcmd ports scatter.json
+  vtlcmd ports scatter.json --json | jq '.ports[] | select(.kind == "input").name'
+)");
   command->add_option("GRAPH", options->graph, "Graph file")->required()->type_name("");
   command->add_flag("--json", options->json, "Print a JSON document");
   command->callback([options] {

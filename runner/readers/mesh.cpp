@@ -3,6 +3,7 @@
 #include <array>
 #include <assimp/Importer.hpp>
 #include <assimp/scene.h>
+#include <assimp/version.h>
 #include <bit>
 #include <map>
 #include <string_view>
@@ -141,6 +142,12 @@ ObjectPtr readMesh(const std::filesystem::path& file) {
   } catch (const ReadError& error) {
     throw ReadError(file.string() + ": " + error.what());
   }
+}
+
+std::string meshLibrary() {
+  const auto part = [](unsigned number) { return "." + std::to_string(number); };
+  return "Assimp " + std::to_string(aiGetVersionMajor()) + part(aiGetVersionMinor()) +
+         part(aiGetVersionPatch());
 }
 
 }  // namespace vtlcmd

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <string>
 
 #include "host/value_types.h"
 
@@ -12,5 +13,8 @@ namespace vtlcmd {
 /// them `normal`, `uv` and `color`, one a corner. Corners at equal positions share a point. In a
 /// file without faces every vertex is a point, and the data is by point. Throws ReadError.
 ObjectPtr readMesh(const std::filesystem::path& file);
+
+/// Name and version of the library that reads meshes.
+std::string meshLibrary();
 
 }  // namespace vtlcmd

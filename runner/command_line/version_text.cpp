@@ -1,0 +1,17 @@
+#include "command_line/version_text.h"
+
+#include "build_facts.h"
+#include "readers/mesh.h"
+
+namespace vtlcmd {
+
+std::string versionText() {
+  using namespace build_facts;
+  const std::string dot = ".";
+  return "vtlcmd " + std::string(majorVersion) + dot + minorVersion + dot + patchVersion + dot +
+         fourthVersion + "\ndate         " + buildDate + "\nbuild        " + buildNumber +
+         "\ncommit       " + commit + "\nbranch       " + branch + "\nmesh reader  " +
+         meshLibrary();
+}
+
+}  // namespace vtlcmd

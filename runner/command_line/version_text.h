@@ -1,0 +1,11 @@
+#pragma once
+
+#include <string>
+
+namespace vtlcmd {
+
+/// The program's version, the facts of its build and the optional parts it has, a line each, the
+/// last one without a line end.
+std::string versionText();
+
+}  // namespace vtlcmd
