@@ -1,0 +1,31 @@
+#!/usr/bin/env bash
+# check_files.sh PREFIX: the rules for the files of an installed tree.
+set -euo pipefail
+source_folder=$(cd "$(dirname "$0")/../.." && pwd)
+cd "$1"
+
+fail() {
+  echo "$PWD: $1" >&2
+  exit 1
+}
+
+# Libraries are looked for relative to whoever needs them, so that the tree can be moved.
+check_runpath() {
+  local found
+  found=$(readelf -d "$1" | sed -n 's/.*(R[A-Z]*PATH).*\[\(.*\)\]/\1/p')
+  [[ $found == "$2" ]] || fail "$1 looks for libraries in '$found', not in '$2'"
+}
+check_runpath bin/vtlcmd "\$ORIGIN/../lib"
+check_runpath lib/vtlcmd/libVtlCmdTranslation.so "\$ORIGIN/.."
+check_runpath lib/libOrvelCore.so ""
+for library in lib/libOrvelSDK.so lib/libVantrel*.so; do
+  check_runpath "$library" "\$ORIGIN"
+done
+
+with_path=$(printf '%s\n' "$source_folder"/{build,src,closed,runner}/ | grep -rlF -f - . || true)
+[[ -z $with_path ]] || fail "a path of the build is in $with_path"
+
+# What a header includes is installed too.
+(cd include/vtlcmd && find . -name '*.h' -printf '#include "%P"\n') |
+  g++ -std=c++20 -Wall -Wextra -Werror -fsyntax-only -I include/vtlcmd -x c++ - ||
+  fail "the headers don't compile"
