@@ -22,6 +22,14 @@ for library in lib/libOrvelSDK.so lib/libVantrel*.so; do
   check_runpath "$library" "\$ORIGIN"
 done
 
+for command in $(bin/vtlcmd complete '' | cut -f1); do
+  [[ -s share/man/man1/vtlcmd-$command.1 ]] || fail "there is no manual page of $command"
+done
+for file in bash-completion/completions/vtlcmd zsh/vendor-completions/_vtlcmd \
+  fish/vendor_completions.d/vtlcmd.fish; do
+  [[ -s share/$file ]] || fail "there is no share/$file"
+done
+
 with_path=$(printf '%s\n' "$source_folder"/{build,src,closed,runner}/ | grep -rlF -f - . || true)
 [[ -z $with_path ]] || fail "a path of the build is in $with_path"
 
