@@ -24,6 +24,10 @@ void removeLineEnd(std::string& text) {
 
 }  // namespace
 
+PortTexts::PortTexts(const Graph& graph) : graph_(graph) {
+  for (const GraphPort& port : graph.ports) ports_.emplace(port.name, &port);
+}
+
 void PortTexts::setInput(const std::string& assignment) {
   const auto [name, text] = split(assignment);
   const GraphPort& port = findPort(name);
@@ -48,11 +52,10 @@ void PortTexts::setFromFile(const std::string& assignment) {
 }
 
 const GraphPort& PortTexts::findPort(const std::string& name) const {
+  const auto found = ports_.find(name);
+  if (found != ports_.end()) return *found->second;
   std::vector<std::string> known;
-  for (const GraphPort& port : graph_.ports) {
-    if (port.name == name) return port;
-    known.push_back(port.name);
-  }
+  for (const GraphPort& port : graph_.ports) known.push_back(port.name);
   throw UsageError("the graph " + inQuotes(graph_.name) + " has no port " + inQuotes(name) +
                    nearMissHint(name, known));
 }

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <map>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -12,7 +14,8 @@ namespace vtlcmd {
 /// The texts that a user gives for ports, sorted into the two maps of the plug-in.
 class PortTexts {
  public:
-  explicit PortTexts(const Graph& graph) : graph_(graph) {}
+  /// The graph must outlive this.
+  explicit PortTexts(const Graph& graph);
 
   /// From `PORT=TEXT`, for an input. A later text for a port replaces the earlier. Throws
   /// UsageError for an unknown port.
@@ -31,6 +34,7 @@ class PortTexts {
   void set(const GraphPort& port, const std::string& text);
 
   const Graph& graph_;
+  std::map<std::string_view, const GraphPort*> ports_;
   PortValueMap inputs_;
   PortValueMap jobs_;
 };

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <map>
+#include <set>
 
 #include "graph/evaluation_order.h"
 #include "graph/graph_error.h"
@@ -192,9 +193,8 @@ class GraphBuilder {
   void addOutput(const JsonPlace& place) {
     place.allowMembers({"name", "description", "from"});
     const JsonPlace name = place.requiredMember("name");
-    for (const GraphOutput& output : graph_.outputs) {
-      if (output.name == name.name()) name.fail("the name " + inQuotes(output.name) + " is taken");
-    }
+    if (!outputNames_.insert(name.name()).second)
+      name.fail("the name " + inQuotes(name.name()) + " is taken");
     graph_.outputs.push_back(
         {name.name(), descriptionAt(place), slotNamed(place.requiredMember("from"))});
   }
@@ -203,6 +203,7 @@ class GraphBuilder {
   Graph graph_;
   std::vector<JsonPlace> nodePlaces_;
   std::map<std::string, std::size_t> slots_;
+  std::set<std::string> outputNames_;
 };
 
 }  // namespace
