@@ -42,7 +42,7 @@ for description in "$new"/*; do
   name=$(basename "$description")
   report=$(abidiff --harmless --no-show-locs --suppressions "$suppressions" \
     "$here/baseline/$name" "$description") || {
-    printf '%s: not as in the baseline\n%s\n' "$name" "$report"
+    printf '%s: not as in the baseline; ./dev abi-baseline renews it\n%s\n' "$name" "$report"
     changed=1
   }
 done
