@@ -54,6 +54,7 @@ def all_targets():
         Target("g++, MinGW", [MINGW], "!__clang__ && __MINGW64__"),
         Target("clang++, MinGW", [*foreign, "--target=x86_64-w64-mingw32", *mingw_headers()],
                "__clang__ && __MINGW64__"),
+        # The stand-in headers declare what the border's headers name, in that library's sizes.
         Target("clang++, Microsoft", [*foreign, "--target=x86_64-pc-windows-msvc",
                                       f"-isystem{HERE / 'microsoft_headers'}"],
                "__clang__ && _MSC_VER", itanium=False),
