@@ -11,7 +11,7 @@ std::string versionText() {
   return "vtlcmd " + std::string(majorVersion) + dot + minorVersion + dot + patchVersion + dot +
          fourthVersion + "\ndate         " + buildDate + "\nbuild        " + buildNumber +
          "\ncommit       " + commit + "\nbranch       " + branch + "\nmesh reader  " +
-         meshLibrary();
+         meshReaderName();
 }
 
 }  // namespace vtlcmd

@@ -127,6 +127,11 @@ class MeshBuilder {
 
 }  // namespace
 
+std::string meshReaderName() {
+  return "Assimp " + std::to_string(aiGetVersionMajor()) + "." +
+         std::to_string(aiGetVersionMinor());
+}
+
 ObjectPtr readMesh(const std::filesystem::path& file) {
   Assimp::Importer importer;
   const aiScene* scene = importer.ReadFile(file.string(), 0);
@@ -142,12 +147,6 @@ ObjectPtr readMesh(const std::filesystem::path& file) {
   } catch (const ReadError& error) {
     throw ReadError(file.string() + ": " + error.what());
   }
-}
-
-std::string meshLibrary() {
-  const auto part = [](unsigned number) { return "." + std::to_string(number); };
-  return "Assimp " + std::to_string(aiGetVersionMajor()) + part(aiGetVersionMinor()) +
-         part(aiGetVersionPatch());
 }
 
 }  // namespace vtlcmd

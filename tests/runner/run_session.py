@@ -8,6 +8,7 @@ A session file is a list of steps:
     > a line of the standard output, expected
     ! a line of the standard error stream, expected
     = 0                                               the exit code, expected
+    ? a regular expression                            the step needs it in `vtlcmd --version`
 
 Control characters stand as \\x1b; a last line without line end has one more backslash behind it.
 {{...}} in an expected line is a regular expression. With --accept, steps that differ are rewritten
@@ -27,11 +28,13 @@ class Step:
     def __init__(self, command):
         self.command = command
         self.comments = []
+        self.needs = []
         self.input = []
         self.expected = []
 
     def lines(self):
-        return [*self.comments, "$ " + self.command, *("< " + line for line in self.input),
+        return [*self.comments, "$ " + self.command, *("? " + need for need in self.needs),
+                *("< " + line for line in self.input),
                 *self.expected]
 
 
@@ -44,6 +47,8 @@ def read_steps(path):
                 steps[-1].comments, comments = comments, []
             elif line == "" or line.startswith("#"):
                 comments.append(line)
+            elif line.startswith("? ") and steps:
+                steps[-1].needs.append(line[2:])
             elif line.startswith("< ") and steps:
                 steps[-1].input.append(line[2:])
             elif line[:2] in ("> ", "! ", "= ") and steps:
@@ -103,8 +108,13 @@ def main():
 
     steps, rest = read_steps(arguments.session)
     failed = False
+    program = os.path.abspath(arguments.program)
+    version = subprocess.check_output([program, "--version"], text=True)
     for step in steps:
-        actual = play(step, os.path.abspath(arguments.program), arguments.folder)
+        if not all(re.search(need, version) for need in step.needs):
+            print(f"not played: {step.command}")
+            continue
+        actual = play(step, program, arguments.folder)
         if matches(step.expected, actual):
             continue
         failed = True

@@ -11,8 +11,14 @@
 namespace vtlcmd {
 namespace {
 
+bool hasReader() { return meshReaderName() != "none"; }
+
 class Mesh : public testing::Test {
  protected:
+  void SetUp() override {
+    if (!hasReader()) GTEST_SKIP() << "built without a mesh reader";
+  }
+
   ObjectPtr read(const std::string& name, const std::string& text) {
     const std::filesystem::path file = std::filesystem::path(testing::TempDir()) / name;
     std::ofstream(file, std::ios::binary) << text;
@@ -102,6 +108,16 @@ TEST_F(Mesh, BrokenFilesAreNamed) {
     FAIL();
   } catch (const ReadError& error) {
     EXPECT_NE(std::string(error.what()).find("broken.ply: "), std::string::npos) << error.what();
+  }
+}
+
+TEST(MeshWithoutReader, IsRefused) {
+  if (hasReader()) GTEST_SKIP() << "built with a mesh reader";
+  try {
+    readMesh("some.obj");
+    FAIL();
+  } catch (const ReadError& error) {
+    EXPECT_STREQ(error.what(), "some.obj: this program was built without a mesh reader");
   }
 }
 
