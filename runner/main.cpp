@@ -2,12 +2,14 @@
 #include <iostream>
 
 #include "command_line/command_line.h"
+#include "platform/process.h"
 
 int main(int count, char** words) {
   using vtlcmd::ExitCode;
   ExitCode code = ExitCode::runFailed;
   try {
-    code = vtlcmd::runCommandLine({words + (count > 0 ? 1 : 0), words + count});
+    vtlcmd::prepareStandardStreams();
+    code = vtlcmd::runCommandLine(vtlcmd::commandLineWords(count, words));
   } catch (const std::exception& error) {
     std::cerr << "vtlcmd: " << error.what() << '\n';
   }

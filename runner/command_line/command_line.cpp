@@ -71,6 +71,8 @@ void addCommands(CLI::App& app, CommandState& state) {
   app.description("Runs compute graphs and reports their outputs.");
   app.name("vtlcmd");
   app.footer(programFooter);
+  // Options look alike on every platform, and a path may begin with a slash.
+  app.allow_windows_style_options(false);
   app.require_subcommand(1);
   app.set_version_flag("--version", versionText());
   addRunCommand(app, state);

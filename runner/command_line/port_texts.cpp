@@ -6,6 +6,7 @@
 #include "readers/file_text.h"
 #include "text/library_text.h"
 #include "text/near_misses.h"
+#include "text/path_text.h"
 
 namespace vtlcmd {
 namespace {
@@ -45,7 +46,7 @@ void PortTexts::setJob(const std::string& assignment) {
 void PortTexts::setFromFile(const std::string& assignment) {
   const auto [name, path] = split(assignment);
   const GraphPort& port = findPort(name);
-  std::optional<std::string> text = path == "-" ? readStream(std::cin) : readFile(path);
+  std::optional<std::string> text = path == "-" ? readStream(std::cin) : readFile(filePath(path));
   if (!text) throw UsageError("the text for port " + inQuotes(name) + " can't be read: " + path);
   removeLineEnd(*text);
   set(port, *text);

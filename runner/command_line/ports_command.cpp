@@ -5,6 +5,7 @@
 
 #include "command_line/commands.h"
 #include "graph/graph.h"
+#include "text/path_text.h"
 
 namespace vtlcmd {
 namespace {
@@ -79,7 +80,7 @@ void addPortsCommand(CLI::App& app) {
   command->add_option("GRAPH", options->graph, "Graph file")->required()->type_name("");
   command->add_flag("--json", options->json, "Print a JSON document");
   command->callback([options] {
-    const Graph graph = loadGraph(options->graph);
+    const Graph graph = loadGraph(filePath(options->graph));
     options->json ? printJson(graph) : printTable(portRows(graph));
   });
 }

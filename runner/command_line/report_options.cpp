@@ -5,6 +5,7 @@
 #include "command_line/option_values.h"
 #include "command_line/terminal.h"
 #include "execution/plug_in.h"
+#include "text/path_text.h"
 
 namespace vtlcmd {
 
@@ -55,7 +56,7 @@ CLI::Option* addPlugInOption(CLI::App& command, std::string& plugIn) {
 }
 
 std::filesystem::path plugInFileFrom(const std::string& option) {
-  return option.empty() ? ownPlugIn() : std::filesystem::path(option);
+  return option.empty() ? ownPlugIn() : filePath(option);
 }
 
 }  // namespace vtlcmd

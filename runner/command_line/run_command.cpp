@@ -7,12 +7,13 @@
 #include "command_line/port_texts.h"
 #include "command_line/report_options.h"
 #include "command_line/run_reports.h"
-#include "command_line/terminal.h"
 #include "execution/interrupt.h"
 #include "execution/progress.h"
 #include "execution/session.h"
 #include "graph/graph.h"
+#include "platform/process.h"
 #include "text/load_error.h"
+#include "text/path_text.h"
 
 namespace vtlcmd {
 namespace {
@@ -91,7 +92,7 @@ RunSettings settingsFrom(const RunOptions& options, const Graph& graph,
   for (const std::string& assignment : options.inputs) texts.setInput(assignment);
   for (const std::string& assignment : options.jobs) texts.setJob(assignment);
   RunSettings settings;
-  settings.graphFile = options.graph;
+  settings.graphFile = filePath(options.graph);
   settings.arguments = std::move(arguments);
   settings.inputValues = texts.inputs();
   settings.jobValues = texts.jobs();
@@ -162,7 +163,7 @@ ExitCode run(const RunOptions& options, const std::vector<std::string>& argument
   RunReports reports(options.reports);
   std::vector<std::string> portNames;
   try {
-    const Graph graph = loadGraph(options.graph);
+    const Graph graph = loadGraph(filePath(options.graph));
     for (const GraphPort& port : graph.ports) portNames.push_back(port.name);
     const RunSettings settings = settingsFrom(options, graph, arguments);
     reports.open();

@@ -11,7 +11,8 @@ namespace vtlcmd {
 namespace {
 
 std::string refusal(const ReportFile& file, const std::system_error& error) {
-  return "the report can't be written to " + file.target() + ": " + error.code().message();
+  return "the report can't be written to " + file.target() + ": " +
+         error.code().default_error_condition().message();
 }
 
 }  // namespace

@@ -8,6 +8,7 @@
 #include "readers/mesh.h"
 #include "readers/npy.h"
 #include "readers/read_error.h"
+#include "text/path_text.h"
 
 namespace vtlcmd {
 namespace {
@@ -28,7 +29,7 @@ bool show(const std::string& file, const ShowOptions& options,
           const PlugIn::Translation& translation, RunContext& context) {
   const EntryScope entry(*context.logger, {});
   try {
-    return reportOutput(translation, file, readData(file, options.vectors),
+    return reportOutput(translation, file, readData(filePath(file), options.vectors),
                         options.report.outputForm(), context);
   } catch (const std::exception& error) {
     context.logger->addMessage(vtlcmdSource, levelError, error.what());

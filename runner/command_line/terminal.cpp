@@ -2,21 +2,9 @@
 
 #include <cstdlib>
 
-#if defined(_WIN32)
-#include <io.h>
-#else
-#include <unistd.h>
-#endif
+#include "platform/process.h"
 
 namespace vtlcmd {
-
-bool errorsGoToTerminal() {
-#if defined(_WIN32)
-  return _isatty(2) != 0;
-#else
-  return ::isatty(STDERR_FILENO) != 0;
-#endif
-}
 
 bool wantsColor(const std::string& choice) {
   if (choice != "auto") return choice == "always";

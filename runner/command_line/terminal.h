@@ -4,9 +4,6 @@
 
 namespace vtlcmd {
 
-/// Whether the process's standard error stream is a terminal.
-bool errorsGoToTerminal();
-
 /// Whether problems are printed in colour under `--color auto`, `always` or `never`. Automatic
 /// means: on a terminal, unless the environment has a NO_COLOR that isn't empty.
 bool wantsColor(const std::string& choice);

@@ -1,14 +1,17 @@
 #include "execution/interrupt.h"
 
+#include <atomic>
 #include <csignal>
 
 namespace vtlcmd {
 namespace {
 
-volatile std::sig_atomic_t requested = 0;
+// Set by a signal handler, which runs on a thread of its own on some platforms.
+std::atomic<bool> requested;
+static_assert(std::atomic<bool>::is_always_lock_free);
 
 extern "C" void onInterrupt(int signal) {
-  requested = 1;
+  requested = true;
   static_cast<void>(std::signal(signal, SIG_DFL));
 }
 
@@ -16,6 +19,6 @@ extern "C" void onInterrupt(int signal) {
 
 void rememberInterrupt() { static_cast<void>(std::signal(SIGINT, onInterrupt)); }
 
-bool interruptRequested() noexcept { return requested != 0; }
+bool interruptRequested() noexcept { return requested; }
 
 }  // namespace vtlcmd

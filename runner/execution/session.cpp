@@ -8,6 +8,7 @@
 #include "execution/interrupt.h"
 #include "orvel_sdk/any_bridge.h"
 #include "text/library_text.h"
+#include "text/path_text.h"
 
 namespace vtlcmd {
 namespace {
@@ -67,7 +68,7 @@ RunOutcome Session::run(const std::function<void(std::size_t)>& beforeFrame,
 RunDescription Session::describe(std::size_t frameIndex) const {
   RunDescription description;
   description.graphName = graph_.name;
-  description.graphFile = settings_.graphFile.string();
+  description.graphFile = fileText(settings_.graphFile);
   description.arguments = settings_.arguments;
   description.frameIndex = static_cast<std::uint32_t>(frameIndex);
   description.frameCount = static_cast<std::uint32_t>(settings_.frames.size());

@@ -13,6 +13,7 @@
 #include "readers/file_text.h"
 #include "text/library_text.h"
 #include "text/near_misses.h"
+#include "text/path_text.h"
 
 namespace vtlcmd {
 namespace {
@@ -215,13 +216,13 @@ Graph parseGraph(std::string_view text) {
 
 Graph loadGraph(const std::filesystem::path& file) {
   const std::optional<std::string> text = readFile(file);
-  if (!text) throw GraphError(file.string(), "the file can't be read");
+  if (!text) throw GraphError(fileText(file), "the file can't be read");
   try {
     Graph graph = parseGraph(*text);
-    if (graph.name.empty()) graph.name = file.stem().string();
+    if (graph.name.empty()) graph.name = fileText(file.stem());
     return graph;
   } catch (const GraphError& error) {
-    throw GraphError(file.string(), error.what());
+    throw GraphError(fileText(file), error.what());
   }
 }
 

@@ -3,6 +3,7 @@
 #include "readers/mesh.h"
 #include "readers/npy.h"
 #include "text/library_text.h"
+#include "text/path_text.h"
 #include "values/type_dispatch.h"
 
 namespace vtlcmd::node_families {
@@ -10,7 +11,7 @@ namespace {
 
 /// A relative path is looked up in the working directory, then beside the graph file.
 std::filesystem::path fileArgument(const NodeCall& call) {
-  std::filesystem::path file(standardText(call[0].getString()));
+  std::filesystem::path file = filePath(standardText(call[0].getString()));
   std::error_code error;
   if (file.is_relative() && !std::filesystem::exists(file, error)) {
     std::filesystem::path beside = call.graphFolder / file;
@@ -33,7 +34,7 @@ Orvel::Value readArray(const NodeCall& call) {
   Orvel::Value value = readNpy(file, elementsFor(call.resultType));
   const std::string type = value.getType().getFullyQualifiedName().c_str();
   if (type != nameOf(call.resultType))
-    throw NodeError(file.string() + " holds " + type + ", not " + nameOf(call.resultType));
+    throw NodeError(fileText(file) + " holds " + type + ", not " + nameOf(call.resultType));
   return value;
 }
 

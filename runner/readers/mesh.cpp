@@ -12,6 +12,7 @@
 #include "host/value_types.h"
 #include "readers/read_error.h"
 #include "text/library_text.h"
+#include "text/path_text.h"
 #include "values/library_array.h"
 #include "vantrel_geometry/geometry_builder.h"
 
@@ -134,18 +135,18 @@ std::string meshReaderName() {
 
 ObjectPtr readMesh(const std::filesystem::path& file) {
   Assimp::Importer importer;
-  const aiScene* scene = importer.ReadFile(file.string(), 0);
+  const aiScene* scene = importer.ReadFile(fileText(file), 0);
   if (scene == nullptr || scene->mRootNode == nullptr) {
     std::string reason = importer.GetErrorString();
     if (reason.ends_with('.')) reason.pop_back();
-    throw ReadError(file.string() + ": " + reason);
+    throw ReadError(fileText(file) + ": " + reason);
   }
   try {
     MeshBuilder builder;
     builder.addNode(*scene, *scene->mRootNode, aiMatrix4x4());
     return builder.build();
   } catch (const ReadError& error) {
-    throw ReadError(file.string() + ": " + error.what());
+    throw ReadError(fileText(file) + ": " + error.what());
   }
 }
 

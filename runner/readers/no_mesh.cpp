@@ -1,5 +1,6 @@
 #include "readers/mesh.h"
 #include "readers/read_error.h"
+#include "text/path_text.h"
 
 /// For builds without a library that reads meshes.
 
@@ -8,7 +9,7 @@ namespace vtlcmd {
 std::string meshReaderName() { return "none"; }
 
 ObjectPtr readMesh(const std::filesystem::path& file) {
-  throw ReadError(file.string() + ": this program was built without a mesh reader");
+  throw ReadError(fileText(file) + ": this program was built without a mesh reader");
 }
 
 }  // namespace vtlcmd

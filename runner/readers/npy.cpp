@@ -12,6 +12,7 @@
 #include "readers/npy_values.h"
 #include "readers/read_error.h"
 #include "text/library_text.h"
+#include "text/path_text.h"
 
 namespace vtlcmd {
 namespace {
@@ -125,9 +126,9 @@ Orvel::Value readNpy(const std::filesystem::path& file, NpyElements form) {
     const MappedFile mapped(file);
     return parseNpy(mapped.bytes(), form, [&](std::size_t count) { mapped.release(count); });
   } catch (const ReadError& error) {
-    throw ReadError(file.string() + ": " + error.what());
+    throw ReadError(fileText(file) + ": " + error.what());
   } catch (const std::system_error& error) {
-    throw ReadError(file.string() + ": " + error.code().message());
+    throw ReadError(fileText(file) + ": " + error.code().default_error_condition().message());
   }
 }
 

@@ -1,39 +1,59 @@
 #include "text/path_text.h"
 
-#include <filesystem>
 #include <system_error>
 
 #include "text/utf8.h"
 
 namespace vtlcmd {
+namespace {
 
-#if defined(_WIN32)
+/// Whether a wide character takes two units beyond the first 65536 characters.
+constexpr bool unitsArePaired = sizeof(wchar_t) == 2;
 
-HostPath widePath(std::string_view path) { return std::filesystem::path(path).wstring(); }
-
-std::string utf8Path(const HostPath& path) {
-  const std::u8string text = std::filesystem::path(path).u8string();
-  return {text.begin(), text.end()};
+char32_t paired(char32_t high, char32_t low) {
+  return 0x10000 + ((high & 0x3FFU) << 10U) + (low & 0x3FFU);
 }
 
-#else
+/// Takes the first character off a wide text, or what stands there and is none.
+char32_t takeCharacter(std::wstring_view& text) {
+  const auto unit = [&text](std::size_t i) { return static_cast<char32_t>(text[i]); };
+  const bool isPair = unitsArePaired && text.size() > 1 && (unit(0) & 0xFC00U) == 0xD800U &&
+                      (unit(1) & 0xFC00U) == 0xDC00U;
+  const char32_t character = isPair ? paired(unit(0), unit(1)) : unit(0);
+  text.remove_prefix(isPair ? 2 : 1);
+  return character;
+}
+
+}  // namespace
 
 HostPath widePath(std::string_view path) {
   HostPath wide;
+  const auto put = [&wide](char32_t unit) { wide.push_back(static_cast<wchar_t>(unit)); };
   while (!path.empty()) {
     const std::optional<char32_t> character = takeCharacter(path);
     if (!character) throw std::system_error(std::make_error_code(std::errc::illegal_byte_sequence));
-    wide.push_back(static_cast<wchar_t>(*character));
+    if (unitsArePaired && *character >= 0x10000) {
+      put(0xD800U + ((*character - 0x10000U) >> 10U));
+      put(0xDC00U + (*character & 0x3FFU));
+    } else {
+      put(*character);
+    }
   }
   return wide;
 }
 
 std::string utf8Path(const HostPath& path) {
   std::string text;
-  for (const wchar_t wide : path) appendCharacter(text, static_cast<char32_t>(wide));
+  for (std::wstring_view rest = path; !rest.empty();) appendCharacter(text, takeCharacter(rest));
   return text;
 }
 
+#if defined(_WIN32)
+std::filesystem::path filePath(std::string_view text) { return widePath(text); }
+std::string fileText(const std::filesystem::path& file) { return utf8Path(file.native()); }
+#else
+std::filesystem::path filePath(std::string_view text) { return text; }
+std::string fileText(const std::filesystem::path& file) { return file.native(); }
 #endif
 
 }  // namespace vtlcmd

@@ -4,7 +4,7 @@
 #include <sstream>
 
 #if defined(_WIN32)
-#include <io.h>
+#include <windows.h>
 #else
 #include <fcntl.h>
 #include <unistd.h>
@@ -15,10 +15,13 @@
 namespace vtlcmd::build_identity {
 namespace {
 
+// A stream keeps its number when what is under it is closed; so that is asked too.
 #if defined(_WIN32)
-bool hasErrorStream() { return _fileno(stderr) >= 0; }
+bool hasErrorStream() {
+  const HANDLE handle = GetStdHandle(STD_ERROR_HANDLE);
+  return _fileno(stderr) >= 0 && handle != nullptr && handle != INVALID_HANDLE_VALUE;
+}
 #else
-// The stream keeps its number when its descriptor is closed; so the descriptor is asked too.
 bool hasErrorStream() {
   const int descriptor = fileno(stderr);
   return descriptor >= 0 && fcntl(descriptor, F_GETFD) != -1;

@@ -1,5 +1,6 @@
 #include "text/path_text.h"
 
+#include <cstdint>
 #include <gtest/gtest.h>
 #include <system_error>
 
@@ -25,9 +26,14 @@ TEST(Utf8Path, IsTheWayBack) {
 }
 
 TEST(Utf8Path, WritesAQuestionMarkForWhatIsNoCharacter) {
-  const HostPath path{L'a', static_cast<wchar_t>(0xD800), static_cast<wchar_t>(0x110000),
-                      static_cast<wchar_t>(-1)};
-  EXPECT_EQ(utf8Path(path), "a???");
+  for (const auto unit : {0xD800, 0xDBFF, 0xDC00, 0xDFFF})
+    EXPECT_EQ(utf8Path({L'a', static_cast<wchar_t>(unit), L'b'}), "a?b") << unit;
+  EXPECT_EQ(utf8Path({static_cast<wchar_t>(0xDC00), static_cast<wchar_t>(0xD800)}), "??");
+  // Wider units than those of UTF-16 can hold what lies beyond the last character.
+  if (sizeof(wchar_t) > 2) {
+    const std::uint32_t beyond = 0x110000;
+    EXPECT_EQ(utf8Path({static_cast<wchar_t>(beyond), static_cast<wchar_t>(-1)}), "??");
+  }
 }
 
 TEST(WidePath, RefusesWhatIsNoText) {
@@ -35,6 +41,12 @@ TEST(WidePath, RefusesWhatIsNoText) {
        {"\xFF", "\x80", "a\xC3", "\xC3(", "\xC0\x80", "\xC1\xBF", "\xE0\x9F\xBF", "\xED\xA0\x80",
         "\xED\xBF\xBF", "\xF0\x8F\xBF\xBF", "\xF4\x90\x80\x80", "\xF8\x88\x80\x80\x80", "\xE2\x82"})
     EXPECT_THROW(widePath(path), std::system_error) << path;
+}
+
+TEST(FilePath, KeepsTheCharacters) {
+  EXPECT_EQ(filePath("b\xC3\xA4r.npy").u8string(), u8"b\u00e4r.npy");
+  EXPECT_EQ(fileText(filePath("b\xC3\xA4r/\xF0\x9F\x8E\xAC.npy")),
+            "b\xC3\xA4r/\xF0\x9F\x8E\xAC.npy");
 }
 
 }  // namespace

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+/// What the platform knows of this process.
+
+namespace vtlcmd {
+
+/// The words behind the program's name. On Windows in UTF-8, from the command line in wide
+/// characters and not from `words`; elsewhere as they are.
+std::vector<std::string> commandLineWords(int count, char** words);
+
+/// Makes the standard streams carry the program's bytes as they are, and consoles read them as
+/// UTF-8. To be called once, before anything is written.
+void prepareStandardStreams();
+
+/// Whether standard error is a terminal that understands control sequences.
+bool errorsGoToTerminal();
+
+/// This program's file, with its absolute path; empty when the platform doesn't tell.
+std::filesystem::path ownFile();
+
+}  // namespace vtlcmd

@@ -1,0 +1,50 @@
+#include <cstdio>
+#include <cstdlib>
+#include <fcntl.h>
+#include <io.h>
+#include <memory>
+#include <windows.h>
+
+#include "platform/process.h"
+#include "text/path_text.h"
+
+namespace vtlcmd {
+namespace {
+
+/// The code page that the console had before this program.
+UINT codePageBefore = 0;
+
+}  // namespace
+
+std::vector<std::string> commandLineWords(int, char**) {
+  int count = 0;
+  const std::unique_ptr<LPWSTR[], decltype(&LocalFree)> words(
+      CommandLineToArgvW(GetCommandLineW(), &count), LocalFree);
+  std::vector<std::string> texts;
+  for (int i = 1; i < count; ++i) texts.push_back(utf8Path(words[static_cast<std::size_t>(i)]));
+  return texts;
+}
+
+void prepareStandardStreams() {
+  for (std::FILE* stream : {stdin, stdout, stderr}) _setmode(_fileno(stream), _O_BINARY);
+  codePageBefore = GetConsoleOutputCP();
+  if (codePageBefore == 0 || SetConsoleOutputCP(CP_UTF8) == 0) return;
+  std::atexit([] { SetConsoleOutputCP(codePageBefore); });
+}
+
+bool errorsGoToTerminal() {
+  const HANDLE errors = GetStdHandle(STD_ERROR_HANDLE);
+  DWORD mode = 0;
+  return GetConsoleMode(errors, &mode) != 0 &&
+         SetConsoleMode(errors,
+                        mode | ENABLE_PROCESSED_OUTPUT | ENABLE_VIRTUAL_TERMINAL_PROCESSING) != 0;
+}
+
+std::filesystem::path ownFile() {
+  constexpr std::size_t longestPath = 32768;
+  std::wstring path(longestPath, L'\0');
+  path.resize(GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size())));
+  return path;
+}
+
+}  // namespace vtlcmd
