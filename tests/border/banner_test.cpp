@@ -1,37 +1,25 @@
-#include <array>
-#include <cstdlib>
 #include <gtest/gtest.h>
 #include <regex>
 #include <string>
-#include <sys/wait.h>
-#include <unistd.h>
+
+#include "support/process.h"
 
 namespace {
+
+using vtlcmd::testing::EndedProgram;
+using vtlcmd::testing::ErrorStream;
+
+EndedProgram loadPlugIn(const char* value, ErrorStream errors) {
+  vtlcmd::testing::setEnvironment("QUILLON_DUMP_VERSION_INFO", value);
+  return vtlcmd::testing::runProgram(VTLCMD_LOADER, VTLCMD_PLUG_IN, errors);
+}
 
 /// What a fresh process that loads the plug-in and ends writes to its error stream. A null value
 /// leaves the variable unset.
 std::string errorTextOfLoading(const char* value) {
-  std::array<int, 2> pipeEnds{};
-  EXPECT_EQ(pipe(pipeEnds.data()), 0);
-  const pid_t child = fork();
-  if (child == 0) {
-    dup2(pipeEnds[1], STDERR_FILENO);
-    unsetenv("QUILLON_DUMP_VERSION_INFO");
-    if (value != nullptr) setenv("QUILLON_DUMP_VERSION_INFO", value, 1);
-    execl(VTLCMD_LOADER, VTLCMD_LOADER, VTLCMD_PLUG_IN, nullptr);
-    _exit(127);
-  }
-  close(pipeEnds[1]);
-  std::string text;
-  std::array<char, 4096> buffer{};
-  for (ssize_t size = 0; (size = read(pipeEnds[0], buffer.data(), buffer.size())) > 0;) {
-    text.append(buffer.data(), static_cast<std::size_t>(size));
-  }
-  close(pipeEnds[0]);
-  int status = 0;
-  waitpid(child, &status, 0);
-  EXPECT_EQ(status, 0);
-  return text;
+  const EndedProgram ended = loadPlugIn(value, ErrorStream::read);
+  EXPECT_EQ(ended.exitCode, 0);
+  return ended.errorText;
 }
 
 TEST(Banner, IsWrittenOnceWhileLoadingWhenAskedFor) {
@@ -50,6 +38,12 @@ TEST(Banner, IsSilentOtherwise) {
   for (const char* value : {"0", "", "yes", "true", "x1"}) {
     EXPECT_EQ(errorTextOfLoading(value), "") << value;
   }
+}
+
+TEST(Banner, LoadingGoesWellWithoutAnErrorStream) {
+  const EndedProgram ended = loadPlugIn("1", ErrorStream::none);
+  EXPECT_EQ(ended.exitCode, 0);
+  EXPECT_EQ(ended.errorText, "");
 }
 
 }  // namespace

@@ -1,5 +1,5 @@
 #include <array>
-#include <dlfcn.h>
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <string>
 
@@ -11,34 +11,30 @@
 #include "logging/vtlcmd_logger.h"
 #include "orvel_sdk/type_factory.h"
 #include "orvel_sdk/value_factory.h"
+#include "support/loaded_library.h"
 
 namespace vtlcmd {
 namespace {
 
+using ::testing::HasSubstr;
 using VantrelGraph::Executor::TypeTranslation;
 using VantrelGraph::Executor::TypeTranslationPreview;
 
 /// The plug-in as a host sees it: a file with one function.
 class LoadedPlugIn {
  public:
-  LoadedPlugIn() : library_(dlopen(VTLCMD_PLUG_IN, RTLD_NOW | RTLD_LOCAL)) {
-    EXPECT_NE(library_, nullptr) << dlerror();
-  }
+  LoadedPlugIn() : library_(testing::loadLibrary(VTLCMD_PLUG_IN)) { EXPECT_NE(library_, nullptr); }
   LoadedPlugIn(const LoadedPlugIn&) = delete;
   LoadedPlugIn& operator=(const LoadedPlugIn&) = delete;
-  ~LoadedPlugIn() { EXPECT_EQ(dlclose(library_), 0); }
+  ~LoadedPlugIn() { EXPECT_TRUE(testing::unloadLibrary(library_)); }
 
   TypeTranslation* create() const {
-    auto* function =
-        reinterpret_cast<TypeTranslation* (*)()>(dlsym(library_, "createVantrelTypeTranslation"));
+    auto* function = reinterpret_cast<TypeTranslation* (*)()>(
+        testing::functionOf(library_, "createVantrelTypeTranslation"));
     return function();
   }
 
-  static bool isInProcess() {
-    void* again = dlopen(VTLCMD_PLUG_IN, RTLD_NOW | RTLD_NOLOAD);
-    if (again != nullptr) dlclose(again);
-    return again != nullptr;
-  }
+  static bool isInProcess() { return testing::isLibraryLoaded(VTLCMD_PLUG_IN); }
 
  private:
   void* library_;
@@ -72,12 +68,8 @@ class PlugIn : public ::testing::Test {
     void* const* table = *reinterpret_cast<void* const* const*>(object_);
     return table[entryOf(slotNumber)];
   }
-  std::string fileOfSlot(std::size_t number) const {
-    Dl_info info{};
-    EXPECT_NE(dladdr(entry(number), &info), 0);
-    const std::string path = info.dli_fname;
-    return path.substr(path.rfind('/') + 1);
-  }
+  /// The library that the slot's operation is in.
+  std::string libraryOfSlot(std::size_t number) const { return testing::libraryAt(entry(number)); }
 
   LoadedPlugIn library_;
   TypeTranslation* object_ = library_.create();
@@ -111,10 +103,10 @@ TEST_F(PlugIn, SixSlotsAreItsOwnAndSixTheExecutors) {
   constexpr std::size_t ownSlots[] = {0, 1, 3, 4, 5, 11};
   constexpr std::size_t inheritedSlots[] = {2, 6, 7, 8, 9, 10};
   for (const std::size_t own : ownSlots) {
-    EXPECT_EQ(fileOfSlot(own).find("libVtlCmdTranslation"), 0U) << own;
+    EXPECT_THAT(libraryOfSlot(own), HasSubstr("VtlCmdTranslation")) << own;
   }
   for (const std::size_t inherited : inheritedSlots) {
-    EXPECT_EQ(fileOfSlot(inherited).find("libVantrelBoardExecutor"), 0U) << inherited;
+    EXPECT_THAT(libraryOfSlot(inherited), HasSubstr("VantrelBoardExecutor")) << inherited;
   }
 }
 

@@ -1,12 +1,15 @@
 #include "build_identity/build_identity.h"
 
-#include <cstdlib>
 #include <gtest/gtest.h>
 #include <regex>
 #include <string>
 
+#include "support/process.h"
+
 namespace vtlcmd::build_identity {
 namespace {
+
+using testing::setEnvironment;
 
 TEST(BuildIdentity, FactsHaveTheirForms) {
   EXPECT_STREQ(productName(), "Vantrel");
@@ -38,41 +41,41 @@ TEST(BuildIdentity, BannerPutsTheFactsTogether) {
 
 TEST(EnvFlag, GoesByTheNumberThatTheValueBeginsWith) {
   constexpr const char* name = "VTLCMD_TEST_FLAG";
-  unsetenv(name);
+  setEnvironment(name, nullptr);
   EXPECT_FALSE(envFlag(name));
   for (const char* value : {"1", "2", "-1", "1abc", " 7"}) {
-    setenv(name, value, 1);
+    setEnvironment(name, value);
     EXPECT_TRUE(envFlag(name)) << value;
   }
   for (const char* value : {"0", "", "yes", "true", "abc1", "0x1"}) {
-    setenv(name, value, 1);
+    setEnvironment(name, value);
     EXPECT_FALSE(envFlag(name)) << value;
   }
 }
 
 TEST(DumpVersionInfo, WritesOneLineWhenAskedTo) {
-  setenv("QUILLON_DUMP_VERSION_INFO", "1abc", 1);
+  setEnvironment("QUILLON_DUMP_VERSION_INFO", "1abc");
   ::testing::internal::CaptureStderr();
   EXPECT_TRUE(dumpVersionInfo());
   EXPECT_EQ(::testing::internal::GetCapturedStderr(), "VtlCmdTranslation: " + buildBanner() + "\n");
-  setenv("QUILLON_DUMP_VERSION_INFO", "0", 1);
+  setEnvironment("QUILLON_DUMP_VERSION_INFO", "0");
   ::testing::internal::CaptureStderr();
   EXPECT_FALSE(dumpVersionInfo());
-  unsetenv("QUILLON_DUMP_VERSION_INFO");
+  setEnvironment("QUILLON_DUMP_VERSION_INFO", nullptr);
   EXPECT_FALSE(dumpVersionInfo());
   EXPECT_EQ(::testing::internal::GetCapturedStderr(), "");
 }
 
 TEST(DumpVersionInfo, IsSilentWithoutAnErrorStream) {
-  const pid_t child = fork();
-  if (child == 0) {
-    setenv("QUILLON_DUMP_VERSION_INFO", "1", 1);
-    close(STDERR_FILENO);
-    _exit(dumpVersionInfo() ? 1 : 0);
+  setEnvironment("QUILLON_DUMP_VERSION_INFO", "1");
+  bool dumped = true;
+  {
+    const testing::ClosedErrorStream closed;
+    dumped = dumpVersionInfo();
   }
-  int status = 0;
-  waitpid(child, &status, 0);
-  EXPECT_EQ(status, 0);
+  EXPECT_FALSE(dumped);
+  EXPECT_TRUE(dumpVersionInfo());
+  setEnvironment("QUILLON_DUMP_VERSION_INFO", nullptr);
 }
 
 }  // namespace

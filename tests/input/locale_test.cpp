@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <locale>
+#include <string>
 
 #include "support/test_host.h"
 
@@ -12,7 +13,11 @@ using ::testing::ElementsAre;
 using testing::TestHost;
 
 /// German: a comma in front of decimals, points between thousands.
+#if defined(_WIN32)
+constexpr const char* localeName = "German_Germany.1252";
+#else
 constexpr const char* localeName = "de_DE.UTF-8";
+#endif
 
 /// A host that set its C locale, as programs with a user interface do.
 class UnderDecimalComma : public ::testing::Test {
@@ -54,8 +59,16 @@ TEST_F(UnderDecimalComma, ReportsKeepThePoint) {
   EXPECT_THAT(host_.messages(), ElementsAre("progress Output port 'p': (double) 1.5"));
 }
 
+/// The same for streams, whose named locales not every standard library has.
+class GermanNumbers : public std::numpunct<char> {
+  char do_decimal_point() const override { return ','; }
+  char do_thousands_sep() const override { return '.'; }
+  std::string do_grouping() const override { return "\3"; }
+};
+
 TEST(UnderAGroupingGlobalLocale, ReportsTakeItsForm) {
-  const std::locale before = std::locale::global(std::locale(localeName));
+  const std::locale before =
+      std::locale::global(std::locale(std::locale::classic(), new GermanNumbers));
   TestHost host;
   EXPECT_TRUE(host.getAny(makeAny(1.5), "p"));
   EXPECT_TRUE(host.getAny(makeAny(std::int32_t{1234567}), "q"));

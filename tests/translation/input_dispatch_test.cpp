@@ -5,6 +5,7 @@
 #include "host/value_types.h"
 #include "support/test_host.h"
 #include "support/type_samples.h"
+#include "translation/scene_path.h"
 
 namespace vtlcmd {
 namespace {
@@ -126,7 +127,7 @@ TEST_F(InputDispatch, SceneInfoComesFromTheContext) {
   ASSERT_NE(scene, nullptr);
   EXPECT_STREQ(scene->fileName.c_str(), "scene.vs");
   EXPECT_STREQ(scene->directory.c_str(), "/shots/010/");
-  EXPECT_STREQ(scene->secondaryPath.c_str(), "/cache/\xc3\xa4");
+  EXPECT_STREQ(scene->secondaryPath.c_str(), narrowPath(L"/cache/\u00e4").c_str());
   EXPECT_TRUE(scene->hasSecondaryPath);
   EXPECT_THAT(host_.messages(), IsEmpty());
 }

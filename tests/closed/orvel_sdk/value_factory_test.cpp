@@ -187,7 +187,8 @@ TEST(FailedAllocation, LeavesNothingOfAStructOrAnArray) {
     EXPECT_EQ(failures > 0, testing::reachesLibraries);
   };
   failEach([&] { makeStruct(type, members); });
-  failEach([&] { makeArray(type, std::vector{value, value, value}); });
+  const std::vector elements{value, value, value};
+  failEach([&] { makeArray(type, elements); });
   failEach([&] { makeZero(type); });
   failEach([&] { Internal::copyValue(type, valueAddress(value)); });
 }
