@@ -9,14 +9,14 @@ import sys
 import tempfile
 
 parser = argparse.ArgumentParser(description=__doc__)
-parser.add_argument("--program", required=True)
+parser.add_argument("--program", required=True, nargs="+", help="the words that start it")
 parser.add_argument("--folder", required=True)
 arguments = parser.parse_args()
 
 with tempfile.TemporaryDirectory() as folder:
     report_file = pathlib.Path(folder) / "report.json"
     run = subprocess.Popen(
-        [arguments.program, "run", "examples/animated.json", "-f", "1-900000",
+        [*arguments.program, "run", "examples/animated.json", "-f", "1-900000",
          "--report", report_file],
         cwd=arguments.folder, stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True)
     first = run.stdout.readline()

@@ -81,7 +81,7 @@ def play(step, program, folder):
         environment[name] = value
     if words[0] != "vtlcmd":
         sys.exit(f"a session runs vtlcmd only: {step.command}")
-    result = subprocess.run([program, *words[1:]], cwd=folder, env=environment, timeout=120,
+    result = subprocess.run([*program, *words[1:]], cwd=folder, env=environment, timeout=120,
                             input="".join(line + "\n" for line in step.input).encode(),
                             capture_output=True)
     return [*shown("> ", result.stdout), *shown("! ", result.stderr), f"= {result.returncode}"]
@@ -100,7 +100,7 @@ def matches(expected, actual):
 
 def main():
     parser = argparse.ArgumentParser(description=__doc__.split("\n", 1)[0])
-    parser.add_argument("--program", required=True)
+    parser.add_argument("--program", required=True, nargs="+", help="the words that start it")
     parser.add_argument("--folder", required=True, help="working directory of the commands")
     parser.add_argument("--accept", action="store_true")
     parser.add_argument("session")
@@ -108,8 +108,8 @@ def main():
 
     steps, rest = read_steps(arguments.session)
     failed = False
-    program = os.path.abspath(arguments.program)
-    version = subprocess.check_output([program, "--version"], text=True)
+    program = [os.path.abspath(word) for word in arguments.program]
+    version = subprocess.check_output([*program, "--version"], text=True)
     for step in steps:
         if not all(re.search(need, version) for need in step.needs):
             print(f"not played: {step.command}")

@@ -9,7 +9,7 @@ import sys
 import jsonschema
 
 parser = argparse.ArgumentParser(description=__doc__)
-parser.add_argument("--program", required=True)
+parser.add_argument("--program", required=True, nargs="+", help="the words that start it")
 parser.add_argument("--folder", required=True, type=pathlib.Path)
 arguments = parser.parse_args()
 
@@ -17,7 +17,7 @@ problems = []
 
 
 def listed(command):
-    return json.loads(subprocess.check_output([arguments.program, command, "--json"]))
+    return json.loads(subprocess.check_output([*arguments.program, command, "--json"]))
 
 
 schema = json.loads((arguments.folder / "docs/graph.schema.json").read_text())
@@ -60,7 +60,7 @@ report_validator = jsonschema.Draft202012Validator(report_schema)
 for path in [*good, *arguments.folder.glob("tests/runner/data/bad_graphs/*.json")]:
     for form in ("value", "any"):
         run = subprocess.run(
-            [arguments.program, "run", path, "--report", "-", "--through", form, "-f", "1-2"],
+            [*arguments.program, "run", path, "--report", "-", "--through", form, "-f", "1-2"],
             cwd=arguments.folder, capture_output=True)
         for error in report_validator.iter_errors(json.loads(run.stdout)):
             problems.append(f"report of {path.name}: {error.json_path}: {error.message}")
