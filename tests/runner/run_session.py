@@ -92,7 +92,7 @@ def matches(expected, actual):
         return False
     for wanted, found in zip(expected, actual):
         pieces = re.split(r"\{\{(.*?)\}\}", wanted)
-        pattern = "".join(piece if i % 2 else re.escape(piece) for i, piece in enumerate(pieces))
+        pattern = "".join(f"(?:{piece})" if i % 2 else re.escape(piece) for i, piece in enumerate(pieces))
         if re.fullmatch(pattern, found) is None:
             return False
     return True
