@@ -44,7 +44,7 @@ TEST(WidePath, RefusesWhatIsNoText) {
 }
 
 TEST(FilePath, KeepsTheCharacters) {
-  EXPECT_EQ(filePath("b\xC3\xA4r.npy").u8string(), u8"b\u00e4r.npy");
+  EXPECT_TRUE(filePath("b\xC3\xA4r.npy").u8string() == u8"b\u00e4r.npy");
   EXPECT_EQ(fileText(filePath("b\xC3\xA4r/\xF0\x9F\x8E\xAC.npy")),
             "b\xC3\xA4r/\xF0\x9F\x8E\xAC.npy");
 }
