@@ -119,8 +119,9 @@ std::string manualPage(const CLI::App& program, const CLI::App& command,
                        const std::string& version) {
   std::ostringstream page;
   const std::string name = manualPageName(program, command);
-  page << ".TH " << upperCase(escaped(name)) << " 1 \"\" \"" << escaped(version)
-       << "\" \"User commands\"\n.SH NAME\n"
+  page << ".TH " << upperCase(escaped(name)) << R"( 1 "" ")" << escaped(version)
+       << R"(" "User commands")"
+       << "\n.SH NAME\n"
        << escaped(name) << " \\- " << escaped(command.get_description()) << '\n';
   writeSynopsis(page, program, command);
   if (&program == &command) writeCommands(page, program);

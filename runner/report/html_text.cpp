@@ -28,6 +28,9 @@ void append(std::string& html, char32_t character) {
     case '"':
       html += "&quot;";
       break;
+    case '\'':
+      html += "&#39;";
+      break;
     default:
       appendCharacter(html, isControl(character) ? replacement : character);
   }

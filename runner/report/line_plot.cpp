@@ -92,15 +92,13 @@ std::string pathData(const PlotSeries& series, const std::vector<double>& frames
 std::string styleOf(std::size_t series) { return "s" + std::to_string(series % styles); }
 
 std::string pictureHtml(const LinePlot& plot, const Range& x, const Range& y) {
-  std::string html = "<svg viewBox=\"-4 -4 " + shortText(width + 8, 5) + " " +
-                     shortText(height + 8, 5) + "\" role=\"img\" aria-label=\"" +
-                     htmlText(plot.title) + " over frames\">";
-  html +=
-      "<path class=\"frame\" d=\"M0 0V" + shortText(height, 5) + "H" + shortText(width, 5) + "\"/>";
+  std::string html = "<svg viewBox='-4 -4 " + shortText(width + 8, 5) + " " +
+                     shortText(height + 8, 5) + "' role='img' aria-label='" + htmlText(plot.title) +
+                     " over frames'>";
+  html += "<path class='frame' d='M0 0V" + shortText(height, 5) + "H" + shortText(width, 5) + "'/>";
   for (std::size_t i = 0; i < plot.series.size(); ++i) {
-    html += "<path class=\"" + styleOf(i) + "\" d=\"" +
-            pathData(plot.series[i], plot.frames, x, y) + "\"><title>" +
-            htmlText(plot.series[i].name) + "</title></path>";
+    html += "<path class='" + styleOf(i) + "' d='" + pathData(plot.series[i], plot.frames, x, y) +
+            "'><title>" + htmlText(plot.series[i].name) + "</title></path>";
   }
   return html + "</svg>";
 }
@@ -118,13 +116,13 @@ std::string linePlotHtml(const LinePlot& plot) {
   }
   std::string html = "<figure><figcaption>" + htmlText(plot.title);
   for (std::size_t i = 0; i < plot.series.size(); ++i) {
-    html += " <span class=\"key " + styleOf(i) + "\">" + htmlText(plot.series[i].name) + "</span>";
+    html += " <span class='key " + styleOf(i) + "'>" + htmlText(plot.series[i].name) + "</span>";
   }
   html += "</figcaption>";
   if (y.isEmpty()) return html + "<p>no finite value</p></figure>\n";
-  html += "<div class=\"plot\"><div class=\"y\"><span>" + shortText(y.high(), 6) + "</span><span>" +
+  html += "<div class='plot'><div class='y'><span>" + shortText(y.high(), 6) + "</span><span>" +
           shortText(y.low(), 6) + "</span></div>" + pictureHtml(plot, x, y) +
-          "<div class=\"x\"><span>" + shortText(x.low(), 6) + "</span><span>" +
+          "<div class='x'><span>" + shortText(x.low(), 6) + "</span><span>" +
           shortText(x.high(), 6) + "</span></div></div></figure>\n";
   return html;
 }

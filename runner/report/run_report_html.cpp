@@ -52,10 +52,10 @@ std::map<LogLevel, std::size_t> countProblems(const ReportGroup& group) {
 
 void writeState(std::ostream& page, const ReportGroup& group) {
   const std::string state = stateOf(group);
-  page << "<p><span class=\"state " << state << "\">" << state << "</span>";
+  page << "<p><span class='state " << state << "'>" << state << "</span>";
   for (const auto& [level, count] : countProblems(group)) {
     const std::string name = levelName(level);
-    page << " <span class=\"" << name << "\">"
+    page << " <span class='" << name << "'>"
          << counted(count, level == levelCritical ? "critical message" : name) << "</span>";
   }
   page << "</p>\n";
@@ -63,12 +63,12 @@ void writeState(std::ostream& page, const ReportGroup& group) {
 
 void writeMessages(std::ostream& page, const MessagesBySource& messages) {
   if (messages.empty()) return;
-  page << "<ul class=\"log\">";
+  page << "<ul class='log'>";
   for (const auto& [source, levels] : messages) {
     for (const auto& [level, texts] : levels) {
       const std::string name = htmlText(levelName(level));
       for (const std::string& text : texts) {
-        page << "<li class=\"" << name << "\"><b>" << name << "</b><span class=\"type\">["
+        page << "<li class='" << name << "'><b>" << name << "</b><span class='type'>["
              << htmlText(sourceName(source)) << "]</span> " << htmlText(text) << "</li>";
       }
     }
@@ -78,7 +78,7 @@ void writeMessages(std::ostream& page, const MessagesBySource& messages) {
 
 void writeRow(std::ostream& page, const std::string& name, const std::string& type,
               const std::string& cell) {
-  page << "<tr><th scope=\"row\">" << htmlText(name) << "</th><td class=\"type\">" << htmlText(type)
+  page << "<tr><th scope='row'>" << htmlText(name) << "</th><td class='type'>" << htmlText(type)
        << "</td><td>" << cell << "</td></tr>\n";
 }
 
@@ -94,12 +94,12 @@ void writeTexts(std::ostream& page, const std::string& kind, const PortValueMap&
 void writeFrame(std::ostream& page, const ReportEntry& entry, bool open) {
   const std::string state = stateOf(entry);
   page << "<details" << (open ? " open" : "") << "><summary>Frame " << htmlText(entry.frameText)
-       << " <span class=\"" << state << "\">" << state << "</span></summary>\n";
+       << " <span class='" << state << "'>" << state << "</span></summary>\n";
   page << "<table>";
   for (const auto& [name, output] : entry.outputs) {
     writeRow(page, name, output.typeName,
              output.valueShown ? "<pre>" + htmlText(output.valueText) + "</pre>"
-                               : "<span class=\"none\">not shown</span>");
+                               : "<span class='none'>not shown</span>");
   }
   page << "</table>\n";
   writeMessages(page, entry.messages);
@@ -111,7 +111,7 @@ void writePlots(std::ostream& page, const ReportGroup& group) {
   if (outputs.empty()) return;
   page << "<h2>Over the frames</h2>\n";
   for (const auto& [name, plots] : outputs) {
-    page << "<h3>" << htmlText(name) << "</h3><div class=\"plots\">\n";
+    page << "<h3>" << htmlText(name) << "</h3><div class='plots'>\n";
     for (const LinePlot& plot : plots) page << linePlotHtml(plot);
     page << "</div>\n";
   }
@@ -119,7 +119,7 @@ void writePlots(std::ostream& page, const ReportGroup& group) {
 
 void writeSetting(std::ostream& page, const std::vector<std::string>& portNames,
                   const ReportEntry& entry) {
-  page << "<p class=\"facts\"><code>" << htmlText(entry.graphFile) << "</code>, "
+  page << "<p class='facts'><code>" << htmlText(entry.graphFile) << "</code>, "
        << counted(entry.frameCount, "frame") << ", " << counted(entry.inputCount, "port") << ", "
        << counted(entry.outputCount, "output") << "<br>\n<code>vtlcmd";
   for (const std::string& argument : entry.arguments) page << ' ' << htmlText(argument);
@@ -153,10 +153,10 @@ void writeHtmlReport(std::ostream& stream, const VtlCmdLogger& logger,
                      const std::vector<std::string>& portNames) {
   const std::string title = logger.groups.empty() ? "" : logger.groups.front().name;
   // Nothing may be loaded or run, whatever a text holds.
-  stream << "<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n<meta charset=\"utf-8\">\n"
-            "<meta http-equiv=\"Content-Security-Policy\" content=\"default-src 'none'; "
+  stream << "<!DOCTYPE html>\n<html lang='en'>\n<head>\n<meta charset='utf-8'>\n"
+            "<meta http-equiv='Content-Security-Policy' content=\"default-src 'none'; "
             "style-src 'unsafe-inline'\">\n"
-            "<meta name=\"viewport\" content=\"width=device-width\">\n<title>"
+            "<meta name='viewport' content='width=device-width'>\n<title>"
          << htmlText(title) << " - vtlcmd</title>\n<style>" << pageStyle
          << "</style>\n</head>\n<body>\n";
   for (const ReportGroup& group : logger.groups) writeGroup(stream, group, portNames);

@@ -6,7 +6,7 @@ namespace vtlcmd {
 namespace {
 
 TEST(HtmlText, CharactersWithAMeaningBecomeReferences) {
-  EXPECT_EQ(htmlText("<b a=\"1\">&amp;'</b>"), "&lt;b a=&quot;1&quot;&gt;&amp;amp;'&lt;/b&gt;");
+  EXPECT_EQ(htmlText("<b a=\"1\">&amp;'</b>"), "&lt;b a=&quot;1&quot;&gt;&amp;amp;&#39;&lt;/b&gt;");
 }
 
 TEST(HtmlText, CharactersStay) { EXPECT_EQ(htmlText("bär \t\n€ 𝄞"), "bär \t\n€ 𝄞"); }

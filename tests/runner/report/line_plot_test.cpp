@@ -13,7 +13,7 @@ using testing::Not;
 
 /// The drawing instructions of each series.
 std::vector<std::string> pathsIn(const std::string& html) {
-  static const std::regex path("<path class=\"s[0-9]\" d=\"([^\"]*)\"");
+  static const std::regex path("<path class='s[0-9]' d='([^']*)'");
   std::vector<std::string> paths;
   for (std::sregex_iterator found(html.begin(), html.end(), path), end; found != end; ++found)
     paths.push_back((*found)[1]);
@@ -35,7 +35,7 @@ TEST(LinePlot, FramesLieByTheirNumber) {
 TEST(LinePlot, SeriesShareTheScale) {
   const std::string html = linePlotHtml({"t", {1, 2}, {{"low", {0, 0}}, {"high", {8, 4}}}});
   EXPECT_THAT(pathsIn(html), testing::ElementsAre("M0 120h0L320 120", "M0 0h0L320 60"));
-  EXPECT_THAT(html, HasSubstr("<span class=\"key s1\">high</span>"));
+  EXPECT_THAT(html, HasSubstr("<span class='key s1'>high</span>"));
 }
 
 TEST(LinePlot, WhatIsNotFiniteLeavesAGap) {

@@ -46,9 +46,9 @@ TEST(RunReportHtml, TellsWhatWasRun) {
   }
   const std::string page = pageOf(logger);
   EXPECT_THAT(page, HasSubstr("<h1>graph &amp; co</h1>"));
-  EXPECT_THAT(page, HasSubstr("<span class=\"state succeeded\">succeeded</span>"));
+  EXPECT_THAT(page, HasSubstr("<span class='state succeeded'>succeeded</span>"));
   EXPECT_THAT(page, HasSubstr("<code>vtlcmd run &lt;graph&gt;</code>"));
-  EXPECT_THAT(page, HasSubstr("<th scope=\"row\">port</th><td class=\"type\">input</td>"
+  EXPECT_THAT(page, HasSubstr("<th scope='row'>port</th><td class='type'>input</td>"
                               "<td><pre>1&amp;2</pre></td>"));
   EXPECT_THAT(page, HasSubstr("<pre>(1 int)\n  {\n     min: 1\n  }</pre>"));
   EXPECT_THAT(page, HasSubstr("not shown"));
@@ -64,9 +64,9 @@ TEST(RunReportHtml, OneFailedFrameFailsTheRun) {
     logger.setFinished(true);
   }
   const std::string page = pageOf(logger);
-  EXPECT_THAT(page, HasSubstr("<span class=\"state failed\">failed</span>"));
-  EXPECT_THAT(page, HasSubstr("<span class=\"error\">2 errors</span>"));
-  EXPECT_THAT(page, HasSubstr("<li class=\"error\"><b>error</b><span class=\"type\">[graph]</span> "
+  EXPECT_THAT(page, HasSubstr("<span class='state failed'>failed</span>"));
+  EXPECT_THAT(page, HasSubstr("<span class='error'>2 errors</span>"));
+  EXPECT_THAT(page, HasSubstr("<li class='error'><b>error</b><span class='type'>[graph]</span> "
                               "no &lt;script&gt;</li>"));
   EXPECT_THAT(page, HasSubstr("<details><summary>Frame 7 "));
   EXPECT_THAT(page, HasSubstr("<details open><summary>Frame 8 "));
@@ -79,7 +79,7 @@ TEST(RunReportHtml, AnInterruptedRunSaysSo) {
   const GroupScope group(logger, "graph");
   addFrame(logger, "1", true);
   logger.groups[0].entries[0].interrupted = true;
-  EXPECT_THAT(pageOf(logger), HasSubstr("<span class=\"state interrupted\">interrupted</span>"));
+  EXPECT_THAT(pageOf(logger), HasSubstr("<span class='state interrupted'>interrupted</span>"));
 }
 
 TEST(RunReportHtml, AGraphThatCouldNotBeLoadedSaysWhy) {
@@ -89,7 +89,7 @@ TEST(RunReportHtml, AGraphThatCouldNotBeLoadedSaysWhy) {
     logger.addMessage(vtlcmdSource, levelCritical, "no graph");
   }
   const std::string page = pageOf(logger);
-  EXPECT_THAT(page, HasSubstr("<span class=\"state failed\">failed</span>"));
+  EXPECT_THAT(page, HasSubstr("<span class='state failed'>failed</span>"));
   EXPECT_THAT(page, HasSubstr("1 critical message<"));
   EXPECT_THAT(page, HasSubstr("no graph</li>"));
 }
