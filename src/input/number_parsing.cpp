@@ -6,6 +6,8 @@
 #include <cstdlib>
 #include <limits>
 
+#include "input/read_double.h"
+
 namespace vtlcmd {
 namespace {
 
@@ -77,10 +79,9 @@ ParseStatus statusOf(double value, const char* text, const char* end) {
 
 template <FloatingNumber T>
 std::optional<T> parseCore(const char* text, ParseStatus& status) {
-  char* end = nullptr;
+  const char* end = nullptr;
   errno = 0;
-  // Not strtold: long double may be wider, and then other texts would pass.
-  const double value = std::strtod(text, &end);
+  const double value = readDouble(text, end);
   status = statusOf<T>(value, text, end);
   if (status != ParseStatus::ParseOk && status != ParseStatus::ParseTrailingText) {
     return std::nullopt;

@@ -48,6 +48,8 @@ const Row rows[] = {
     {"0x10", {trailing, 0}, {trailing, 0}, {ok, 16}},
     {"0x", {trailing, 0}, {trailing, 0}, {trailing, 0}},
     {"0X1.8p1", {trailing, 0}, {trailing, 0}, {ok, 3}},
+    {"0x1p+-1", {trailing, 0}, {trailing, 0}, {trailing, 1}},
+    {"0x.p1", {trailing, 0}, {trailing, 0}, {trailing, 0}},
     {"1e3", {trailing, 1}, {trailing, 1}, {ok, 1000}},
     {"1e", {trailing, 1}, {trailing, 1}, {trailing, 1}},
     {"1.5", {trailing, 1}, {trailing, 1}, {ok, 1.5}},
@@ -144,6 +146,11 @@ TEST(ParseNumber, DoubleLimits) {
   expectAnswer<double>("0x1p-1074", {range}) /* exact, so the library reports no underflow */;
   expectAnswer<double>("0", {ok, 0});
   expectAnswer<double>("-0", {ok, -0.0L});
+}
+
+TEST(ParseNumber, TextsJustBelowAPowerOfTwoRoundOnce) {
+  expectAnswer<double>("1.17549435082228744271569185723700e-38", {ok, 0x0.fffffffffffff8p-126});
+  expectAnswer<double>("2.2250738585072011e-308", {range});
 }
 
 TEST(ParseNumber, FloatRoundsTheDoubleToNearest) {

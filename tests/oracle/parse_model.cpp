@@ -40,9 +40,9 @@ Parsed<T> parseInteger(std::string_view text) {
 constexpr std::int64_t decimalReach = 400;
 constexpr std::int64_t binaryReach = 1200;
 
-/// Rounds a number other than zero to 53 bits under an exponent without limits; nothing when it is
-/// so far from the format's range that its digits don't matter.
-std::optional<Scaled> rounded(FloatText number) {
+/// The leading bits of a number other than zero, more than any format has; nothing when it is so
+/// far from the formats' range that its digits don't matter.
+std::optional<Scaled> inReach(FloatText number) {
   const auto bits = static_cast<std::int64_t>(number.digits.bitLength());
   const std::int64_t reach = number.hexadecimal ? binaryReach : decimalReach;
   // 0.30 is just less, 0.31 just more than the decimal digits that one bit is worth.
@@ -61,8 +61,8 @@ std::optional<Scaled> rounded(FloatText number) {
     }
   }
   const LeadingBits leading = leadingBits(std::move(number.digits), std::move(denominator));
-  return roundedTo(Binary64::precision, {number.negative, leading.significand,
-                                         leading.exponent + number.exponent, leading.inexact});
+  return Scaled{number.negative, leading.significand, leading.exponent + number.exponent,
+                leading.inexact};
 }
 
 template <typename Format>
@@ -77,6 +77,14 @@ template <typename Format>
 constexpr
     typename Format::Bits largestFinite = (~typename Format::Bits{0} >> 1) - smallestNormal<Format>;
 
+/// Whether the platform refuses what only the narrower subnormals would round up to the smallest
+/// normal: its number reader reports an underflow for them, or gives that value and no report.
+#if defined(_WIN32)
+constexpr bool refusesNearlyNormal = false;
+#else
+constexpr bool refusesNearlyNormal = true;
+#endif
+
 template <typename Format>
 Parsed<typename Format::Value> parseFloat(std::string_view text) {
   using Value = typename Format::Value;
@@ -87,14 +95,15 @@ Parsed<typename Format::Value> parseFloat(std::string_view text) {
   const std::size_t end = number->end;
   Scaled exact{number->negative, 0, 0};
   if (!number->digits.isZero()) {
-    const auto inReach = rounded(std::move(*number));
-    if (!inReach) return {Outcome::outOfRange, {}};
-    exact = *inReach;
-    // Also refused: what only the narrower subnormals would round up to the smallest normal.
-    if (exact.exponent < Binary64::minExponent) return {Outcome::outOfRange, {}};
+    const auto near = inReach(std::move(*number));
+    if (!near) return {Outcome::outOfRange, {}};
+    exact = *near;
   }
   const Binary64::Bits bits = pack<Binary64>(exact);
   const Binary64::Bits magnitude = bits & (~Binary64::Bits{0} >> 1);
+  const bool underflows = exact.significand != 0 &&
+                          roundedTo(Binary64::precision, exact).exponent < Binary64::minExponent;
+  if (underflows && (refusesNearlyNormal || magnitude == 0)) return {Outcome::outOfRange, {}};
   const bool inRange = magnitude == 0 || (magnitude >= widened<Format>(smallestNormal<Format>) &&
                                           magnitude <= widened<Format>(largestFinite<Format>));
   if (!inRange) return {Outcome::outOfRange, {}};
