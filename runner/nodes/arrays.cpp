@@ -3,6 +3,7 @@
 #include "nodes/families.h"
 #include "nodes/integer_argument.h"
 #include "nodes/operand.h"
+#include "nodes/random_numbers.h"
 #include "orvel_sdk/type_factory.h"
 
 namespace vtlcmd::node_families {
@@ -34,20 +35,11 @@ Orvel::Value range(const NodeCall& call) {
   });
 }
 
-/// The mixing steps of the splitmix64 generator, which is public domain.
-std::uint64_t mix(std::uint64_t bits) {
-  bits = (bits ^ (bits >> 30)) * 0xbf58476d1ce4e5b9;
-  bits = (bits ^ (bits >> 27)) * 0x94d049bb133111eb;
-  return bits ^ (bits >> 31);
-}
-
 Orvel::Value randomNumbers(const NodeCall& call) {
   const std::uint64_t count = countArgument(call, 0, "the count");
   const std::uint64_t seed = countArgument(call, 1, "the seed");
-  return arrayValue(generateArray<float>(count, [&](std::uint64_t i) {
-    const std::uint64_t bits = mix(seed + (i + 1) * 0x9e3779b97f4a7c15);
-    return static_cast<float>(bits >> 40) * 0x1p-24F;
-  }));
+  return arrayValue(
+      generateArray<float>(count, [seed](std::uint64_t i) { return randomNumber(seed, i); }));
 }
 
 Orvel::Value fill(const NodeCall& call) {

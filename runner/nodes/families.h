@@ -14,6 +14,7 @@ std::span<const NodeOperation> vectors();
 std::span<const NodeOperation> texts();
 std::span<const NodeOperation> runFacts();
 std::span<const NodeOperation> objects();
+std::span<const NodeOperation> meshes();
 std::span<const NodeOperation> files();
 
 }  // namespace vtlcmd::node_families

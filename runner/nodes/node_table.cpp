@@ -9,7 +9,7 @@ namespace vtlcmd {
 std::span<const std::span<const NodeOperation>> nodeFamilies() {
   using namespace node_families;
   static const std::array families{constants(), arithmetic(), conversions(), arrays(), vectors(),
-                                   texts(),     runFacts(),   objects(),     files()};
+                                   texts(),     runFacts(),   objects(),     meshes(), files()};
   return families;
 }
 

@@ -1,11 +1,9 @@
 #include <limits>
 
-#include "host/imports/vantrel_geometry.h"
 #include "nodes/families.h"
 #include "nodes/integer_argument.h"
-#include "nodes/operand.h"
+#include "nodes/object_data.h"
 #include "orvel_sdk/any_bridge.h"
-#include "text/library_text.h"
 #include "vantrel_geometry/geometry_builder.h"
 #include "vantrel_object/object_builder.h"
 
@@ -18,12 +16,6 @@ ValueType objectType(const NodeTypes&) { return {valueType<ObjectPtr>().name, 0}
 
 Orvel::Value objectValue(Orvel::MutablePtr<Object> object) {
   return Orvel::makeValue<ObjectPtr>(std::move(object));
-}
-
-const Object& objectArgument(const NodeCall& call) {
-  const auto& object = Orvel::valueAs<ObjectPtr>(call[0]);
-  if (!object) throw NodeError("there is no object");
-  return *object;
 }
 
 Orvel::Value setComponent(const NodeCall& call) {
@@ -43,17 +35,7 @@ Orvel::Value setData(const NodeCall& call) {
 }
 
 Orvel::Value getData(const NodeCall& call) {
-  const Orvel::String name = call[1].getString();
-  const Orvel::Ptr<Object> property =
-      Vantrel::Geometry::getDataGeoProperty(objectArgument(call), name);
-  if (!property) throw NodeError("the object has no data property " + inQuotes(name.c_str()));
-  const Any data = property->propertyByKey(Vantrel::Geometry::sData);
-  try {
-    return Orvel::fromAny(libraryTypeOf(call.resultType), data);
-  } catch (const std::invalid_argument&) {
-    throw NodeError("the data property " + inQuotes(name.c_str()) + " holds no " +
-                    nameOf(call.resultType));
-  }
+  return dataProperty(objectArgument(call), call[1].getString(), call.resultType);
 }
 
 using namespace type_classes;
