@@ -80,6 +80,10 @@ void checkSize(const NpyHeader& header, std::uint64_t elementSize, std::uint64_t
     throw ReadError("the file is cut short: its elements take more than the " +
                     std::to_string(available) + " bytes behind the header");
   }
+  if (const std::uint64_t surplus = available - count * elementSize; surplus != 0) {
+    throw ReadError("the file is " + std::to_string(surplus) + (surplus == 1 ? " byte" : " bytes") +
+                    " longer than its header says");
+  }
   // The rows above the first empty dimension, or all rows.
   const auto firstEmpty = std::find(shape.begin(), shape.end(), 0U);
   const std::uint64_t rows =

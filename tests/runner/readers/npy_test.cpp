@@ -165,8 +165,11 @@ TEST(Npy, AllVersions) {
   }
 }
 
-TEST(Npy, BytesBehindTheArrayDoNotMatter) {
-  EXPECT_EQ(refusalOf(npyFile(npyHeader("<i4", "(1,)"), Bytes(100))), "accepted");
+TEST(Npy, RefusesBytesBehindTheArray) {
+  EXPECT_EQ(refusalOf(npyFile(npyHeader("<i4", "(1,)"), Bytes(5))),
+            "the file is 1 byte longer than its header says");
+  EXPECT_EQ(refusalOf(npyFile(npyHeader("<i4", "(2, 0)"), Bytes(8))),
+            "the file is 8 bytes longer than its header says");
 }
 
 TEST(Npy, HeadersInOtherForms) {
