@@ -153,6 +153,14 @@ TEST(ParseNumber, TextsJustBelowAPowerOfTwoRoundOnce) {
   expectAnswer<double>("2.2250738585072011e-308", {range});
 }
 
+TEST(ParseNumber, WhatRoundsUpToTheSmallestNormalPasses) {
+  expectAnswer<double>("2.22507385850720138e-308", {ok, DBL_MIN});
+  expectAnswer<double>("-2.22507385850720138e-308", {ok, -DBL_MIN});
+  expectAnswer<double>("0x0.fffffffffffff8p-1022", {ok, DBL_MIN});
+  expectAnswer<double>("0x0.fffffffffffff7p-1022", {range});
+  expectAnswer<double>("2.225073858507201136e-308", {range});
+}
+
 TEST(ParseNumber, FloatRoundsTheDoubleToNearest) {
   ParseStatus status;
   EXPECT_EQ(std::bit_cast<std::uint32_t>(*parseNumber<float>("0.1", status)), 0x3DCCCCCDU);

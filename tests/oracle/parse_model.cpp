@@ -77,14 +77,6 @@ template <typename Format>
 constexpr
     typename Format::Bits largestFinite = (~typename Format::Bits{0} >> 1) - smallestNormal<Format>;
 
-/// Whether the platform refuses what only the narrower subnormals would round up to the smallest
-/// normal: its number reader reports an underflow for them, or gives that value and no report.
-#if defined(_WIN32)
-constexpr bool refusesNearlyNormal = false;
-#else
-constexpr bool refusesNearlyNormal = true;
-#endif
-
 template <typename Format>
 Parsed<typename Format::Value> parseFloat(std::string_view text) {
   using Value = typename Format::Value;
@@ -101,9 +93,7 @@ Parsed<typename Format::Value> parseFloat(std::string_view text) {
   }
   const Binary64::Bits bits = pack<Binary64>(exact);
   const Binary64::Bits magnitude = bits & (~Binary64::Bits{0} >> 1);
-  const bool underflows = exact.significand != 0 &&
-                          roundedTo(Binary64::precision, exact).exponent < Binary64::minExponent;
-  if (underflows && (refusesNearlyNormal || magnitude == 0)) return {Outcome::outOfRange, {}};
+  if (exact.significand != 0 && magnitude == 0) return {Outcome::outOfRange, {}};
   const bool inRange = magnitude == 0 || (magnitude >= widened<Format>(smallestNormal<Format>) &&
                                           magnitude <= widened<Format>(largestFinite<Format>));
   if (!inRange) return {Outcome::outOfRange, {}};
