@@ -56,6 +56,7 @@ class Browser:
         return self
 
     def __exit__(self, *_):
+        urllib.request.urlopen(urllib.request.Request(self.address, method="DELETE"), timeout=60)
         self.driver.terminate()
         self.driver.wait()
         self.profile.cleanup()
