@@ -13,3 +13,9 @@ if(VTLCMD_SANITIZE)
                       -fno-omit-frame-pointer)
   add_link_options(-fsanitize=${VTLCMD_SANITIZE})
 endif()
+
+if(MINGW)
+  # g++ takes its own copy of an inline function for the one that is called, and goes by the registers
+  # which that copy leaves alone; the linker may keep another file's copy, compiled otherwise.
+  add_compile_options(-fno-ipa-ra)
+endif()

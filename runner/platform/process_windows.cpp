@@ -29,11 +29,11 @@ void prepareStandardStreams() {
   for (std::FILE* stream : {stdin, stdout, stderr}) _setmode(_fileno(stream), _O_BINARY);
   codePageBefore = GetConsoleOutputCP();
   if (codePageBefore == 0 || SetConsoleOutputCP(CP_UTF8) == 0) return;
-  std::atexit([] { SetConsoleOutputCP(codePageBefore); });
+  static_cast<void>(std::atexit([] { SetConsoleOutputCP(codePageBefore); }));
 }
 
 bool errorsGoToTerminal() {
-  const HANDLE errors = GetStdHandle(STD_ERROR_HANDLE);
+  HANDLE errors = GetStdHandle(STD_ERROR_HANDLE);
   DWORD mode = 0;
   return GetConsoleMode(errors, &mode) != 0 &&
          SetConsoleMode(errors,

@@ -18,7 +18,7 @@ namespace {
 // A stream keeps its number when what is under it is closed; so that is asked too.
 #if defined(_WIN32)
 bool hasErrorStream() {
-  const HANDLE handle = GetStdHandle(STD_ERROR_HANDLE);
+  HANDLE handle = GetStdHandle(STD_ERROR_HANDLE);
   return _fileno(stderr) >= 0 && handle != nullptr && handle != INVALID_HANDLE_VALUE;
 }
 #else

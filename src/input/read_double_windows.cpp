@@ -63,7 +63,8 @@ double readDouble(const char* text, const char*& end) {
   if (negative || *first == '+') ++first;
   // A second sign would be taken.
   if (*first == '-') return 0;
-  const char point = *std::localeconv()->decimal_point;
+  // Read only; a host that changes the locale meanwhile disturbs every reader of numbers.
+  const char point = *std::localeconv()->decimal_point;  // NOLINT(concurrency-mt-unsafe)
   double value = 0;
   const auto [stop, error] =
       point == '.' ? readMagnitude(first, value) : readMagnitude(first, value, point);
