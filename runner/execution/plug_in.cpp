@@ -16,7 +16,7 @@ using Entry = VantrelGraph::Executor::TypeTranslation* (*)();
 
 /// Seen from the program's folder.
 #if defined(_WIN32)
-constexpr std::array plugInPlaces{"VtlCmdTranslation.dll"};
+constexpr std::array plugInPlaces{"VtlCmdTranslation.dll", "../lib/vtlcmd/VtlCmdTranslation.dll"};
 #else
 constexpr std::array plugInPlaces{"../lib/libVtlCmdTranslation.so",
                                   "../lib/vtlcmd/libVtlCmdTranslation.so"};
