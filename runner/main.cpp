@@ -5,11 +5,11 @@
 #include "platform/process.h"
 
 int main(int count, char** words) {
-  using vtlcmd::ExitCode;
+  using vtlcmd::runner::ExitCode;
   ExitCode code = ExitCode::runFailed;
   try {
-    vtlcmd::prepareStandardStreams();
-    code = vtlcmd::runCommandLine(vtlcmd::commandLineWords(count, words));
+    vtlcmd::runner::prepareStandardStreams();
+    code = vtlcmd::runner::runCommandLine(vtlcmd::runner::commandLineWords(count, words));
   } catch (const std::exception& error) {
     std::cerr << "vtlcmd: " << error.what() << '\n';
   }

@@ -14,7 +14,7 @@
 #include "text/load_error.h"
 #include "text/near_misses.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 namespace {
 
 constexpr const char* programFooter = R"(Examples:
@@ -115,4 +115,4 @@ ExitCode runCommandLine(const std::vector<std::string>& arguments) {
   return state.exitCode;
 }
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

@@ -5,10 +5,10 @@
 
 #include "command_line/exit_code.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 
 /// Does what the words behind the program's name ask for and says on standard error what went
 /// wrong.
 ExitCode runCommandLine(const std::vector<std::string>& arguments);
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

@@ -6,7 +6,7 @@
 
 #include "command_line/exit_code.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 
 /// What the subcommands share: the words of the command line, and where each leaves its result.
 struct CommandState {
@@ -24,4 +24,4 @@ void addTypesCommand(CLI::App& app);
 void addNodesCommand(CLI::App& app);
 void addShowCommand(CLI::App& app, CommandState& state);
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

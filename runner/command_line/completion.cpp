@@ -8,7 +8,7 @@
 #include "logging/vtlcmd_logger.h"
 #include "text/load_error.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 namespace {
 
 /// What is known where a word is to be completed.
@@ -171,4 +171,4 @@ void printCompletions(const CLI::App& app, const std::vector<std::string>& words
   }
 }
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 
 /// Prints how the last of `words`, those behind the program's name as far as they are typed, may
 /// go on: a line each with the word, a tab and what it means. A line that begins with a tab asks
@@ -15,4 +15,4 @@ namespace vtlcmd {
 void printCompletions(const CLI::App& app, const std::vector<std::string>& words,
                       std::ostream& stream);
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

@@ -1,6 +1,6 @@
 #pragma once
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 
 /// What the program tells its caller.
 enum class ExitCode : int {
@@ -14,4 +14,4 @@ enum class ExitCode : int {
   interrupted = 130,
 };
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

@@ -6,7 +6,7 @@
 #include "command_line/usage_error.h"
 #include "text/library_text.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 namespace {
 
 constexpr double mostFrames = 1'000'000;
@@ -78,4 +78,4 @@ class FramesParser {
 
 std::vector<double> parseFrames(const std::string& text) { return FramesParser(text).parse(); }
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

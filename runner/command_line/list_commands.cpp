@@ -7,7 +7,7 @@
 #include "execution/plug_in.h"
 #include "nodes/node_table.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 namespace {
 
 using Json = nlohmann::ordered_json;
@@ -98,4 +98,4 @@ void addNodesCommand(CLI::App& app) {
   });
 }
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

@@ -13,7 +13,7 @@
 #include "text/near_misses.h"
 #include "text/path_text.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 namespace {
 
 /// The number that a whole text spells.
@@ -59,4 +59,4 @@ HostPath parsePath(const std::string& option, const std::string& text) {
   }
 }
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

@@ -6,7 +6,7 @@
 
 #include "host/host_records.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 
 /// Frame numbers from a list like `1`, `1-10`, `10-1`, `1-10x2` or `1,5,7-9x0.5`, in the order
 /// given. Numbers may be negative or have a fraction. Throws UsageError.
@@ -25,4 +25,4 @@ std::uint32_t parsePrintLimit(const std::string& text);
 /// be converted.
 HostPath parsePath(const std::string& option, const std::string& text);
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

@@ -8,7 +8,7 @@
 #include "text/near_misses.h"
 #include "text/path_text.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 namespace {
 
 std::pair<std::string, std::string> split(const std::string& assignment) {
@@ -67,4 +67,4 @@ void PortTexts::set(const GraphPort& port, const std::string& text) {
   map.insert(libraryText(port.name), {libraryForm, libraryForm});
 }
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

@@ -9,7 +9,7 @@
 #include "graph/graph.h"
 #include "host/port_value_map.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 
 /// The texts that a user gives for ports, sorted into the two maps of the plug-in.
 class PortTexts {
@@ -39,4 +39,4 @@ class PortTexts {
   PortValueMap jobs_;
 };
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

@@ -7,7 +7,7 @@
 #include "graph/graph.h"
 #include "text/path_text.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 namespace {
 
 struct PortRow {
@@ -85,4 +85,4 @@ void addPortsCommand(CLI::App& app) {
   });
 }
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

@@ -7,7 +7,7 @@
 #include "execution/plug_in.h"
 #include "text/path_text.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 
 void ReportOptions::addTo(CLI::App& command) {
   command
@@ -59,4 +59,4 @@ std::filesystem::path plugInFileFrom(const std::string& option) {
   return option.empty() ? ownPlugIn() : filePath(option);
 }
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

@@ -9,7 +9,7 @@
 #include "execution/message_printer.h"
 #include "execution/output_reporting.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 
 /// The options of the commands that print a report.
 class ReportOptions {
@@ -40,4 +40,4 @@ CLI::Option* addPlugInOption(CLI::App& command, std::string& plugIn);
 /// The file that `--plugin` names, else the program's own plug-in.
 std::filesystem::path plugInFileFrom(const std::string& option);
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

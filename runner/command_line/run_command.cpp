@@ -15,7 +15,7 @@
 #include "text/load_error.h"
 #include "text/path_text.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 namespace {
 
 constexpr const char* footer = R"(Examples:
@@ -188,4 +188,4 @@ void addRunCommand(CLI::App& app, CommandState& state) {
   command->callback([options, &state] { state.exitCode = run(*options, state.arguments); });
 }
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

@@ -7,7 +7,7 @@
 #include "command_line/usage_error.h"
 #include "report/message_distribution.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 namespace {
 
 std::string refusal(const ReportFile& file, const std::system_error& error) {
@@ -48,4 +48,4 @@ void RunReports::write(VtlCmdLogger& logger, const std::vector<std::string>& por
   }
 }
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

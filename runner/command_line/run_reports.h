@@ -7,7 +7,7 @@
 #include "logging/vtlcmd_logger.h"
 #include "report/report_file.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 
 /// The reports of a run that a user asks for.
 class RunReports {
@@ -28,4 +28,4 @@ class RunReports {
   std::list<ReportFile> files_;
 };
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

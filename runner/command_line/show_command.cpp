@@ -10,7 +10,7 @@
 #include "readers/read_error.h"
 #include "text/path_text.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 namespace {
 
 struct ShowOptions {
@@ -70,4 +70,4 @@ void addShowCommand(CLI::App& app, CommandState& state) {
   command->callback([options, &state] { state.exitCode = showAll(*options); });
 }
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

@@ -4,7 +4,7 @@
 
 #include "platform/process.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 
 bool wantsColor(const std::string& choice) {
   if (choice != "auto") return choice == "always";
@@ -13,4 +13,4 @@ bool wantsColor(const std::string& choice) {
   return errorsGoToTerminal() && (noColor == nullptr || *noColor == '\0');
 }
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

@@ -2,7 +2,7 @@
 
 #include <stdexcept>
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 
 /// A command line that asks for something that can't be, in words for the user.
 class UsageError : public std::runtime_error {
@@ -10,4 +10,4 @@ class UsageError : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

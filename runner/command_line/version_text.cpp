@@ -3,7 +3,7 @@
 #include "build_facts.h"
 #include "readers/mesh.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 
 std::string versionText() {
   using namespace build_facts;
@@ -14,4 +14,4 @@ std::string versionText() {
          meshReaderName();
 }
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

@@ -5,7 +5,7 @@
 
 #include "text/library_text.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 namespace {
 
 // The graph system's codes for how bad a message is.
@@ -67,4 +67,4 @@ Orvel::Value Executor::evaluate(const GraphNode& node, const Slots& slots) const
   return node.operation->evaluate({nodeTypes, node.type, arguments, literal, graphFolder_, warn});
 }
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

@@ -7,7 +7,7 @@
 #include "graph/graph.h"
 #include "logging/vtlcmd_logger.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 
 /// Runs a graph. What nodes complain of goes to the logger as messages of the graph system, which
 /// it counts.
@@ -29,4 +29,4 @@ class Executor {
   VtlCmdLogger& logger_;
 };
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

@@ -3,7 +3,7 @@
 #include <atomic>
 #include <csignal>
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 namespace {
 
 // Set by a signal handler, which runs on a thread of its own on some platforms.
@@ -21,4 +21,4 @@ void rememberInterrupt() { static_cast<void>(std::signal(SIGINT, onInterrupt)); 
 
 bool interruptRequested() noexcept { return requested; }
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

@@ -2,7 +2,7 @@
 
 #include <ostream>
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 namespace {
 
 constexpr const char* red = "\x1b[31m";
@@ -33,4 +33,4 @@ void MessagePrinter::print(const LogMessage& message) const {
   }
 }
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

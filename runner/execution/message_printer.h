@@ -6,7 +6,7 @@
 
 #include "logging/vtlcmd_logger.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 
 /// Prints what a logger collects: critical messages, errors and warnings to one stream, the rest
 /// to the other, each behind its prefix.
@@ -34,4 +34,4 @@ class MessagePrinter {
   std::size_t printed_ = 0;
 };
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

@@ -4,7 +4,7 @@
 #include "orvel_sdk/any_bridge.h"
 #include "text/library_text.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 
 bool reportOutput(const PlugIn::Translation& translation, const std::string& portName,
                   const Orvel::Value& value, OutputForm form, RunContext& context) {
@@ -19,4 +19,4 @@ bool reportOutput(const PlugIn::Translation& translation, const std::string& por
   return false;
 }
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

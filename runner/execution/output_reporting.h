@@ -6,7 +6,7 @@
 #include "host/host_records.h"
 #include "host/imports/orvel_values.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 
 /// The plug-in's two ways to be given a value.
 enum class OutputForm { value, any };
@@ -16,4 +16,4 @@ enum class OutputForm { value, any };
 bool reportOutput(const PlugIn::Translation& translation, const std::string& portName,
                   const Orvel::Value& value, OutputForm form, RunContext& context);
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

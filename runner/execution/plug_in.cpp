@@ -8,7 +8,7 @@
 #include "platform/process.h"
 #include "text/path_text.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 namespace {
 
 constexpr const char* entryName = "createVantrelTypeTranslation";
@@ -58,4 +58,4 @@ std::filesystem::path ownPlugIn() {
   return (folder / plugInPlaces.front()).lexically_normal();
 }
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

@@ -5,7 +5,7 @@
 #include "host/imports/vantrel_executor.h"
 #include "text/load_error.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 
 /// A plug-in that can't be loaded; the text names the file.
 class PlugInError : public LoadError {
@@ -36,4 +36,4 @@ class PlugIn {
 /// first place when there is none.
 std::filesystem::path ownPlugIn();
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

@@ -2,7 +2,7 @@
 
 #include <ostream>
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 namespace {
 
 constexpr auto shortestPause = std::chrono::milliseconds(500);
@@ -25,4 +25,4 @@ void Progress::clear() {
   stream_ << eraseLine << std::flush;
 }
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

@@ -6,7 +6,7 @@
 #include <optional>
 #include <string>
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 
 /// One line on a terminal that tells how far a run is, renewed at most twice a second.
 class Progress {
@@ -27,4 +27,4 @@ class Progress {
   std::optional<std::chrono::steady_clock::time_point> shownAt_;
 };
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

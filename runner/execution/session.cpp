@@ -10,7 +10,7 @@
 #include "text/library_text.h"
 #include "text/path_text.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 namespace {
 
 double frameLengthOf(double framesPerSecond) {
@@ -154,4 +154,4 @@ bool Session::hasMessageUpTo(LogLevel level, std::size_t firstMessage) const {
                      });
 }
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

@@ -15,7 +15,7 @@
 #include "host/port_value_map.h"
 #include "logging/vtlcmd_logger.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 
 /// What a user asks of a run.
 struct RunSettings {
@@ -71,4 +71,4 @@ class Session {
   std::vector<Port> ports_;
 };
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

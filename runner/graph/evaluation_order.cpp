@@ -4,7 +4,7 @@
 #include <functional>
 #include <queue>
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 
 std::vector<std::size_t> evaluationOrder(const Dependencies& dependencies) {
   Dependencies readers(dependencies.size());
@@ -50,4 +50,4 @@ std::vector<std::size_t> findCircle(const Dependencies& dependencies) {
   }
 }
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

@@ -3,7 +3,7 @@
 #include <cstddef>
 #include <vector>
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 
 /// By node, the nodes that it reads from.
 using Dependencies = std::vector<std::vector<std::size_t>>;
@@ -15,4 +15,4 @@ std::vector<std::size_t> evaluationOrder(const Dependencies& dependencies);
 /// One circle, each node followed by one that reads from it. Empty when there is none.
 std::vector<std::size_t> findCircle(const Dependencies& dependencies);
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

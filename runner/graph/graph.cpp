@@ -15,7 +15,7 @@
 #include "text/near_misses.h"
 #include "text/path_text.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 namespace {
 
 ValueType typeAt(const JsonPlace& json) {
@@ -226,4 +226,4 @@ Graph loadGraph(const std::filesystem::path& file) {
   }
 }
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

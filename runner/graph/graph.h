@@ -11,7 +11,7 @@
 #include "nodes/node_operation.h"
 #include "values/value_type.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 
 struct GraphPort {
   std::string name;
@@ -63,4 +63,4 @@ Graph parseGraph(std::string_view text);
 /// begins with the path.
 Graph loadGraph(const std::filesystem::path& file);
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

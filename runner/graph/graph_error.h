@@ -4,7 +4,7 @@
 
 #include "text/load_error.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 
 /// A graph file that can't be used. The text names the place, like `$.nodes[3].op: ...`.
 class GraphError : public LoadError {
@@ -12,4 +12,4 @@ class GraphError : public LoadError {
   GraphError(const std::string& place, const std::string& text) : LoadError(place + ": " + text) {}
 };
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

@@ -9,7 +9,7 @@
 #include "graph/graph_error.h"
 #include "text/library_text.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 namespace {
 
 using nlohmann::json;
@@ -102,4 +102,4 @@ json parseJson(std::string_view text) {
   }
 }
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

@@ -6,7 +6,7 @@
 #include "text/library_text.h"
 #include "text/near_misses.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 
 void JsonPlace::allowMembers(std::initializer_list<std::string_view> names) const {
   if (!value_->is_object()) fail("expected an object, found " + excerptOf(*value_));
@@ -74,4 +74,4 @@ std::string excerptOf(const nlohmann::json& value) {
   return text;
 }
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 
 /// A JSON value together with where it stands, read with the types that the graph file wants. All
 /// readers throw GraphError at the place.
@@ -49,4 +49,4 @@ class JsonPlace {
 /// A short excerpt of a JSON value for a message.
 std::string excerptOf(const nlohmann::json& value);
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

@@ -10,7 +10,7 @@
 #include "values/library_array.h"
 #include "values/type_dispatch.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 namespace {
 
 using nlohmann::json;
@@ -126,4 +126,4 @@ Orvel::Value literalValue(const ValueType& type, const JsonPlace& json) {
   return *value;
 }
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

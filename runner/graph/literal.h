@@ -4,7 +4,7 @@
 #include "host/imports/orvel_values.h"
 #include "values/value_type.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 
 /// The value that a JSON value stands for under a type. Throws GraphError at the part that doesn't
 /// fit.
@@ -14,4 +14,4 @@ namespace vtlcmd {
 /// an array an array of its elements. An `Object` is null.
 Orvel::Value literalValue(const ValueType& type, const JsonPlace& json);
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

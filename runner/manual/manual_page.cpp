@@ -4,7 +4,7 @@
 #include <cctype>
 #include <sstream>
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 namespace {
 
 /// A text with everything escaped that the page language would take for its own.
@@ -134,4 +134,4 @@ std::string manualPage(const CLI::App& program, const CLI::App& command,
   return page.str();
 }
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

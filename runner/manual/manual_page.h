@@ -3,7 +3,7 @@
 #include <CLI/App.hpp>
 #include <string>
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 
 /// The manual page of the program or of one of its commands, from what its help says, in the
 /// page language of `man`. `program` is the command line that `command` belongs to, or the same;
@@ -14,4 +14,4 @@ std::string manualPage(const CLI::App& program, const CLI::App& command,
 /// The page's name: "vtlcmd", or "vtlcmd-run" of a command.
 std::string manualPageName(const CLI::App& program, const CLI::App& command);
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

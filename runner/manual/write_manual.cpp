@@ -9,14 +9,14 @@ namespace {
 
 void writePages(const std::filesystem::path& folder, const std::string& version) {
   CLI::App program;
-  vtlcmd::CommandState state;
-  vtlcmd::addCommands(program, state);
+  vtlcmd::runner::CommandState state;
+  vtlcmd::runner::addCommands(program, state);
   const auto write = [&](const CLI::App& command) {
-    const std::string name = vtlcmd::manualPageName(program, command) + ".1";
+    const std::string name = vtlcmd::runner::manualPageName(program, command) + ".1";
     std::ofstream page;
     page.exceptions(std::ios::failbit | std::ios::badbit);
     page.open(folder / name);
-    page << vtlcmd::manualPage(program, command, program.get_name() + " " + version);
+    page << vtlcmd::runner::manualPage(program, command, program.get_name() + " " + version);
     page.close();
   };
   write(program);

@@ -5,7 +5,7 @@
 #include "nodes/families.h"
 #include "nodes/operand.h"
 
-namespace vtlcmd::node_families {
+namespace vtlcmd::runner::node_families {
 namespace {
 
 /// Integers go round: the lowest bits of the exact result are kept, as two's complement.
@@ -138,4 +138,4 @@ const NodeOperation table[] = {
 
 std::span<const NodeOperation> arithmetic() { return table; }
 
-}  // namespace vtlcmd::node_families
+}  // namespace vtlcmd::runner::node_families

@@ -6,7 +6,7 @@
 #include "nodes/random_numbers.h"
 #include "orvel_sdk/type_factory.h"
 
-namespace vtlcmd::node_families {
+namespace vtlcmd::runner::node_families {
 namespace {
 
 ValueType arrayOfFirst(const NodeTypes& types) { return arrayOf(types[0]); }
@@ -155,4 +155,4 @@ const NodeOperation table[] = {
 
 std::span<const NodeOperation> arrays() { return table; }
 
-}  // namespace vtlcmd::node_families
+}  // namespace vtlcmd::runner::node_families

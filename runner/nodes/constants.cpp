@@ -1,6 +1,6 @@
 #include "nodes/families.h"
 
-namespace vtlcmd::node_families {
+namespace vtlcmd::runner::node_families {
 namespace {
 
 const NodeOperation table[] = {
@@ -16,4 +16,4 @@ const NodeOperation table[] = {
 
 std::span<const NodeOperation> constants() { return table; }
 
-}  // namespace vtlcmd::node_families
+}  // namespace vtlcmd::runner::node_families

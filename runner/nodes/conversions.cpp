@@ -2,7 +2,7 @@
 #include "nodes/number_conversion.h"
 #include "nodes/operand.h"
 
-namespace vtlcmd::node_families {
+namespace vtlcmd::runner::node_families {
 namespace {
 
 /// Single values convert to single values, vectors to vectors of as many components.
@@ -91,4 +91,4 @@ const NodeOperation table[] = {
 
 std::span<const NodeOperation> conversions() { return table; }
 
-}  // namespace vtlcmd::node_families
+}  // namespace vtlcmd::runner::node_families

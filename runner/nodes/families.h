@@ -4,7 +4,7 @@
 
 #include "nodes/node_operation.h"
 
-namespace vtlcmd::node_families {
+namespace vtlcmd::runner::node_families {
 
 std::span<const NodeOperation> constants();
 std::span<const NodeOperation> arithmetic();
@@ -17,4 +17,4 @@ std::span<const NodeOperation> objects();
 std::span<const NodeOperation> meshes();
 std::span<const NodeOperation> files();
 
-}  // namespace vtlcmd::node_families
+}  // namespace vtlcmd::runner::node_families

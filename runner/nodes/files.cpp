@@ -6,7 +6,7 @@
 #include "text/path_text.h"
 #include "values/type_dispatch.h"
 
-namespace vtlcmd::node_families {
+namespace vtlcmd::runner::node_families {
 namespace {
 
 /// A relative path is looked up in the working directory, then beside the graph file.
@@ -57,4 +57,4 @@ const NodeOperation table[] = {
 
 std::span<const NodeOperation> files() { return table; }
 
-}  // namespace vtlcmd::node_families
+}  // namespace vtlcmd::runner::node_families

@@ -6,7 +6,7 @@
 
 #include "nodes/operand.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 
 /// An integer of any of the four types, used as a count or an index. Throws NodeError that calls
 /// it `what` when it is negative.
@@ -24,4 +24,4 @@ inline std::uint64_t countArgument(const NodeCall& call, std::size_t parameter,
   return count;
 }
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

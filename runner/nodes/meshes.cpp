@@ -8,7 +8,7 @@
 #include "nodes/random_numbers.h"
 #include "values/library_array.h"
 
-namespace vtlcmd::node_families {
+namespace vtlcmd::runner::node_families {
 namespace {
 
 using Position = std::array<double, 3>;
@@ -110,4 +110,4 @@ const NodeOperation table[] = {
 
 std::span<const NodeOperation> meshes() { return table; }
 
-}  // namespace vtlcmd::node_families
+}  // namespace vtlcmd::runner::node_families

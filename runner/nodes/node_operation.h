@@ -13,7 +13,7 @@
 #include "nodes/type_classes.h"
 #include "values/value_type.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 
 struct Parameter {
   std::string_view name;
@@ -78,4 +78,4 @@ struct NodeOperation {
   std::string_view help;
 };
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

@@ -4,7 +4,7 @@
 
 #include "nodes/families.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 
 std::span<const std::span<const NodeOperation>> nodeFamilies() {
   using namespace node_families;
@@ -30,4 +30,4 @@ std::vector<std::string> operationNames() {
   return names;
 }
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

@@ -7,7 +7,7 @@
 
 #include "nodes/node_operation.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 
 /// The families of the node table, in the order in which they are told to users.
 std::span<const std::span<const NodeOperation>> nodeFamilies();
@@ -17,4 +17,4 @@ const NodeOperation* findOperation(std::string_view name);
 
 std::vector<std::string> operationNames();
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

@@ -6,7 +6,7 @@
 #include <type_traits>
 #include <utility>
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 
 /// A converted number and whether it is another one than before, apart from rounding.
 template <typename T>
@@ -69,4 +69,4 @@ Converted<To> convertNumber(From number) {
   }
 }
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

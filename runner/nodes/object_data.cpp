@@ -6,7 +6,7 @@
 #include "orvel_sdk/value_factory.h"
 #include "text/library_text.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 
 const Vantrel::Object& objectArgument(const NodeCall& call) {
   const auto& object = Orvel::valueAs<ObjectPtr>(call[0]);
@@ -26,4 +26,4 @@ Orvel::Value dataProperty(const Vantrel::Object& object, const Orvel::String& na
   }
 }
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

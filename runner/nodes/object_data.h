@@ -3,7 +3,7 @@
 #include "host/imports/vantrel_object.h"
 #include "nodes/node_operation.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 
 /// The object that a node's first parameter takes. Throws NodeError when it is null.
 const Vantrel::Object& objectArgument(const NodeCall& call);
@@ -13,4 +13,4 @@ const Vantrel::Object& objectArgument(const NodeCall& call);
 Orvel::Value dataProperty(const Vantrel::Object& object, const Orvel::String& name,
                           const ValueType& type);
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

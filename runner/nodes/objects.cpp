@@ -7,7 +7,7 @@
 #include "vantrel_geometry/geometry_builder.h"
 #include "vantrel_object/object_builder.h"
 
-namespace vtlcmd::node_families {
+namespace vtlcmd::runner::node_families {
 namespace {
 
 using Vantrel::Object;
@@ -71,4 +71,4 @@ const NodeOperation table[] = {
 
 std::span<const NodeOperation> objects() { return table; }
 
-}  // namespace vtlcmd::node_families
+}  // namespace vtlcmd::runner::node_families

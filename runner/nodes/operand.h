@@ -9,7 +9,7 @@
 #include "values/library_array.h"
 #include "values/type_dispatch.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 
 /// A single T or an array of T, read alike: a single one is every element of itself.
 template <typename T>
@@ -60,4 +60,4 @@ Orvel::Value evaluateAs(const std::string& element, Function&& function) {
   return *std::move(result);
 }
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

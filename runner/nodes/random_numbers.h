@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 
 /// Number `index` of the endless row that a seed stands for: evenly spread from 0 up to 1, in steps
 /// of 2^-24, the same on every machine.
@@ -15,4 +15,4 @@ inline float randomNumber(std::uint64_t seed, std::uint64_t index) {
   return static_cast<float>(bits >> 40U) * 0x1p-24F;
 }
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

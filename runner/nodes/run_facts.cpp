@@ -1,7 +1,7 @@
 #include "nodes/families.h"
 #include "nodes/operand.h"
 
-namespace vtlcmd::node_families {
+namespace vtlcmd::runner::node_families {
 namespace {
 
 using Vantrel::File::Project::SceneInfo;
@@ -60,4 +60,4 @@ const NodeOperation table[] = {
 
 std::span<const NodeOperation> runFacts() { return table; }
 
-}  // namespace vtlcmd::node_families
+}  // namespace vtlcmd::runner::node_families

@@ -4,7 +4,7 @@
 #include "nodes/operand.h"
 #include "text/library_text.h"
 
-namespace vtlcmd::node_families {
+namespace vtlcmd::runner::node_families {
 namespace {
 
 template <typename T>
@@ -60,4 +60,4 @@ const NodeOperation table[] = {
 
 std::span<const NodeOperation> texts() { return table; }
 
-}  // namespace vtlcmd::node_families
+}  // namespace vtlcmd::runner::node_families

@@ -4,7 +4,7 @@
 
 #include "values/type_dispatch.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 namespace {
 
 using Vantrel::File::Project::SceneInfo;
@@ -60,4 +60,4 @@ const TypeClass sceneInfo{"a File::Project::SceneInfo", isExactly<SceneInfo>};
 
 }  // namespace type_classes
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

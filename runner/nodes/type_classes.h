@@ -4,7 +4,7 @@
 
 #include "values/value_type.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 
 /// A set of types that a node's parameter takes.
 struct TypeClass {
@@ -36,4 +36,4 @@ extern const TypeClass sceneInfo;
 
 }  // namespace type_classes
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

@@ -4,7 +4,7 @@
 #include "nodes/integer_argument.h"
 #include "nodes/operand.h"
 
-namespace vtlcmd::node_families {
+namespace vtlcmd::runner::node_families {
 namespace {
 
 /// Calls `function.operator()<T>()` when the name is that of a vector type.
@@ -106,4 +106,4 @@ const NodeOperation table[] = {
 
 std::span<const NodeOperation> vectors() { return table; }
 
-}  // namespace vtlcmd::node_families
+}  // namespace vtlcmd::runner::node_families

@@ -5,7 +5,7 @@
 
 /// Shared libraries as the platform loads them. To be called from any thread.
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 
 /// Loads the library in a file of absolute path. Null when that fails; to be closed once otherwise.
 void* openLibrary(const std::filesystem::path& file);
@@ -20,4 +20,4 @@ using LibraryFunction = void (*)();
 /// An exported function, null when the library has none of that name.
 LibraryFunction functionOf(void* library, const char* name);
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

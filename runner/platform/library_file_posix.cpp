@@ -2,7 +2,7 @@
 
 #include "platform/library_file.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 
 void* openLibrary(const std::filesystem::path& file) {
   return ::dlopen(file.c_str(), RTLD_NOW | RTLD_LOCAL);
@@ -20,4 +20,4 @@ LibraryFunction functionOf(void* library, const char* name) {
   return reinterpret_cast<LibraryFunction>(::dlsym(library, name));
 }
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

@@ -4,7 +4,7 @@
 #include "platform/library_file.h"
 #include "text/path_text.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 
 void* openLibrary(const std::filesystem::path& file) {
   // What the library needs stands beside it, wherever this program is.
@@ -31,4 +31,4 @@ LibraryFunction functionOf(void* library, const char* name) {
   return reinterpret_cast<LibraryFunction>(GetProcAddress(static_cast<HMODULE>(library), name));
 }
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

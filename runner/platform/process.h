@@ -6,7 +6,7 @@
 
 /// What the platform knows of this process.
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 
 /// The words behind the program's name. On Windows in UTF-8, from the command line in wide
 /// characters and not from `words`; elsewhere as they are.
@@ -22,4 +22,4 @@ bool errorsGoToTerminal();
 /// This program's file, with its absolute path; empty when the platform doesn't tell.
 std::filesystem::path ownFile();
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

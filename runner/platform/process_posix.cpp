@@ -3,7 +3,7 @@
 
 #include "platform/process.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 
 std::vector<std::string> commandLineWords(int count, char** words) {
   return {words + (count > 0 ? 1 : 0), words + count};
@@ -18,4 +18,4 @@ std::filesystem::path ownFile() {
   return std::filesystem::read_symlink("/proc/self/exe", error);
 }
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

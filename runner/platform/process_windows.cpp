@@ -8,7 +8,7 @@
 #include "platform/process.h"
 #include "text/path_text.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 namespace {
 
 /// The code page that the console had before this program.
@@ -47,4 +47,4 @@ std::filesystem::path ownFile() {
   return path;
 }
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

@@ -3,7 +3,7 @@
 #include <fstream>
 #include <istream>
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 
 std::optional<std::string> readStream(std::istream& stream) {
   std::string text;
@@ -22,4 +22,4 @@ std::optional<std::string> readFile(const std::filesystem::path& file) {
   return stream ? readStream(stream) : std::nullopt;
 }
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

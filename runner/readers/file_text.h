@@ -5,7 +5,7 @@
 #include <optional>
 #include <string>
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 
 /// All bytes up to the end. Nothing when reading fails.
 std::optional<std::string> readStream(std::istream& stream);
@@ -13,4 +13,4 @@ std::optional<std::string> readStream(std::istream& stream);
 /// All bytes of a file. Nothing when it can't be read.
 std::optional<std::string> readFile(const std::filesystem::path& file);
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

@@ -4,7 +4,7 @@
 #include <filesystem>
 #include <span>
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 
 /// A file's bytes in memory, read only. Throws std::system_error when the file can't be opened. A
 /// file that somebody cuts short while it is mapped ends the process when read.
@@ -26,4 +26,4 @@ class MappedFile {
   std::size_t size_ = 0;
 };
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

@@ -7,7 +7,7 @@
 
 #include "readers/mapped_file.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 
 namespace {
 
@@ -42,4 +42,4 @@ void MappedFile::release(std::size_t count) const noexcept {
   ::madvise(const_cast<unsigned char*>(data_), count / page * page, MADV_DONTNEED);
 }
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

@@ -3,7 +3,7 @@
 
 #include "readers/mapped_file.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 
 namespace {
 
@@ -41,4 +41,4 @@ MappedFile::~MappedFile() {
 // The system takes pages of a mapped file from a process by itself when others need them.
 void MappedFile::release(std::size_t) const noexcept {}
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

@@ -16,7 +16,7 @@
 #include "values/library_array.h"
 #include "vantrel_geometry/geometry_builder.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 namespace {
 
 using Vantrel::Object;
@@ -150,4 +150,4 @@ ObjectPtr readMesh(const std::filesystem::path& file) {
   }
 }
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

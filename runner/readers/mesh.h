@@ -5,7 +5,7 @@
 
 #include "host/value_types.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 
 /// The library that reads meshes, with its version; "none" in a build without one.
 std::string meshReaderName();
@@ -18,4 +18,4 @@ std::string meshReaderName();
 /// every file in a build without a library that reads meshes.
 ObjectPtr readMesh(const std::filesystem::path& file);
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

@@ -4,7 +4,7 @@
 
 /// For builds without a library that reads meshes.
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 
 std::string meshReaderName() { return "none"; }
 
@@ -12,4 +12,4 @@ ObjectPtr readMesh(const std::filesystem::path& file) {
   throw ReadError(fileText(file) + ": this program was built without a mesh reader");
 }
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

@@ -14,7 +14,7 @@
 #include "text/library_text.h"
 #include "text/path_text.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 namespace {
 
 /// Without elements the file's size says nothing about the rows; so many of them are still sane.
@@ -136,4 +136,4 @@ Orvel::Value readNpy(const std::filesystem::path& file, NpyElements form) {
   }
 }
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

@@ -10,7 +10,7 @@
 /// Array files of NumPy, versions 1 to 3: booleans, integers of 8 to 64 bits and floats of 32 and
 /// 64 bits, in either byte order, in C or Fortran order, with one to three dimensions.
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 
 /// Whether the last dimension becomes arrays like the others, or, when it is 2 to 4 floats long,
 /// vectors.
@@ -25,4 +25,4 @@ Orvel::Value parseNpy(std::span<const unsigned char> file, NpyElements form = Np
 /// The array in a file, which is mapped, not read as a whole. Throws ReadError.
 Orvel::Value readNpy(const std::filesystem::path& file, NpyElements form = NpyElements::numbers);
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

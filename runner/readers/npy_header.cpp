@@ -8,7 +8,7 @@
 #include "readers/read_error.h"
 #include "text/library_text.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 namespace {
 
 constexpr std::string_view magic = "\x93NUMPY";
@@ -128,4 +128,4 @@ NpyHeader parseNpyHeader(std::span<const unsigned char> file) {
   return header;
 }
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

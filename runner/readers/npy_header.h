@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 
 struct NpyHeader {
   /// Byte order, kind and size, like "<f4".
@@ -20,4 +20,4 @@ struct NpyHeader {
 /// Throws ReadError, whose text leaves it to the caller to name the file.
 NpyHeader parseNpyHeader(std::span<const unsigned char> file);
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

@@ -17,7 +17,7 @@
 /// Array values from the numbers of a file, which are read once, from front to back, so that a
 /// large file needs no memory besides its values.
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 
 /// The numbers of a file in their order there. The caller knows how many there are.
 class NpyNumbers {
@@ -143,4 +143,4 @@ Orvel::Value buildNpyValue(const NpyLayout& layout, NpyNumbers& numbers) {
   }
 }
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

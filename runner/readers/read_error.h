@@ -2,7 +2,7 @@
 
 #include <stdexcept>
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 
 /// A data file that can't be read. The text names the file.
 class ReadError : public std::runtime_error {
@@ -10,4 +10,4 @@ class ReadError : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

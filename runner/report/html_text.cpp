@@ -4,7 +4,7 @@
 
 #include "text/utf8.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 namespace {
 
 constexpr char32_t replacement = 0xFFFD;
@@ -49,4 +49,4 @@ std::string htmlText(std::string_view text) {
   return html;
 }
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

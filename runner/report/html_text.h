@@ -3,10 +3,10 @@
 #include <string>
 #include <string_view>
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 
 /// A text as it stands in a page: characters with a meaning there are written as references, and
 /// what is no character of a page becomes a replacement character.
 std::string htmlText(std::string_view text);
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

@@ -9,7 +9,7 @@
 
 #include "report/html_text.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 namespace {
 
 // In units of the picture's own coordinates.
@@ -127,4 +127,4 @@ std::string linePlotHtml(const LinePlot& plot) {
   return html;
 }
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

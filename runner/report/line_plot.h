@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 
 struct PlotSeries {
   std::string name;
@@ -24,4 +24,4 @@ struct LinePlot {
 /// by the classes `s0` to `s3`, in turn.
 std::string linePlotHtml(const LinePlot& plot);
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

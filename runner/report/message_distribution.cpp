@@ -1,6 +1,6 @@
 #include "report/message_distribution.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 
 void distributeMessages(VtlCmdLogger& logger) {
   for (const LogMessage& message : logger.messages) {
@@ -20,4 +20,4 @@ std::string levelName(LogLevel level) {
                                                  : std::to_string(level);
 }
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

@@ -4,7 +4,7 @@
 
 #include "logging/vtlcmd_logger.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 
 /// Hands the logger's messages to the groups and entries that they belong to, where reports look
 /// for them. Call it once, when no more messages will come.
@@ -14,4 +14,4 @@ void distributeMessages(VtlCmdLogger& logger);
 std::string sourceName(LogSource source);
 std::string levelName(LogLevel level);
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

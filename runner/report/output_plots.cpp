@@ -5,7 +5,7 @@
 
 #include "report/text_numbers.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 namespace {
 
 /// The frame's number as the entry tells it.
@@ -61,4 +61,4 @@ std::map<std::string, std::vector<LinePlot>> plotOutputs(const ReportGroup& grou
   return outputs;
 }
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

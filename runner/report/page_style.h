@@ -1,6 +1,6 @@
 #pragma once
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 
 /// The look of the report page, in the light or dark colours of the reader's screen.
 inline constexpr const char* pageStyle = R"css(
@@ -50,4 +50,4 @@ th { font-weight: 600; white-space: nowrap; }
 td:last-child { width: 100%; }
 )css";
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

@@ -7,7 +7,7 @@
 #include "report/run_report_json.h"
 #include "text/path_text.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 
 void ReportFile::open() {
   if (target_ != standardOutput) file_.emplace(filePath(target_));
@@ -22,4 +22,4 @@ void ReportFile::write(const VtlCmdLogger& logger, const std::vector<std::string
   file_->commit();
 }
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

@@ -7,7 +7,7 @@
 #include "logging/vtlcmd_logger.h"
 #include "report/whole_file.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 
 /// Where a report of a run goes: to a file, as a page for people when its name ends in .html or
 /// .htm, else as a JSON document; or as a document to the standard output.
@@ -32,4 +32,4 @@ class ReportFile {
   std::optional<WholeFile> file_;
 };
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

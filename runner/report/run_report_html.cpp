@@ -12,7 +12,7 @@
 #include "text/library_text.h"
 #include "text/path_text.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 namespace {
 
 /// So few frames are shown at once.
@@ -163,4 +163,4 @@ void writeHtmlReport(std::ostream& stream, const VtlCmdLogger& logger,
   stream << "</body>\n</html>\n";
 }
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

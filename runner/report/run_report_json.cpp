@@ -7,7 +7,7 @@
 #include "text/library_text.h"
 #include "text/path_text.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 namespace {
 
 using Json = nlohmann::ordered_json;
@@ -94,4 +94,4 @@ void writeJsonReport(std::ostream& stream, const VtlCmdLogger& logger,
   stream << report.dump(2, ' ', false, Json::error_handler_t::replace) << '\n';
 }
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

@@ -6,7 +6,7 @@
 
 #include "logging/vtlcmd_logger.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 
 /// Writes all that a logger knows of its runs as one JSON document. Its messages must have been
 /// distributed. `portNames` are the ports whose texts are told. Bytes that are no UTF-8 text become
@@ -14,4 +14,4 @@ namespace vtlcmd {
 void writeJsonReport(std::ostream& stream, const VtlCmdLogger& logger,
                      const std::vector<std::string>& portNames);
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

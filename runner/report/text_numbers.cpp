@@ -7,7 +7,7 @@
 #include <optional>
 #include <system_error>
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 namespace {
 
 constexpr std::array<std::string_view, 3> statistics{"min", "max", "avg"};
@@ -107,4 +107,4 @@ std::vector<NumberGroup> numbersIn(std::string_view typeName, std::string_view t
   return reader.take();
 }
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 
 struct NamedNumber {
   std::string name;
@@ -23,4 +23,4 @@ struct NumberGroup {
 /// strings out, whatever they hold.
 std::vector<NumberGroup> numbersIn(std::string_view typeName, std::string_view text);
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

@@ -5,7 +5,7 @@
 #include <string>
 #include <system_error>
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 namespace {
 
 namespace fs = std::filesystem;
@@ -64,4 +64,4 @@ void WholeFile::commit() {
   partial_.clear();
 }
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

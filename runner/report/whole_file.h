@@ -4,7 +4,7 @@
 #include <fstream>
 #include <iosfwd>
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 
 /// A file that appears whole or not at all: what is written goes to another file beside it, which
 /// takes its place in the end. Devices and pipes are written as they are.
@@ -30,4 +30,4 @@ class WholeFile {
   std::ofstream stream_;
 };
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

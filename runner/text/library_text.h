@@ -8,7 +8,7 @@
 /// Between the type library's strings and the standard ones. Lengths are kept, so a zero byte in a
 /// text survives.
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 
 inline Orvel::StringView viewOf(std::string_view text) noexcept {
   return {text.data(), text.size()};
@@ -28,4 +28,4 @@ inline std::string inQuotes(std::string_view text) {
   return quoted;
 }
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

@@ -2,7 +2,7 @@
 
 #include <stdexcept>
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 
 /// A graph or a plug-in that can't be loaded, in words for the user.
 class LoadError : public std::runtime_error {
@@ -10,4 +10,4 @@ class LoadError : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

@@ -7,7 +7,7 @@
 
 #include "text/library_text.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 namespace {
 
 constexpr std::size_t mostMisses = 3;
@@ -66,4 +66,4 @@ std::string nearMissHint(std::string_view text, const std::vector<std::string>& 
   return hint + "?";
 }
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 
 /// The least number of insertions, removals, replacements and exchanges of neighbours, each of one
 /// byte, that makes `b` of `a`. Letter case counts.
@@ -17,4 +17,4 @@ std::vector<std::string> nearMisses(std::string_view text, const std::vector<std
 /// "; did you mean 'add' or 'and'?", empty when nothing is near.
 std::string nearMissHint(std::string_view text, const std::vector<std::string>& known);
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

@@ -4,7 +4,7 @@
 
 #include "text/utf8.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 namespace {
 
 /// Whether a wide character takes two units beyond the first 65536 characters.
@@ -56,4 +56,4 @@ std::filesystem::path filePath(std::string_view text) { return text; }
 std::string fileText(const std::filesystem::path& file) { return file.native(); }
 #endif
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

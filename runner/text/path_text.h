@@ -6,7 +6,7 @@
 
 #include "host/host_records.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 
 /// A path from the command line as the plug-in wants it, from UTF-8, whatever the locale. Throws
 /// std::system_error for bytes that are no text.
@@ -22,4 +22,4 @@ std::string utf8Path(const HostPath& path);
 std::filesystem::path filePath(std::string_view text);
 std::string fileText(const std::filesystem::path& file);
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

@@ -3,7 +3,7 @@
 #include <array>
 #include <cstddef>
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 namespace {
 
 /// A way to write a character: the bits that mark its first byte, the bytes that follow, and the
@@ -51,4 +51,4 @@ void appendCharacter(std::string& text, char32_t character) {
   while (following-- > 0) put(0x80U | ((character >> (6 * following)) & 0x3FU));
 }
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 
 /// Takes the first character off a text that isn't empty. Nothing, and the text stays, when the
 /// bytes there aren't the UTF-8 form of a character.
@@ -13,4 +13,4 @@ std::optional<char32_t> takeCharacter(std::string_view& text);
 /// Appends a character, '?' for a number that is none.
 void appendCharacter(std::string& text, char32_t character);
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

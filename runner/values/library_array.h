@@ -10,7 +10,7 @@
 #include "orvel_core/make_ptr.h"
 #include "orvel_sdk/value_factory.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 
 /// An empty array with room for `count` elements. Throws std::bad_alloc.
 template <typename T>
@@ -48,4 +48,4 @@ const Orvel::Array<T>& arrayIn(const Orvel::Value& value) {
   return *Orvel::valueAs<Orvel::Ptr<Orvel::Array<T>>>(value);
 }
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

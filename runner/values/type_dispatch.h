@@ -5,7 +5,7 @@
 
 #include "host/value_types.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 
 /// Calls `function.operator()<T>()` with the stored type of the row of that name. False when the
 /// list has none.
@@ -29,4 +29,4 @@ concept Composite = requires(T value) {
   value.components.size();
 };
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

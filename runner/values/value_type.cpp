@@ -8,7 +8,7 @@
 #include "text/library_text.h"
 #include "text/near_misses.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 namespace {
 
 constexpr std::string_view arrayOpening = "array<";
@@ -49,4 +49,4 @@ std::string nameOf(const ValueType& type) {
 
 Orvel::Type libraryTypeOf(const ValueType& type) { return Orvel::typeNamed(viewOf(nameOf(type))); }
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

@@ -6,7 +6,7 @@
 
 #include "host/imports/orvel_types.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 
 /// The type of a value in a graph, taken apart: the innermost element's name and the array levels
 /// round it.
@@ -30,4 +30,4 @@ inline ValueType arrayOf(ValueType element) {
 }
 inline ValueType elementOf(ValueType array) { return {std::move(array.element), array.depth - 1}; }
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

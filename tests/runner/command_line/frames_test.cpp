@@ -3,7 +3,7 @@
 #include "command_line/option_values.h"
 #include "command_line/usage_error.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 namespace {
 
 using Frames = std::vector<double>;
@@ -78,4 +78,4 @@ TEST(Frames, AMillionIsTheMost) {
 }
 
 }  // namespace
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

@@ -5,7 +5,7 @@
 
 #include "command_line/usage_error.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 namespace {
 
 TEST(FramesPerSecond, TakesAnyNumberButNaN) {
@@ -49,4 +49,4 @@ TEST(Path, RefusesBytesThatAreNoText) {
 }
 
 }  // namespace
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

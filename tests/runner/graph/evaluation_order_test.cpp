@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 namespace {
 
 using Nodes = std::vector<std::size_t>;
@@ -31,4 +31,4 @@ TEST(FindCircle, NamesOnlyItsMembers) {
 }
 
 }  // namespace
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

@@ -5,7 +5,7 @@
 #include "graph/graph_error.h"
 #include "orvel_sdk/value_factory.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 namespace {
 
 std::string refusalOf(std::string_view text) {
@@ -102,4 +102,4 @@ TEST(Graph, ALongCircleIsFound) {
 }
 
 }  // namespace
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

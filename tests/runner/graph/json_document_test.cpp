@@ -4,7 +4,7 @@
 
 #include "graph/graph_error.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 namespace {
 
 std::string refusalOf(std::string_view text) {
@@ -36,4 +36,4 @@ TEST(JsonDocument, NumbersOutOfRangeAreRefusedWhereTheyStand) {
 }
 
 }  // namespace
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

@@ -9,7 +9,7 @@
 #include "orvel_sdk/value_factory.h"
 #include "values/library_array.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 namespace {
 
 Orvel::Value literal(const char* type, const char* text) {
@@ -116,4 +116,4 @@ TEST(Literal, LongTextsAreCutInMessages) {
 }
 
 }  // namespace
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

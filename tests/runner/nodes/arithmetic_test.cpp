@@ -5,7 +5,7 @@
 #include "host/value_types.h"
 #include "runner/support/run_graph.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 namespace {
 
 GraphResult runTwo(const std::string& operation, const std::string& type, const std::string& a,
@@ -90,4 +90,4 @@ TEST(Arithmetic, SineAndCosine) {
 }
 
 }  // namespace
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

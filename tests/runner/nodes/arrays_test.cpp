@@ -3,7 +3,7 @@
 #include "host/value_types.h"
 #include "runner/support/run_graph.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 namespace {
 
 using Messages = std::vector<std::string>;
@@ -93,4 +93,4 @@ TEST(ArrayAndConcatenate, BuildArrays) {
 }
 
 }  // namespace
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

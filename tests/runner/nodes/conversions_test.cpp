@@ -3,7 +3,7 @@
 #include "host/value_types.h"
 #include "runner/support/run_graph.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 namespace {
 
 GraphResult convert(const std::string& constant, const std::string& to) {
@@ -38,4 +38,4 @@ TEST(Convert, WarnsOfValuesThatDoNotFit) {
 }
 
 }  // namespace
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

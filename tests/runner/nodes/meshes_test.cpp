@@ -4,7 +4,7 @@
 #include "host/value_types.h"
 #include "runner/support/run_graph.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 namespace {
 
 using Messages = std::vector<std::string>;
@@ -88,4 +88,4 @@ TEST(Scatter, RefusesWhatIsNoMesh) {
 }
 
 }  // namespace
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

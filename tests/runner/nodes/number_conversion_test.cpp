@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <gtest/gtest.h>
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 namespace {
 
 constexpr double infinity = std::numeric_limits<double>::infinity();
@@ -73,4 +73,4 @@ TEST(NumberConversion, IntegerToFloating) {
 }
 
 }  // namespace
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

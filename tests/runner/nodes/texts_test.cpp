@@ -2,7 +2,7 @@
 
 #include "runner/support/run_graph.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 namespace {
 
 std::string textOf(const std::string& constant) {
@@ -33,4 +33,4 @@ TEST(Join, PutsTheSeparatorBetween) {
 }
 
 }  // namespace
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

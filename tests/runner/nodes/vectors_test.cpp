@@ -3,7 +3,7 @@
 #include "host/value_types.h"
 #include "runner/support/run_graph.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 namespace {
 
 TEST(Vector, OfNumbersAndOfArrays) {
@@ -33,4 +33,4 @@ TEST(Component, OfVectorsAndOfArrays) {
 }
 
 }  // namespace
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

@@ -8,7 +8,7 @@
 #include "readers/read_error.h"
 #include "text/library_text.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 namespace {
 
 bool hasReader() { return meshReaderName() != "none"; }
@@ -122,4 +122,4 @@ TEST(MeshWithoutReader, IsRefused) {
 }
 
 }  // namespace
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

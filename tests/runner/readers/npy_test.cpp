@@ -7,7 +7,7 @@
 #include "runner/support/npy_bytes.h"
 #include "values/library_array.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 namespace {
 
 template <typename T>
@@ -267,4 +267,4 @@ TEST(Npy, FilesAreNamed) {
 }
 
 }  // namespace
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 namespace {
 
 TEST(HtmlText, CharactersWithAMeaningBecomeReferences) {
@@ -19,4 +19,4 @@ TEST(HtmlText, WhatIsNoCharacterOfAPageIsReplaced) {
 }
 
 }  // namespace
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

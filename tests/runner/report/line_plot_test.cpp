@@ -5,7 +5,7 @@
 #include <limits>
 #include <regex>
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 namespace {
 
 using testing::HasSubstr;
@@ -81,4 +81,4 @@ TEST(LinePlot, NamesAreTexts) {
 }
 
 }  // namespace
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 namespace {
 
 TEST(MessageDistribution, MessagesGoWhereTheyWereAdded) {
@@ -34,4 +34,4 @@ TEST(MessageDistribution, NamesOfSourcesAndLevels) {
 }
 
 }  // namespace
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 namespace {
 
 ReportEntry entry(const std::string& frame, std::map<std::string, OutputReport> outputs) {
@@ -57,4 +57,4 @@ TEST(OutputPlots, OneFrameHasNone) {
 }
 
 }  // namespace
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

@@ -7,7 +7,7 @@
 #include "report/message_distribution.h"
 #include "text/library_text.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 namespace {
 
 using testing::HasSubstr;
@@ -95,4 +95,4 @@ TEST(RunReportHtml, AGraphThatCouldNotBeLoadedSaysWhy) {
 }
 
 }  // namespace
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

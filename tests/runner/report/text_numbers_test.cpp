@@ -3,7 +3,7 @@
 #include <cmath>
 #include <gtest/gtest.h>
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 namespace {
 
 /// "title: name=number name=number; ..."
@@ -73,4 +73,4 @@ TEST(TextNumbers, StringsHaveNoneWhateverTheyHold) {
 }
 
 }  // namespace
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

@@ -5,7 +5,7 @@
 #include <string>
 #include <system_error>
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 namespace {
 
 namespace fs = std::filesystem;
@@ -91,4 +91,4 @@ TEST_F(WholeFileTest, RefusesAFolderInItsPlace) {
 }
 
 }  // namespace
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 
 using Bytes = std::vector<unsigned char>;
 
@@ -41,4 +41,4 @@ inline std::string npyHeader(const std::string& descriptor, const std::string& s
          ", 'shape': " + shape + ", }          \n";
 }
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

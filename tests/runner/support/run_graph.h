@@ -11,7 +11,7 @@
 #include "orvel_sdk/value_factory.h"
 #include "values/library_array.h"
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 
 /// What a graph without ports gives: by output, the value; and what was complained of.
 struct GraphResult {
@@ -62,4 +62,4 @@ inline GraphResult runOperation(const std::string& operation,
                   R"(}], "outputs": [{"name": "result", "from": "node"}]})");
 }
 
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

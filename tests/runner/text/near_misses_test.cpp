@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 namespace {
 
 TEST(EditDistance, CountsSingleSlips) {
@@ -40,4 +40,4 @@ TEST(NearMissHint, IsAQuestion) {
 }
 
 }  // namespace
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

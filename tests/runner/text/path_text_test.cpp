@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 #include <system_error>
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 namespace {
 
 TEST(WidePath, ReadsCharactersOfEveryLength) {
@@ -50,4 +50,4 @@ TEST(FilePath, KeepsTheCharacters) {
 }
 
 }  // namespace
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

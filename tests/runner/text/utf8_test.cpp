@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 namespace {
 
 TEST(Utf8, EveryLengthComesBack) {
@@ -35,4 +35,4 @@ TEST(Utf8, OtherBytesAreRefusedAndStay) {
 }
 
 }  // namespace
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner

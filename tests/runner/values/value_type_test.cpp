@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vtlcmd {
+namespace vtlcmd::runner {
 namespace {
 
 std::string refusalOf(const std::string& text) {
@@ -50,4 +50,4 @@ TEST(ValueType, LimitsTheDepth) {
 }
 
 }  // namespace
-}  // namespace vtlcmd
+}  // namespace vtlcmd::runner
