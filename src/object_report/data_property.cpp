@@ -5,7 +5,7 @@
 
 #include "host/value_types.h"
 #include "object_report/object_report.h"
-#include "output/array_statistics.h"
+#include "output/statistics/array_statistics.h"
 
 namespace vtlcmd {
 namespace {

@@ -7,8 +7,8 @@
 #include "host/imports/orvel_values.h"
 #include "host/value_types.h"
 #include "logging/vtlcmd_logger.h"
-#include "output/array_statistics.h"
 #include "output/array_text.h"
+#include "output/statistics/array_statistics.h"
 #include "output/value_text.h"
 
 /// The text of arrays. The class of the element type decides about the lowest level: summarised,

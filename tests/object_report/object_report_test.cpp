@@ -8,7 +8,7 @@
 #include "host/imports/vantrel_geometry.h"
 #include "host/value_types.h"
 #include "orvel_sdk/value_factory.h"
-#include "output/array_statistics.h"
+#include "output/statistics/array_statistics.h"
 #include "support/type_samples.h"
 #include "vantrel_geometry/geometry_builder.h"
 #include "vantrel_object/object_builder.h"

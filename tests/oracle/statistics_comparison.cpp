@@ -6,7 +6,7 @@
 
 #include "host/imports/orvel_array.h"
 #include "host/value_types.h"
-#include "output/array_statistics.h"
+#include "output/statistics/array_statistics.h"
 #include "statistics_model.h"
 
 namespace vtlcmd::oracle {

@@ -54,4 +54,10 @@ constexpr T addWrapping(T sum, T element) noexcept {
   }
 }
 
+/// Whether more than half of `count` elements are true, where the first one counts as an element
+/// but never as a true one.
+constexpr bool mostAreTrue(std::uint64_t trueBehindFirst, std::uint64_t count) noexcept {
+  return static_cast<float>(trueBehindFirst) > static_cast<float>(count) * 0.5F;
+}
+
 }  // namespace vtlcmd

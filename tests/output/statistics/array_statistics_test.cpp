@@ -1,4 +1,4 @@
-#include "output/array_statistics.h"
+#include "output/statistics/array_statistics.h"
 
 #include <cmath>
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "output/array_average.h"
+#include "output/statistics/average.h"
 
 #include <cmath>
 #include <gtest/gtest.h>

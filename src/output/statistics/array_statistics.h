@@ -8,13 +8,16 @@
 #include "host/imports/orvel_array.h"
 #include "host/imports/orvel_string.h"
 #include "host/value_types.h"
-#include "output/array_summary.h"
+#include "output/statistics/summary.h"
 
 namespace vtlcmd {
 
 template <typename T>
-concept Summarised = (Registered<T> || ReportOnly<T>)&&valueType<T>().arrayClass
-                     == ArrayClass::summarised;
+concept Summarised = requires {
+  requires Tagged<T, 1>;
+  requires valueType<T>()
+  .arrayClass == ArrayClass::summarised;
+};
 
 namespace array_statistics {
 
@@ -51,27 +54,18 @@ void writeLine(std::ostream& stream, const char* word, const T& value) {
 ///        max: 4
 ///        avg: 2.66667
 ///     }
-///
-/// Sums run in array order in the element's own width and wrap; averages of all types but double
-/// divide in single precision. Vectors go component by component. Elements of a bool array are
-/// bytes, any of which but 0 is true.
 template <Summarised T>
 void printArrayStatistics(std::ostream& stream, const Orvel::Array<T>& array) {
-  // A byte that is neither 0 nor 1 may not be read as a bool.
-  using Element = std::conditional_t<std::is_same_v<T, bool>, unsigned char, T>;
-  const auto* elements = reinterpret_cast<const Element*>(array.data);
-
   // The blank in front of this one head is wanted.
   if constexpr (std::is_same_v<T, bool>) stream << " ";
   stream << "(" << array.size << " " << valueType<T>().name << ")\n  {\n";
   if (array.size == 0) {
     stream << "empty array...";
   } else {
-    Summary<T> summary(elements[0]);
-    for (std::uint64_t i = 1; i < array.size; ++i) summary.add(elements[i]);
-    array_statistics::writeLine(stream, "min", summary.minimum());
-    array_statistics::writeLine(stream, "max", summary.maximum());
-    array_statistics::writeLine(stream, "avg", summary.average(array.size));
+    const Summary<T> summary = summarise(array.data, array.size);
+    array_statistics::writeLine(stream, "min", summary.minimum);
+    array_statistics::writeLine(stream, "max", summary.maximum);
+    array_statistics::writeLine(stream, "avg", summary.average);
   }
   stream << "  }";
 }
