@@ -3,6 +3,7 @@
 
 #include "command_line/command_line.h"
 #include "platform/process.h"
+#include "text/control_characters.h"
 
 int main(int count, char** words) {
   using vtlcmd::runner::ExitCode;
@@ -11,7 +12,7 @@ int main(int count, char** words) {
     vtlcmd::runner::prepareStandardStreams();
     code = vtlcmd::runner::runCommandLine(vtlcmd::runner::commandLineWords(count, words));
   } catch (const std::exception& error) {
-    std::cerr << "vtlcmd: " << error.what() << '\n';
+    std::cerr << "vtlcmd: " << vtlcmd::runner::withoutControls(error.what()) << '\n';
   }
   std::cout.flush();
   if (!std::cout) {

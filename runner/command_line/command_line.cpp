@@ -10,6 +10,7 @@
 #include "command_line/completion.h"
 #include "command_line/usage_error.h"
 #include "command_line/version_text.h"
+#include "text/control_characters.h"
 #include "text/library_text.h"
 #include "text/load_error.h"
 #include "text/near_misses.h"
@@ -61,7 +62,7 @@ std::string surplusText(const CLI::App& app) {
 ExitCode refuse(const CLI::App& app, const std::string& text) {
   const std::vector<CLI::App*> commands = app.get_subcommands();
   const std::string command = commands.empty() ? "" : " " + commands.front()->get_name();
-  std::cerr << "vtlcmd: " << text << "\nTry 'vtlcmd" << command << " --help'.\n";
+  std::cerr << "vtlcmd: " << withoutControls(text) << "\nTry 'vtlcmd" << command << " --help'.\n";
   return ExitCode::usage;
 }
 
@@ -109,7 +110,7 @@ ExitCode runCommandLine(const std::vector<std::string>& arguments) {
   } catch (const UsageError& error) {
     return refuse(app, error.what());
   } catch (const LoadError& error) {
-    std::cerr << "vtlcmd: " << error.what() << '\n';
+    std::cerr << "vtlcmd: " << withoutControls(error.what()) << '\n';
     return ExitCode::notLoaded;
   }
   return state.exitCode;

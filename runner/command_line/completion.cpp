@@ -6,6 +6,7 @@
 
 #include "graph/graph.h"
 #include "logging/vtlcmd_logger.h"
+#include "text/control_characters.h"
 #include "text/load_error.h"
 
 namespace vtlcmd::runner {
@@ -25,7 +26,9 @@ struct Place {
 
 void offer(const Place& place, const std::string& value, const std::string& meaning) {
   const std::string word = place.before + value;
-  if (word.starts_with(place.word)) place.stream << word << '\t' << meaning << '\n';
+  // A line is a word and its meaning, whatever a graph's descriptions hold.
+  if (word.starts_with(place.word))
+    place.stream << word << '\t' << withoutControls(meaning, "") << '\n';
 }
 
 void offerFiles(const Place& place) { place.stream << '\t' << place.before << '\n'; }

@@ -19,7 +19,7 @@ class FramesParser {
  public:
   explicit FramesParser(std::string_view text) : text_(text), rest_(text) {}
 
-  std::vector<double> parse() {
+  FrameList parse() {
     do {
       addRange();
     } while (take(','));
@@ -57,7 +57,7 @@ class FramesParser {
       return;
     }
     const double last = number();
-    const double step = take('x') ? number() : 1;
+    const double step = take('x') || take(':') ? number() : 1;
     if (!(step > 0)) fail("the step must be above zero");
     add(first, last < first ? -step : step, std::abs(last - first) / step);
   }
@@ -65,17 +65,16 @@ class FramesParser {
   void add(double first, double step, double steps) {
     if (steps + static_cast<double>(frames_.size()) >= mostFrames) fail("more than 1000000 frames");
     const auto last = static_cast<std::size_t>(std::floor(steps + stepTolerance));
-    for (std::size_t i = 0; i <= last; ++i)
-      frames_.push_back(first + static_cast<double>(i) * step);
+    frames_.append(first, step, last + 1);
   }
 
   std::string_view text_;
   std::string_view rest_;
-  std::vector<double> frames_;
+  FrameList frames_;
 };
 
 }  // namespace
 
-std::vector<double> parseFrames(const std::string& text) { return FramesParser(text).parse(); }
+FrameList parseFrames(const std::string& text) { return FramesParser(text).parse(); }
 
 }  // namespace vtlcmd::runner

@@ -29,10 +29,16 @@ std::optional<T> numberIn(const std::string& text) {
 }  // namespace
 
 double parseFramesPerSecond(const std::string& text) {
-  const std::optional<double> number = numberIn<double>(text);
-  if (!number || std::isnan(*number))
-    throw UsageError("--fps takes a number of frames a second, not " + inQuotes(text));
-  return *number;
+  const std::size_t slash = std::min(text.find('/'), text.size());
+  const std::optional<double> dividend = numberIn<double>(text.substr(0, slash));
+  const std::optional<double> divisor =
+      slash == text.size() ? 1.0 : numberIn<double>(text.substr(slash + 1));
+  if (dividend && divisor && *divisor > 0) {
+    const double number = *dividend / *divisor;
+    if (number > 0 && std::isnormal(number)) return number;
+  }
+  throw UsageError("--fps takes a number of frames a second above zero, like 24 or 24000/1001, " +
+                   ("not " + inQuotes(text)));
 }
 
 std::uint32_t parseVerbosity(const std::string& text) {

@@ -2,17 +2,18 @@
 
 #include <cstdint>
 #include <string>
-#include <vector>
 
+#include "execution/frame_list.h"
 #include "host/host_records.h"
 
 namespace vtlcmd::runner {
 
-/// Frame numbers from a list like `1`, `1-10`, `10-1`, `1-10x2` or `1,5,7-9x0.5`, in the order
-/// given. Numbers may be negative or have a fraction. Throws UsageError.
-std::vector<double> parseFrames(const std::string& text);
+/// Frame numbers from a list like `1`, `1-10`, `10-1`, `1-10x2`, `1-10:2` or `1,5,7-9x0.5`, in the
+/// order given. Numbers may be negative or have a fraction. Throws UsageError.
+FrameList parseFrames(const std::string& text);
 
-/// A number of frames a second, infinite ones included. Throws UsageError.
+/// Frames a second: a number like `24`, or a quotient of two like `24000/1001`, that a double holds
+/// with full precision. Throws UsageError.
 double parseFramesPerSecond(const std::string& text);
 
 /// A level by its name or its number, 0 to 6. Throws UsageError.

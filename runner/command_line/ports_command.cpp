@@ -5,6 +5,7 @@
 
 #include "command_line/commands.h"
 #include "graph/graph.h"
+#include "text/control_characters.h"
 #include "text/path_text.h"
 
 namespace vtlcmd::runner {
@@ -48,7 +49,7 @@ void printTable(const std::vector<PortRow>& rows) {
     if (!row.defaultText.empty()) line += "default " + row.defaultText + "  ";
     line += row.description;
     line.resize(line.find_last_not_of(' ') + 1);
-    std::cout << line << '\n';
+    std::cout << withoutControls(line, "") << '\n';
   }
 }
 

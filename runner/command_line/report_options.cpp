@@ -1,7 +1,5 @@
 #include "command_line/report_options.h"
 
-#include <iostream>
-
 #include "command_line/option_values.h"
 #include "command_line/terminal.h"
 #include "execution/plug_in.h"
@@ -46,8 +44,8 @@ OutputForm ReportOptions::outputForm() const {
 
 std::filesystem::path ReportOptions::plugInFile() const { return plugInFileFrom(plugIn_); }
 
-MessagePrinter::Streams ReportOptions::streams(std::ostream& report) const {
-  return {report, std::cerr, wantsColor(color_)};
+MessagePrinter::Sinks ReportOptions::sinks(TextSink report) const {
+  return {report, standardErrors(), wantsColor(color_)};
 }
 
 CLI::Option* addPlugInOption(CLI::App& command, std::string& plugIn) {

@@ -3,7 +3,6 @@
 #include <CLI/App.hpp>
 #include <cstdint>
 #include <filesystem>
-#include <iosfwd>
 #include <string>
 
 #include "execution/message_printer.h"
@@ -22,8 +21,8 @@ class ReportOptions {
 
   OutputForm outputForm() const;
   std::filesystem::path plugInFile() const;
-  /// Prints the report to a stream and problems to the standard error stream.
-  MessagePrinter::Streams streams(std::ostream& report) const;
+  /// Problems go to the standard error stream.
+  MessagePrinter::Sinks sinks(TextSink report) const;
 
  private:
   std::string printLimit_ = "10";

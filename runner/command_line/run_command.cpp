@@ -7,13 +7,14 @@
 #include "command_line/port_texts.h"
 #include "command_line/report_options.h"
 #include "command_line/run_reports.h"
+#include "command_line/terminal.h"
 #include "execution/interrupt.h"
 #include "execution/progress.h"
 #include "execution/session.h"
 #include "graph/graph.h"
-#include "platform/process.h"
 #include "text/load_error.h"
 #include "text/path_text.h"
+#include "text/shortest_text.h"
 
 namespace vtlcmd::runner {
 namespace {
@@ -57,12 +58,13 @@ void addOptions(CLI::App& command, RunOptions& options) {
       ->type_name("PORT=PATH");
   command
       .add_option("-f,--frames", options.frames,
-                  "Frames to run: 1 or 1-10 or 1-10x2 or 1,5,9; fractions are fine")
+                  "Frames to run: 1 or 1-10 or 1-10x2 (or 1-10:2) or 1,5,9; fractions are fine")
       ->type_name("FRAMES")
       ->capture_default_str();
   command
       .add_option("--fps", options.framesPerSecond,
-                  "Frames a second; a frame's time is its number times the length of a frame")
+                  "Frames a second, like 24 or 24000/1001; a frame's time is its number times the "
+                  "length of a frame")
       ->type_name("NUMBER")
       ->capture_default_str();
   command.add_option("--scene", options.scene, "Scene file that the graph is told")
@@ -135,19 +137,14 @@ ExitCode runGraph(const Graph& graph, const RunSettings& settings, const RunOpti
                   bool documentOnOutput, VtlCmdLogger& logger) {
   const PlugIn plugIn(options.report.plugInFile());
   rememberInterrupt();
-  MessagePrinter printer(logger, static_cast<std::int16_t>(settings.verbosity),
-                         options.report.streams(documentOnOutput ? std::cerr : std::cout));
-  Progress progress(std::cerr, options.progress.value_or(errorsGoToTerminal()));
+  Progress progress(std::cerr, progressForm(options.progress), settings.frames.size());
+  MessagePrinter printer(
+      logger, static_cast<std::int16_t>(settings.verbosity),
+      options.report.sinks(documentOnOutput ? standardErrors() : standardOutput()), progress);
   Session session(graph, plugIn.translation(), settings, logger);
   const RunOutcome outcome = session.run(
-      [&](std::size_t frame) {
-        progress.show("frame " + std::to_string(frame + 1) + " of " +
-                      std::to_string(settings.frames.size()));
-      },
-      [&] {
-        progress.clear();
-        printer.printNew();
-      });
+      [&](std::size_t frame) { progress.beginFrame(frame, shortestText(settings.frames[frame])); },
+      [&] { printer.printNew(); });
   if (settings.verbosity >= levelVerbose) printCounts(logger);
   return exitCodeOf(outcome);
 }

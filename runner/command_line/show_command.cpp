@@ -3,6 +3,7 @@
 
 #include "command_line/commands.h"
 #include "command_line/report_options.h"
+#include "command_line/terminal.h"
 #include "execution/plug_in.h"
 #include "orvel_sdk/value_factory.h"
 #include "readers/mesh.h"
@@ -39,8 +40,9 @@ bool show(const std::string& file, const ShowOptions& options,
 
 ExitCode showAll(const ShowOptions& options) {
   VtlCmdLogger logger(options.report.printLimit());
+  Progress noProgress(std::cerr, ProgressForm::none, options.files.size());
   MessagePrinter printer(logger, static_cast<std::int16_t>(options.report.verbosity()),
-                         options.report.streams(std::cout));
+                         options.report.sinks(standardOutput()), noProgress);
   const PlugIn plugIn(options.report.plugInFile());
   const PortValueMap noTexts;
   RunContext context{&noTexts, &noTexts, 0, 0, 1, {}, {}, &logger};

@@ -2,6 +2,8 @@
 
 #include <ostream>
 
+#include "text/control_characters.h"
+
 namespace vtlcmd::runner {
 namespace {
 
@@ -11,26 +13,29 @@ constexpr const char* plain = "\x1b[0m";
 
 }  // namespace
 
-MessagePrinter::MessagePrinter(const VtlCmdLogger& logger, std::int16_t verbosity, Streams streams)
-    : logger_(logger), verbosity_(verbosity), streams_(streams) {}
+MessagePrinter::MessagePrinter(const VtlCmdLogger& logger, std::int16_t verbosity, Sinks sinks,
+                               Progress& progress)
+    : logger_(logger), verbosity_(verbosity), sinks_(sinks), progress_(progress) {}
 
 void MessagePrinter::printNew() {
   for (; printed_ < logger_.messages.size(); ++printed_) print(logger_.messages[printed_]);
-  streams_.report.flush();
-  streams_.problems.flush();
+  sinks_.report.stream.flush();
+  sinks_.problems.stream.flush();
+  progress_.show();
 }
 
-void MessagePrinter::print(const LogMessage& message) const {
+void MessagePrinter::print(const LogMessage& message) {
   if (!VtlCmdLogger::levelAdmits(verbosity_, std::uint32_t{message.level} - 1)) return;
-  const std::string line =
-      VtlCmdLogger::makeMessagePrefix(message.source, message.level) + message.text;
-  if (message.level > levelWarning) {
-    streams_.report << line << '\n';
-  } else if (streams_.colored) {
-    streams_.problems << (message.level == levelWarning ? yellow : red) << line << plain << '\n';
-  } else {
-    streams_.problems << line << '\n';
+  const bool isProblem = message.level <= levelWarning;
+  const TextSink& sink = isProblem ? sinks_.problems : sinks_.report;
+  std::string line = VtlCmdLogger::makeMessagePrefix(message.source, message.level) + message.text;
+  if (sink.isTerminal) {
+    progress_.hide();
+    line = withoutControls(line);
   }
+  if (isProblem && sinks_.colored)
+    line = (message.level == levelWarning ? yellow : red) + line + plain;
+  sink.stream << line << '\n';
 }
 
 }  // namespace vtlcmd::runner

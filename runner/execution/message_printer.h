@@ -4,33 +4,43 @@
 #include <cstdint>
 #include <iosfwd>
 
+#include "execution/progress.h"
 #include "logging/vtlcmd_logger.h"
 
 namespace vtlcmd::runner {
 
-/// Prints what a logger collects: critical messages, errors and warnings to one stream, the rest
-/// to the other, each behind its prefix.
+/// Where text for people goes. Control characters that it holds don't reach a terminal.
+struct TextSink {
+  std::ostream& stream;
+  bool isTerminal = false;
+};
+
+/// Prints what a logger collects: critical messages, errors and warnings to one sink, the rest to
+/// the other, each behind its prefix.
 class MessagePrinter {
  public:
-  struct Streams {
-    std::ostream& report;
-    std::ostream& problems;
+  struct Sinks {
+    TextSink report;
+    TextSink problems;
     /// Whether problems are coloured with terminal codes.
     bool colored = false;
   };
 
-  /// `verbosity` is a level: messages above it are not printed. The logger must outlive this.
-  MessagePrinter(const VtlCmdLogger& logger, std::int16_t verbosity, Streams streams);
+  /// `verbosity` is a level: messages above it are not printed. Logger and progress, which is taken
+  /// away while something else is printed on a terminal, must outlive this.
+  MessagePrinter(const VtlCmdLogger& logger, std::int16_t verbosity, Sinks sinks,
+                 Progress& progress);
 
   /// Prints the messages since the last call and flushes.
   void printNew();
 
  private:
-  void print(const LogMessage& message) const;
+  void print(const LogMessage& message);
 
   const VtlCmdLogger& logger_;
   std::int16_t verbosity_;
-  Streams streams_;
+  Sinks sinks_;
+  Progress& progress_;
   std::size_t printed_ = 0;
 };
 

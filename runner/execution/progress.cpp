@@ -1,28 +1,90 @@
 #include "execution/progress.h"
 
+#include <array>
+#include <cstdio>
 #include <ostream>
+#include <utility>
 
 namespace vtlcmd::runner {
 namespace {
 
-constexpr auto shortestPause = std::chrono::milliseconds(500);
+using Seconds = std::chrono::duration<double>;
+
 constexpr const char* eraseLine = "\r\x1b[K";
+
+constexpr std::chrono::milliseconds pauseBetween(ProgressForm form) {
+  return std::chrono::milliseconds(form == ProgressForm::terminalLine ? 500 : 10'000);
+}
+
+template <typename... Arguments>
+std::string formatted(const char* format, Arguments... arguments) {
+  std::array<char, 64> text{};
+  static_cast<void>(std::snprintf(text.data(), text.size(), format, arguments...));
+  return text.data();
+}
+
+/// "0:07", "12:00" or "1:00:00".
+std::string durationText(double seconds) {
+  // More than a year is as good as for ever.
+  constexpr double longest = 366.0 * 24 * 3600;
+  if (!(seconds < longest)) return "over a year";
+  const auto whole = static_cast<long>(seconds + 0.5);
+  const std::string hours = whole < 3600 ? "" : std::to_string(whole / 3600) + ":";
+  const char* format = hours.empty() ? "%ld:%02ld" : "%02ld:%02ld";
+  return hours + formatted(format, whole / 60 % 60, whole % 60);
+}
+
+/// Both ends of the scale keep a digit that tells something.
+std::string rateText(double framesPerSecond) {
+  if (framesPerSecond >= 1) return formatted("%.1f frames/s", framesPerSecond);
+  return formatted("%.1f s/frame", 1 / framesPerSecond);
+}
 
 }  // namespace
 
-void Progress::show(const std::string& text) {
-  if (!enabled_) return;
-  const auto now = std::chrono::steady_clock::now();
-  if (shownAt_ && now - *shownAt_ < shortestPause) return;
-  shownAt_ = now;
-  visible_ = true;
-  stream_ << eraseLine << text << std::flush;
+Progress::Progress(std::ostream& stream, ProgressForm form, std::size_t frameCount, Clock clock)
+    : stream_(stream),
+      form_(form),
+      frameCount_(frameCount),
+      clock_(std::move(clock)),
+      start_(clock_()) {}
+
+Progress::~Progress() { hide(); }
+
+void Progress::beginFrame(std::size_t index, const std::string& frame) {
+  if (form_ == ProgressForm::none) return;
+  const Time now = clock_();
+  if (renewedAt_ && now - *renewedAt_ < pauseBetween(form_)) return;
+  renewedAt_ = now;
+  text_ = textOf(index, frame, now);
+  if (form_ == ProgressForm::plainLines) {
+    stream_ << text_ << std::endl;
+  } else {
+    hide();
+    show();
+  }
 }
 
-void Progress::clear() {
-  if (!visible_) return;
-  visible_ = false;
+void Progress::hide() {
+  if (!std::exchange(visible_, false)) return;
   stream_ << eraseLine << std::flush;
+}
+
+void Progress::show() {
+  if (form_ != ProgressForm::terminalLine || text_.empty() || visible_) return;
+  visible_ = true;
+  stream_ << text_ << std::flush;
+}
+
+std::string Progress::textOf(std::size_t index, const std::string& frame, Time now) const {
+  std::string text = "frame " + frame + " (" + std::to_string(index + 1) + " of " +
+                     std::to_string(frameCount_) + "), " +
+                     std::to_string(index * 100 / frameCount_) + " %";
+  const double elapsed = Seconds(now - start_).count();
+  if (index == 0 || elapsed <= 0) return text;
+  const double framesPerSecond = static_cast<double>(index) / elapsed;
+  const double left = static_cast<double>(frameCount_ - index) / framesPerSecond;
+  return text + ", " + rateText(framesPerSecond) + ", " + durationText(left) + " left";
 }
 
 }  // namespace vtlcmd::runner

@@ -2,29 +2,53 @@
 
 #include <chrono>
 #include <cstddef>
+#include <functional>
 #include <iosfwd>
 #include <optional>
 #include <string>
 
 namespace vtlcmd::runner {
 
-/// One line on a terminal that tells how far a run is, renewed at most twice a second.
+enum class ProgressForm {
+  none,
+  /// One line of a terminal, renewed at most twice a second and taken away in the end.
+  terminalLine,
+  /// Lines for a file or a pipe, one at the start and then at most one in ten seconds.
+  plainLines,
+};
+
+/// Tells how far a run is: its frame, the share of the frames that are done, frames a second and
+/// the time left. Not for several threads.
 class Progress {
  public:
-  Progress(std::ostream& stream, bool enabled) : stream_(stream), enabled_(enabled) {}
+  using Time = std::chrono::steady_clock::time_point;
+  using Clock = std::function<Time()>;
+
+  /// The stream must outlive this. `clock` never runs backwards.
+  Progress(std::ostream& stream, ProgressForm form, std::size_t frameCount,
+           Clock clock = std::chrono::steady_clock::now);
   Progress(const Progress&) = delete;
   Progress& operator=(const Progress&) = delete;
-  ~Progress() { clear(); }
+  ~Progress();
 
-  void show(const std::string& text);
-  /// Takes the line away, so that something else can be printed.
-  void clear();
+  /// Before each frame: its place in the run, and its number as the user knows it.
+  void beginFrame(std::size_t index, const std::string& frame);
+
+  /// Round everything else that is printed on the terminal: take the line away, and put it back.
+  void hide();
+  void show();
 
  private:
+  std::string textOf(std::size_t index, const std::string& frame, Time now) const;
+
   std::ostream& stream_;
-  bool enabled_;
+  ProgressForm form_;
+  std::size_t frameCount_;
+  Clock clock_;
+  Time start_;
+  std::optional<Time> renewedAt_;
+  std::string text_;
   bool visible_ = false;
-  std::optional<std::chrono::steady_clock::time_point> shownAt_;
 };
 
 }  // namespace vtlcmd::runner

@@ -1,29 +1,15 @@
 #include "execution/session.h"
 
 #include <algorithm>
-#include <charconv>
 #include <exception>
-#include <limits>
 
 #include "execution/interrupt.h"
 #include "orvel_sdk/any_bridge.h"
 #include "text/library_text.h"
 #include "text/path_text.h"
+#include "text/shortest_text.h"
 
 namespace vtlcmd::runner {
-namespace {
-
-double frameLengthOf(double framesPerSecond) {
-  return framesPerSecond == 0 ? std::numeric_limits<double>::infinity() : 1 / framesPerSecond;
-}
-
-std::string shortestText(double number) {
-  // Long enough for the shortest text of any double.
-  char text[32];
-  return {text, std::to_chars(text, text + sizeof text, number).ptr};
-}
-
-}  // namespace
 
 Session::Session(const Graph& graph, const PlugIn::Translation& translation,
                  const RunSettings& settings, VtlCmdLogger& logger)
@@ -32,14 +18,9 @@ Session::Session(const Graph& graph, const PlugIn::Translation& translation,
       settings_(settings),
       logger_(logger),
       executor_(graph, settings.graphFile.parent_path(), logger),
-      context_{&settings.inputValues,
-               &settings.jobValues,
-               0,
-               0,
-               frameLengthOf(settings.framesPerSecond),
-               settings.sceneFile,
-               settings.secondaryPath,
-               &logger} {
+      context_{
+          &settings.inputValues, &settings.jobValues,    0,      0, 1 / settings.framesPerSecond,
+          settings.sceneFile,    settings.secondaryPath, &logger} {
   for (const GraphPort& port : graph.ports) {
     ports_.push_back({libraryText(port.name), libraryTypeOf(port.type),
                       port.defaultValue ? Orvel::toAny(*port.defaultValue) : Any()});

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "execution/executor.h"
+#include "execution/frame_list.h"
 #include "execution/output_reporting.h"
 #include "execution/plug_in.h"
 #include "graph/graph.h"
@@ -24,7 +25,7 @@ struct RunSettings {
   PortValueMap inputValues;
   PortValueMap jobValues;
   /// Not empty.
-  std::vector<double> frames;
+  FrameList frames;
   double framesPerSecond = 24;
   HostPath sceneFile;
   HostPath secondaryPath;

@@ -36,6 +36,12 @@ std::optional<T> readInteger(const json& value) {
   return std::nullopt;
 }
 
+/// The least number that rounds up beyond the range of T.
+template <std::floating_point T>
+constexpr double firstBeyond = std::numeric_limits<double>::infinity();
+template <>
+constexpr double firstBeyond<float> = 0x1.ffffffp127;
+
 template <std::floating_point T>
 std::optional<T> readFloating(const json& value) {
   using Limits = std::numeric_limits<T>;
@@ -43,7 +49,7 @@ std::optional<T> readFloating(const json& value) {
   if (value.is_number_integer()) return static_cast<T>(value.get<std::int64_t>());
   if (value.is_number_float()) {
     const auto number = value.get<double>();
-    if (std::abs(number) <= static_cast<double>(Limits::max())) return static_cast<T>(number);
+    if (std::abs(number) < firstBeyond<T>) return static_cast<T>(number);
   }
   if (value == "nan") return Limits::quiet_NaN();
   if (value == "inf") return Limits::infinity();

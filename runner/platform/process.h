@@ -16,7 +16,8 @@ std::vector<std::string> commandLineWords(int count, char** words);
 /// UTF-8. To be called once, before anything is written.
 void prepareStandardStreams();
 
-/// Whether standard error is a terminal that understands control sequences.
+/// Whether standard output and standard error are terminals that understand control sequences.
+bool outputGoesToTerminal();
 bool errorsGoToTerminal();
 
 /// This program's file, with its absolute path; empty when the platform doesn't tell.

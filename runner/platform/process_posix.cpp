@@ -11,6 +11,8 @@ std::vector<std::string> commandLineWords(int count, char** words) {
 
 void prepareStandardStreams() {}
 
+bool outputGoesToTerminal() { return ::isatty(STDOUT_FILENO) != 0; }
+
 bool errorsGoToTerminal() { return ::isatty(STDERR_FILENO) != 0; }
 
 std::filesystem::path ownFile() {

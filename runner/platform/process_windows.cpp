@@ -14,6 +14,14 @@ namespace {
 /// The code page that the console had before this program.
 UINT codePageBefore = 0;
 
+bool isTerminal(DWORD stream) {
+  HANDLE handle = GetStdHandle(stream);
+  DWORD mode = 0;
+  return GetConsoleMode(handle, &mode) != 0 &&
+         SetConsoleMode(handle,
+                        mode | ENABLE_PROCESSED_OUTPUT | ENABLE_VIRTUAL_TERMINAL_PROCESSING) != 0;
+}
+
 }  // namespace
 
 std::vector<std::string> commandLineWords(int, char**) {
@@ -32,13 +40,9 @@ void prepareStandardStreams() {
   static_cast<void>(std::atexit([] { SetConsoleOutputCP(codePageBefore); }));
 }
 
-bool errorsGoToTerminal() {
-  HANDLE errors = GetStdHandle(STD_ERROR_HANDLE);
-  DWORD mode = 0;
-  return GetConsoleMode(errors, &mode) != 0 &&
-         SetConsoleMode(errors,
-                        mode | ENABLE_PROCESSED_OUTPUT | ENABLE_VIRTUAL_TERMINAL_PROCESSING) != 0;
-}
+bool outputGoesToTerminal() { return isTerminal(STD_OUTPUT_HANDLE); }
+
+bool errorsGoToTerminal() { return isTerminal(STD_ERROR_HANDLE); }
 
 std::filesystem::path ownFile() {
   constexpr std::size_t longestPath = 32768;

@@ -8,12 +8,13 @@
 namespace vtlcmd::runner {
 namespace {
 
-TEST(FramesPerSecond, TakesAnyNumberButNaN) {
+TEST(FramesPerSecond, TakesNormalNumbersAboveZeroAndQuotientsOfThem) {
   EXPECT_EQ(parseFramesPerSecond("23.976"), 23.976);
-  EXPECT_EQ(parseFramesPerSecond("-1"), -1);
-  EXPECT_EQ(parseFramesPerSecond("0"), 0);
-  EXPECT_EQ(parseFramesPerSecond("inf"), std::numeric_limits<double>::infinity());
-  for (const char* text : {"", "nan", "24 ", "24fps", " 24"})
+  EXPECT_EQ(parseFramesPerSecond("24000/1001"), 24000.0 / 1001);
+  EXPECT_EQ(parseFramesPerSecond("2.2250738585072014e-308"), 0x1p-1022);
+  for (const char* text :
+       {"",      "nan", "24 ", "24fps", " 24",  "0",     "-0",     "-1",     "inf",    "1e-320",
+        "1e999", "/",   "24/", "/2",    "24/0", "24/-1", "-24/-1", "24/nan", "24/inf", "24/1/1"})
     EXPECT_THROW(parseFramesPerSecond(text), UsageError) << text;
 }
 

@@ -54,6 +54,8 @@ TEST(Literal, IntegersOutOfRange) {
 TEST(Literal, FloatingNumbers) {
   EXPECT_EQ(single<float>("float", "1.5"), 1.5F);
   EXPECT_EQ(single<float>("float", "3"), 3.0F);
+  EXPECT_EQ(single<float>("float", "3.4028235e38"), std::numeric_limits<float>::max());
+  EXPECT_EQ(single<float>("float", "-3.4028235677973362e38"), std::numeric_limits<float>::lowest());
   EXPECT_EQ(single<double>("double", "-7"), -7.0);
   EXPECT_EQ(single<double>("double", "18446744073709551615"), 0x1p64);
   EXPECT_TRUE(std::isnan(single<float>("float", "\"nan\"")));
@@ -62,6 +64,8 @@ TEST(Literal, FloatingNumbers) {
 }
 
 TEST(Literal, FloatsOutOfRange) {
+  EXPECT_EQ(refusalOf("float", "3.4028235677973366e38"),
+            "$: expected a value of type float, found 3.4028235677973366e+38");
   EXPECT_EQ(refusalOf("float", "1e39"), "$: expected a value of type float, found 1e+39");
   EXPECT_EQ(refusalOf("float", "\"infinity\""),
             "$: expected a value of type float, found \"infinity\"");
