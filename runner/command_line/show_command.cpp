@@ -22,7 +22,7 @@ struct ShowOptions {
 
 Orvel::Value readData(const std::filesystem::path& file, bool vectors) {
   if (file.extension() != ".npy") return Orvel::makeValue(readMesh(file));
-  return readNpy(file, vectors ? NpyElements::vectors : NpyElements::numbers);
+  return readNpy(file, {.vectors = vectors, .widened = true}).value;
 }
 
 /// One entry of the report a file. False when the file can't be read or reported.

@@ -20,18 +20,17 @@ std::filesystem::path fileArgument(const NodeCall& call) {
   return file;
 }
 
-/// What an array's declared type makes of the file's last dimension.
-NpyElements elementsFor(const ValueType& type) {
-  NpyElements elements = NpyElements::numbers;
-  withTypeNamed(registeredTypes, type.element, [&]<typename T>() {
-    if constexpr (Composite<T>) elements = NpyElements::vectors;
-  });
-  return elements;
+/// What an array's declared type makes of the file's elements.
+NpyForm formFor(const ValueType& type) {
+  NpyForm form;
+  withTypeNamed(registeredTypes, type.element,
+                [&]<typename T>() { form = {.vectors = Composite<T>, .widened = true}; });
+  return form;
 }
 
 Orvel::Value readArray(const NodeCall& call) {
   const std::filesystem::path file = fileArgument(call);
-  Orvel::Value value = readNpy(file, elementsFor(call.resultType));
+  Orvel::Value value = readNpy(file, formFor(call.resultType)).value;
   const std::string type = value.getType().getFullyQualifiedName().c_str();
   if (type != nameOf(call.resultType))
     throw NodeError(fileText(file) + " holds " + type + ", not " + nameOf(call.resultType));

@@ -5,9 +5,8 @@
 #include <bit>
 #include <limits>
 #include <string_view>
-#include <system_error>
 
-#include "readers/mapped_file.h"
+#include "readers/input_file.h"
 #include "readers/npy_header.h"
 #include "readers/npy_values.h"
 #include "readers/read_error.h"
@@ -24,33 +23,47 @@ using Builder = Orvel::Value (*)(const NpyLayout&, NpyNumbers&);
 
 struct ElementCode {
   std::string_view code;
+  std::string_view name;
   std::uint64_t size;
   Builder build;
+  /// As a type that the graph system reports.
+  Builder buildWidened;
+  bool alwaysWidened;
   /// Of vectors of two, three and four elements; null for elements that have none.
   std::array<Builder, 3> buildVectors;
 };
 
-template <typename T>
-constexpr ElementCode elementCode(std::string_view code) {
-  if constexpr (std::is_floating_point_v<T>) {
+template <typename Stored, typename Kept = Stored, typename Widened = Kept>
+constexpr ElementCode elementCode(std::string_view code, std::string_view name) {
+  ElementCode row{code,
+                  name,
+                  sizeof(Stored),
+                  buildNpyValue<Stored, Kept>,
+                  buildNpyValue<Stored, Widened>,
+                  !std::is_same_v<Stored, Kept>,
+                  {}};
+  if constexpr (std::is_floating_point_v<Kept>) {
     using Vantrel::Math::Vector;
-    return {
-        code,
-        sizeof(T),
-        buildNpyValue<T>,
-        {buildNpyValue<Vector<T, 2>>, buildNpyValue<Vector<T, 3>>, buildNpyValue<Vector<T, 4>>}};
-  } else {
-    return {code, sizeof(T), buildNpyValue<T>, {}};
+    row.buildVectors = {buildNpyValue<Stored, Vector<Kept, 2>>,
+                        buildNpyValue<Stored, Vector<Kept, 3>>,
+                        buildNpyValue<Stored, Vector<Kept, 4>>};
   }
+  return row;
 }
 
 constexpr std::array elementCodes{
-    elementCode<bool>("b1"),          elementCode<std::int8_t>("i1"),
-    elementCode<std::uint8_t>("u1"),  elementCode<std::int16_t>("i2"),
-    elementCode<std::uint16_t>("u2"), elementCode<std::int32_t>("i4"),
-    elementCode<std::uint32_t>("u4"), elementCode<std::int64_t>("i8"),
-    elementCode<std::uint64_t>("u8"), elementCode<float>("f4"),
-    elementCode<double>("f8"),
+    elementCode<bool>("b1", "bool"),
+    elementCode<std::int8_t, std::int8_t, std::int32_t>("i1", "int8"),
+    elementCode<std::uint8_t, std::uint8_t, std::uint32_t>("u1", "uint8"),
+    elementCode<std::int16_t, std::int16_t, std::int32_t>("i2", "int16"),
+    elementCode<std::uint16_t, std::uint16_t, std::uint32_t>("u2", "uint16"),
+    elementCode<std::int32_t>("i4", "int32"),
+    elementCode<std::uint32_t>("u4", "uint32"),
+    elementCode<std::int64_t>("i8", "int64"),
+    elementCode<std::uint64_t>("u8", "uint64"),
+    elementCode<Half, float>("f2", "float16"),
+    elementCode<float>("f4", "float32"),
+    elementCode<double>("f8", "float64"),
 };
 
 const ElementCode& elementCodeOf(const std::string& descriptor) {
@@ -104,35 +117,43 @@ Builder vectorBuilder(const ElementCode& code, const NpyHeader& header) {
   return code.buildVectors[length - 2];
 }
 
+std::string describe(const ElementCode& code, std::span<const std::uint64_t> shape) {
+  std::string text(code.name);
+  const char* separator = ", ";
+  for (const std::uint64_t length : shape) {
+    text += separator + std::to_string(length);
+    separator = " × ";
+  }
+  return text;
+}
+
 }  // namespace
 
-Orvel::Value parseNpy(std::span<const unsigned char> file, NpyElements form,
-                      const std::function<void(std::size_t)>& consumed) {
+NpyArray parseNpy(ByteSource& file, NpyForm form) {
   const NpyHeader header = parseNpyHeader(file);
   const ElementCode& code = elementCodeOf(header.descriptor);
   if (header.shape.empty() || header.shape.size() > 3) {
     throw ReadError("the array has " + std::to_string(header.shape.size()) +
                     " dimensions; 1 to 3 are supported");
   }
-  const bool asVectors = form == NpyElements::vectors;
-  const Builder build = asVectors ? vectorBuilder(code, header) : code.build;
-  checkSize(header, code.size, file.size() - header.dataOffset);
+  const Builder scalarBuilder = form.widened ? code.buildWidened : code.build;
+  const Builder build = form.vectors ? vectorBuilder(code, header) : scalarBuilder;
+  checkSize(header, code.size, file.remaining());
   const char order = header.descriptor[0];
   const bool swapped = order == (std::endian::native == std::endian::little ? '>' : '<');
   std::vector<std::uint64_t> shape = header.shape;
-  if (asVectors) shape.pop_back();
-  NpyNumbers numbers(file, header.dataOffset, swapped, consumed);
-  return build({std::move(shape), header.fortranOrder}, numbers);
+  if (form.vectors) shape.pop_back();
+  NpyNumbers numbers(file, swapped);
+  return {build({std::move(shape), header.fortranOrder}, numbers), describe(code, header.shape),
+          code.alwaysWidened || (form.widened && code.build != code.buildWidened)};
 }
 
-Orvel::Value readNpy(const std::filesystem::path& file, NpyElements form) {
+NpyArray readNpy(const std::filesystem::path& path, NpyForm form) {
   try {
-    const MappedFile mapped(file);
-    return parseNpy(mapped.bytes(), form, [&](std::size_t count) { mapped.release(count); });
+    InputFile file(path);
+    return parseNpy(file, form);
   } catch (const ReadError& error) {
-    throw ReadError(fileText(file) + ": " + error.what());
-  } catch (const std::system_error& error) {
-    throw ReadError(fileText(file) + ": " + error.code().default_error_condition().message());
+    throw ReadError(fileText(path) + ": " + error.what());
   }
 }
 

@@ -1,28 +1,40 @@
 #pragma once
 
-#include <cstddef>
 #include <filesystem>
-#include <functional>
-#include <span>
+#include <string>
 
 #include "host/imports/orvel_values.h"
+#include "readers/byte_source.h"
 
-/// Array files of NumPy, versions 1 to 3: booleans, integers of 8 to 64 bits and floats of 32 and
-/// 64 bits, in either byte order, in C or Fortran order, with one to three dimensions.
+/// Array files of NumPy, versions 1 to 3: booleans, integers of 8 to 64 bits and floats of 16 to 64
+/// bits, in either byte order, in C or Fortran order, with one to three dimensions.
 
 namespace vtlcmd::runner {
 
-/// Whether the last dimension becomes arrays like the others, or, when it is 2 to 4 floats long,
-/// vectors.
-enum class NpyElements { numbers, vectors };
+/// What becomes of a file's elements.
+struct NpyForm {
+  /// The last dimension, which must be 2 to 4 floats long, becomes vectors, not arrays like the
+  /// others.
+  bool vectors = false;
+  /// Integers of 8 and 16 bits become int or uint.
+  bool widened = false;
+};
 
-/// The array in a file's bytes, nested as deep as it has dimensions. Throws ReadError, whose text
-/// leaves it to the caller to name the file. `consumed`, if there is one, is told now and then how
-/// many bytes from the file's begin on won't be read any more.
-Orvel::Value parseNpy(std::span<const unsigned char> file, NpyElements form = NpyElements::numbers,
-                      const std::function<void(std::size_t)>& consumed = {});
+struct NpyArray {
+  /// Nested as deep as the file has dimensions.
+  Orvel::Value value;
+  /// What the file has: "float32, 1000 × 3".
+  std::string description;
+  /// The value's elements aren't of the file's type, since the graph system has none like it or the
+  /// form asks for another.
+  bool isWidened = false;
+};
 
-/// The array in a file, which is mapped, not read as a whole. Throws ReadError.
-Orvel::Value readNpy(const std::filesystem::path& file, NpyElements form = NpyElements::numbers);
+/// The array in a file, whose bytes are read up to the end. Throws ReadError, whose text leaves it
+/// to the caller to name the file, and std::bad_alloc.
+NpyArray parseNpy(ByteSource& file, NpyForm form = {});
+
+/// The array in a file. Throws ReadError.
+NpyArray readNpy(const std::filesystem::path& file, NpyForm form = {});
 
 }  // namespace vtlcmd::runner

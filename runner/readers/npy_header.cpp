@@ -13,6 +13,9 @@ namespace {
 
 constexpr std::string_view magic = "\x93NUMPY";
 
+/// The format's own library reads headers of up to 10,000 bytes.
+constexpr std::size_t longestHeader = 1 << 20;
+
 /// Reads the header's text, a Python dictionary with three keys.
 class DictionaryParser {
  public:
@@ -41,7 +44,7 @@ class DictionaryParser {
       }
     }
     if (!descriptor || !fortranOrder || !shape) fail("a key is missing");
-    return {*std::move(descriptor), *fortranOrder, *std::move(shape), 0};
+    return {*std::move(descriptor), *fortranOrder, *std::move(shape)};
   }
 
  private:
@@ -106,26 +109,32 @@ class DictionaryParser {
   std::string_view rest_;
 };
 
+std::string take(ByteSource& file, std::size_t count) {
+  std::string text(count, '\0');
+  text.resize(file.read({reinterpret_cast<unsigned char*>(text.data()), count}));
+  return text;
+}
+
+std::string takeWhole(ByteSource& file, std::size_t count) {
+  std::string text = take(file, count);
+  if (text.size() < count) throw ReadError("the file is cut short in its header");
+  return text;
+}
+
 }  // namespace
 
-NpyHeader parseNpyHeader(std::span<const unsigned char> file) {
-  const std::string_view text(reinterpret_cast<const char*>(file.data()), file.size());
-  if (!text.starts_with(magic)) throw ReadError("this is no NumPy array file");
-  const std::size_t versionAt = magic.size();
-  const std::size_t lengthAt = versionAt + 2;
-  if (file.size() < lengthAt) throw ReadError("the file is cut short in its header");
-  const unsigned char version = file[versionAt];
+NpyHeader parseNpyHeader(ByteSource& file) {
+  if (take(file, magic.size()) != magic) throw ReadError("this is no NumPy array file");
+  const auto version = static_cast<unsigned char>(takeWhole(file, 2)[0]);
   if (version < 1 || version > 3)
     throw ReadError("the format version " + std::to_string(version) + " isn't supported");
-  const std::size_t lengthSize = version == 1 ? 2 : 4;
-  const std::size_t start = lengthAt + lengthSize;
-  if (file.size() < start) throw ReadError("the file is cut short in its header");
+  const std::string lengthBytes = takeWhole(file, version == 1 ? 2 : 4);
   std::size_t length = 0;
-  for (std::size_t i = 0; i < lengthSize; ++i) length |= std::size_t{file[lengthAt + i]} << (8 * i);
-  if (length > file.size() - start) throw ReadError("the file is cut short in its header");
-  NpyHeader header = DictionaryParser(text.substr(start, length)).parse();
-  header.dataOffset = start + length;
-  return header;
+  for (std::size_t i = 0; i < lengthBytes.size(); ++i)
+    length |= std::size_t{static_cast<unsigned char>(lengthBytes[i])} << (8 * i);
+  if (length > file.remaining()) throw ReadError("the file is cut short in its header");
+  if (length > longestHeader) throw ReadError("the header has more than 1048576 bytes");
+  return DictionaryParser(takeWhole(file, length)).parse();
 }
 
 }  // namespace vtlcmd::runner

@@ -1,10 +1,10 @@
 #pragma once
 
-#include <cstddef>
 #include <cstdint>
-#include <span>
 #include <string>
 #include <vector>
+
+#include "readers/byte_source.h"
 
 namespace vtlcmd::runner {
 
@@ -13,11 +13,10 @@ struct NpyHeader {
   std::string descriptor;
   bool fortranOrder = false;
   std::vector<std::uint64_t> shape;
-  /// Where the elements begin, at most the file's size.
-  std::size_t dataOffset = 0;
 };
 
-/// Throws ReadError, whose text leaves it to the caller to name the file.
-NpyHeader parseNpyHeader(std::span<const unsigned char> file);
+/// Reads a file up to its first element. Throws ReadError, whose text leaves it to the caller to
+/// name the file.
+NpyHeader parseNpyHeader(ByteSource& file);
 
 }  // namespace vtlcmd::runner

@@ -1,17 +1,13 @@
 #pragma once
 
-#include <algorithm>
-#include <array>
-#include <bit>
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
-#include <functional>
 #include <span>
 #include <type_traits>
 #include <vector>
 
 #include "host/value_types.h"
+#include "readers/npy_numbers.h"
 #include "values/library_array.h"
 
 /// Array values from the numbers of a file, which are read once, from front to back, so that a
@@ -19,50 +15,25 @@
 
 namespace vtlcmd::runner {
 
-/// The numbers of a file in their order there. The caller knows how many there are.
-class NpyNumbers {
- public:
-  /// `consumed` may be empty; it is told how many bytes of the file are done with.
-  NpyNumbers(std::span<const unsigned char> file, std::size_t offset, bool swapped,
-             const std::function<void(std::size_t)>& consumed)
-      : file_(file), offset_(offset), swapped_(swapped), consumed_(consumed) {}
-
-  template <typename T>
-  T next() {
-    if (offset_ - told_ >= stretch) tell();
-    const unsigned char* const source = file_.data() + offset_;
-    offset_ += sizeof(T);
-    if constexpr (std::is_same_v<T, bool>) {
-      return *source != 0;
-    } else {
-      std::array<unsigned char, sizeof(T)> bytes;
-      std::memcpy(bytes.data(), source, sizeof(T));
-      if (swapped_) std::reverse(bytes.begin(), bytes.end());
-      return std::bit_cast<T>(bytes);
-    }
-  }
-
- private:
-  static constexpr std::size_t stretch = std::size_t{16} << 20U;
-
-  void tell() {
-    told_ = offset_;
-    if (consumed_) consumed_(offset_);
-  }
-
-  std::span<const unsigned char> file_;
-  std::size_t offset_;
-  bool swapped_;
-  const std::function<void(std::size_t)>& consumed_;
-  std::size_t told_ = 0;
-};
-
 struct NpyLayout {
   /// One to three dimensions, which become arrays. A vector's components are a dimension more.
   std::vector<std::uint64_t> shape;
   /// The first dimension varies fastest in the file, not the last.
   bool fortranOrder;
 };
+
+/// What an element consists of: itself, or a vector's components.
+template <typename T>
+struct NumberIn {
+  using Type = T;
+};
+template <typename T>
+requires requires { T::componentCount; }
+struct NumberIn<T> {
+  using Type = typename T::ComponentType;
+};
+template <typename T>
+using NumberOf = typename NumberIn<T>::Type;
 
 /// An array of `shape.size() == Rank` levels; `makeRow` gives those of the innermost level, from
 /// the first to the last.
@@ -76,20 +47,34 @@ StoredArray<T, Rank> nestRows(std::span<const std::uint64_t> shape, MakeRow& mak
   }
 }
 
-template <typename T>
+template <typename Stored, typename T>
 T nextElement(NpyNumbers& numbers) {
   if constexpr (requires { T::componentCount; }) {
     T vector;
-    for (auto& component : vector.components) component = numbers.next<typename T::ComponentType>();
+    for (auto& component : vector.components) component = numbers.next<Stored, NumberOf<T>>();
     return vector;
   } else {
-    return numbers.next<T>();
+    return numbers.next<Stored, T>();
+  }
+}
+
+/// A row that stands in the file as a whole.
+template <typename Stored, typename T>
+Orvel::Array<T> nextRow(std::uint64_t count, NpyNumbers& numbers) {
+  if constexpr (std::is_same_v<Stored, NumberOf<T>> && !std::is_same_v<Stored, bool>) {
+    static_assert(std::is_trivially_copyable_v<T> && sizeof(T) % sizeof(Stored) == 0);
+    Orvel::Array<T> row = arrayWithRoom<T>(count);
+    numbers.fill<Stored>({reinterpret_cast<unsigned char*>(row.data), count * sizeof(T)});
+    row.size = count;
+    return row;
+  } else {
+    return generateArray<T>(count, [&](std::uint64_t) { return nextElement<Stored, T>(numbers); });
   }
 }
 
 /// Fills rows in the order of the first dimension varying fastest. They stand with the last but one
 /// dimension varying fastest.
-template <typename T>
+template <typename Stored, typename T>
 void fillInFortranOrder(const std::vector<T*>& rows, std::span<const std::uint64_t> shape,
                         NpyNumbers& numbers) {
   const std::uint64_t outer = shape.size() > 1 ? shape[0] : 1;
@@ -103,20 +88,17 @@ void fillInFortranOrder(const std::vector<T*>& rows, std::span<const std::uint64
   };
   if constexpr (requires { T::componentCount; }) {
     for (std::size_t c = 0; c < T::componentCount; ++c)
-      fill([&](T& element) {
-        element.components[c] = nextElement<typename T::ComponentType>(numbers);
-      });
+      fill([&](T& element) { element.components[c] = numbers.next<Stored, NumberOf<T>>(); });
   } else {
-    fill([&](T& element) { element = nextElement<T>(numbers); });
+    fill([&](T& element) { element = numbers.next<Stored, T>(); });
   }
 }
 
-template <typename T, std::uint32_t Rank>
+template <typename Stored, typename T, std::uint32_t Rank>
 StoredArray<T, Rank> buildNpyArray(const NpyLayout& layout, NpyNumbers& numbers) {
   if (!layout.fortranOrder) {
     const auto makeRow = [&](std::uint64_t count) {
-      return shareArray(
-          generateArray<T>(count, [&](std::uint64_t) { return nextElement<T>(numbers); }));
+      return shareArray(nextRow<Stored, T>(count, numbers));
     };
     return nestRows<T, Rank>(layout.shape, makeRow);
   }
@@ -127,19 +109,20 @@ StoredArray<T, Rank> buildNpyArray(const NpyLayout& layout, NpyNumbers& numbers)
     return shareArray(std::move(row));
   };
   StoredArray<T, Rank> array = nestRows<T, Rank>(layout.shape, makeRow);
-  if (!rows.empty()) fillInFortranOrder(rows, layout.shape, numbers);
+  if (!rows.empty()) fillInFortranOrder<Stored>(rows, layout.shape, numbers);
   return array;
 }
 
-template <typename T>
+/// An array of elements T, whose numbers the file has as Stored.
+template <typename Stored, typename T>
 Orvel::Value buildNpyValue(const NpyLayout& layout, NpyNumbers& numbers) {
   switch (layout.shape.size()) {
     case 1:
-      return Orvel::makeValue(buildNpyArray<T, 1>(layout, numbers));
+      return Orvel::makeValue(buildNpyArray<Stored, T, 1>(layout, numbers));
     case 2:
-      return Orvel::makeValue(buildNpyArray<T, 2>(layout, numbers));
+      return Orvel::makeValue(buildNpyArray<Stored, T, 2>(layout, numbers));
     default:
-      return Orvel::makeValue(buildNpyArray<T, 3>(layout, numbers));
+      return Orvel::makeValue(buildNpyArray<Stored, T, 3>(layout, numbers));
   }
 }
 

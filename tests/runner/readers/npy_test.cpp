@@ -1,7 +1,11 @@
 #include "readers/npy.h"
 
 #include <algorithm>
+#include <cmath>
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <limits>
+#include <numeric>
 
 #include "readers/read_error.h"
 #include "runner/support/npy_bytes.h"
@@ -28,9 +32,14 @@ std::string typeOf(const Orvel::Value& value) {
   return value.getType().getFullyQualifiedName().c_str();
 }
 
+Orvel::Value valueIn(const Bytes& file, NpyForm form = {}) {
+  MemorySource source(file);
+  return parseNpy(source, form).value;
+}
+
 std::string refusalOf(const Bytes& file) {
   try {
-    parseNpy(file);
+    valueIn(file);
   } catch (const ReadError& error) {
     return error.what();
   }
@@ -42,7 +51,7 @@ template <typename T>
 void expectBothOrders(const std::string& code, const std::string& type,
                       const std::vector<T>& numbers) {
   const auto read = [&](char order, const Bytes& data) {
-    return parseNpy(npyFile(npyHeader(std::string(1, order).append(code), "(2,)"), data));
+    return valueIn(npyFile(npyHeader(std::string(1, order).append(code), "(2,)"), data));
   };
   const Orvel::Value little = read('<', bytesOf(numbers));
   const Orvel::Value big = read('>', swappedBytesOf(numbers));
@@ -65,16 +74,16 @@ TEST(Npy, EveryElementTypeInBothByteOrders) {
 }
 
 TEST(Npy, EveryByteButZeroIsTrue) {
-  const Orvel::Value value = parseNpy(npyFile(npyHeader("|b1", "(3,)"), {0, 1, 2}));
+  const Orvel::Value value = valueIn(npyFile(npyHeader("|b1", "(3,)"), {0, 1, 2}));
   EXPECT_EQ(elementsOf<bool>(value), (std::vector<bool>{false, true, true}));
 }
 
 TEST(Npy, RowsInBothOrders) {
   const Bytes data = bytesOf<std::int32_t>({1, 2, 3, 4, 5, 6});
-  Orvel::ArrayValue rows(parseNpy(npyFile(npyHeader("<i4", "(2, 3)"), data)));
+  Orvel::ArrayValue rows(valueIn(npyFile(npyHeader("<i4", "(2, 3)"), data)));
   EXPECT_EQ(elementsOf<std::int32_t>(rows.getElement(0)), (std::vector<std::int32_t>{1, 2, 3}));
   EXPECT_EQ(elementsOf<std::int32_t>(rows.getElement(1)), (std::vector<std::int32_t>{4, 5, 6}));
-  Orvel::ArrayValue columns(parseNpy(npyFile(npyHeader("<i4", "(2, 3)", "True"), data)));
+  Orvel::ArrayValue columns(valueIn(npyFile(npyHeader("<i4", "(2, 3)", "True"), data)));
   EXPECT_EQ(elementsOf<std::int32_t>(columns.getElement(0)), (std::vector<std::int32_t>{1, 3, 5}));
   EXPECT_EQ(elementsOf<std::int32_t>(columns.getElement(1)), (std::vector<std::int32_t>{2, 4, 6}));
 }
@@ -82,7 +91,7 @@ TEST(Npy, RowsInBothOrders) {
 TEST(Npy, ThreeDimensionsInBothOrders) {
   const Bytes data = bytesOf<std::int16_t>({0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11});
   const auto lastRow = [&](const std::string& fortranOrder) {
-    const Orvel::Value value = parseNpy(npyFile(npyHeader("<i2", "(2, 3, 2)", fortranOrder), data));
+    const Orvel::Value value = valueIn(npyFile(npyHeader("<i2", "(2, 3, 2)", fortranOrder), data));
     EXPECT_EQ(typeOf(value), "array<array<array<short>>>");
     return elementsOf<std::int16_t>(
         Orvel::ArrayValue(Orvel::ArrayValue(value).getElement(1)).getElement(2));
@@ -93,7 +102,7 @@ TEST(Npy, ThreeDimensionsInBothOrders) {
 
 TEST(Npy, LongRowsInFortranOrder) {
   const Bytes data = bytesOf<std::int32_t>({1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12});
-  const Orvel::Value value = parseNpy(npyFile(npyHeader("<i4", "(1, 3, 4)", "True"), data));
+  const Orvel::Value value = valueIn(npyFile(npyHeader("<i4", "(1, 3, 4)", "True"), data));
   EXPECT_EQ(elementsOf<std::int32_t>(
                 Orvel::ArrayValue(Orvel::ArrayValue(value).getElement(0)).getElement(1)),
             (std::vector<std::int32_t>{2, 5, 8, 11}));
@@ -104,7 +113,7 @@ TEST(Npy, VectorsInBothOrders) {
   const Bytes data = bytesOf<float>({1, 2, 3, 4, 5, 6});
   const auto read = [&](const std::string& fortranOrder) {
     const Orvel::Value value =
-        parseNpy(npyFile(npyHeader("<f4", "(3, 2)", fortranOrder), data), NpyElements::vectors);
+        valueIn(npyFile(npyHeader("<f4", "(3, 2)", fortranOrder), data), NpyForm{.vectors = true});
     EXPECT_EQ(typeOf(value), "array<Math::float2>");
     return elementsOf<float2>(value);
   };
@@ -116,8 +125,8 @@ TEST(Npy, RowsOfVectors) {
   using Vantrel::Math::double3;
   const Bytes data = bytesOf<double>({1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12});
   const auto lastRow = [&](const std::string& fortranOrder) {
-    const Orvel::Value value =
-        parseNpy(npyFile(npyHeader("<f8", "(2, 2, 3)", fortranOrder), data), NpyElements::vectors);
+    const Orvel::Value value = valueIn(npyFile(npyHeader("<f8", "(2, 2, 3)", fortranOrder), data),
+                                       NpyForm{.vectors = true});
     EXPECT_EQ(typeOf(value), "array<array<Math::double3>>");
     return elementsOf<double3>(Orvel::ArrayValue(value).getElement(1));
   };
@@ -128,7 +137,7 @@ TEST(Npy, RowsOfVectors) {
 TEST(Npy, RefusesVectorsOfOtherLengthsAndElements) {
   const auto refusal = [](const std::string& code, const std::string& shape) {
     try {
-      parseNpy(npyFile(npyHeader(code, shape), Bytes(800)), NpyElements::vectors);
+      valueIn(npyFile(npyHeader(code, shape), Bytes(800)), NpyForm{.vectors = true});
     } catch (const ReadError& error) {
       return std::string(error.what());
     }
@@ -141,18 +150,106 @@ TEST(Npy, RefusesVectorsOfOtherLengthsAndElements) {
   EXPECT_EQ(refusal("<i4", "(3, 2)"), "elements of type '<i4' make no vectors; floats do");
 }
 
-TEST(Npy, TellsWhatIsConsumed) {
-  const Bytes file = npyFile(npyHeader("|u1", "(50000000,)"), Bytes(50'000'000));
-  std::vector<std::size_t> told;
-  parseNpy(file, NpyElements::numbers, [&](std::size_t count) { told.push_back(count); });
-  ASSERT_EQ(told.size(), 2U);
-  EXPECT_LT(told[0], told[1]);
-  EXPECT_LT(told[1], file.size());
+TEST(Npy, NumbersBeyondOneBlock) {
+  std::vector<std::int32_t> numbers(100'000);
+  std::iota(numbers.begin(), numbers.end(), -7);
+  const std::string shape = "(100000,)";
+  EXPECT_EQ(elementsOf<std::int32_t>(valueIn(npyFile(npyHeader("<i4", shape), bytesOf(numbers)))),
+            numbers);
+  EXPECT_EQ(
+      elementsOf<std::int32_t>(valueIn(npyFile(npyHeader(">i4", shape), swappedBytesOf(numbers)))),
+      numbers);
+  EXPECT_EQ(
+      elementsOf<std::int32_t>(valueIn(npyFile(npyHeader("<i4", shape, "True"), bytesOf(numbers)))),
+      numbers);
+}
+
+/// Says that there is more than there is, as a file does that is cut short while it is read.
+class CutSource final : public ByteSource {
+ public:
+  CutSource(std::span<const unsigned char> bytes, std::uint64_t missing)
+      : source_(bytes), missing_(missing) {}
+  std::size_t read(std::span<unsigned char> bytes) override { return source_.read(bytes); }
+  std::uint64_t remaining() const override { return source_.remaining() + missing_; }
+
+ private:
+  MemorySource source_;
+  std::uint64_t missing_;
+};
+
+TEST(Npy, FilesThatBecomeShorterWhileTheyAreRead) {
+  for (const char* fortranOrder : {"False", "True"}) {
+    for (const char* order : {"<", ">"}) {
+      const std::string header = npyHeader(std::string(order) + "i4", "(3,)", fortranOrder);
+      for (std::size_t left = 0; left < 12; ++left) {
+        const Bytes part = npyFile(header, Bytes(left));
+        CutSource source(part, 12 - left);
+        try {
+          parseNpy(source);
+          ADD_FAILURE() << left;
+        } catch (const ReadError& error) {
+          EXPECT_STREQ(error.what(), "the file became shorter while it was read");
+        }
+      }
+    }
+  }
+}
+
+TEST(Npy, SmallIntegersAreWidenedOnDemand) {
+  const NpyForm form{.widened = true};
+  const auto read = [&](const char* code, const Bytes& data) {
+    return valueIn(npyFile(npyHeader(code, "(2,)"), data), form);
+  };
+  EXPECT_EQ(elementsOf<std::int32_t>(read("|i1", bytesOf<std::int8_t>({-128, 127}))),
+            (std::vector<std::int32_t>{-128, 127}));
+  EXPECT_EQ(elementsOf<std::uint32_t>(read("|u1", bytesOf<std::uint8_t>({0, 255}))),
+            (std::vector<std::uint32_t>{0, 255}));
+  EXPECT_EQ(elementsOf<std::int32_t>(read(">i2", swappedBytesOf<std::int16_t>({-32768, 258}))),
+            (std::vector<std::int32_t>{-32768, 258}));
+  EXPECT_EQ(elementsOf<std::uint32_t>(read("<u2", bytesOf<std::uint16_t>({258, 65535}))),
+            (std::vector<std::uint32_t>{258, 65535}));
+}
+
+TEST(Npy, HalfFloatsBecomeFloats) {
+  const std::vector<std::uint16_t> halves{0x0000, 0x8000, 0x0001, 0x83FF, 0x0400, 0x3C00,
+                                          0xC100, 0x7BFF, 0x7C00, 0xFC00, 0x7E00, 0x3555};
+  const Bytes file = npyFile(npyHeader("<f2", "(12,)"), bytesOf(halves));
+  const std::vector<float> floats = elementsOf<float>(valueIn(file));
+  ASSERT_EQ(floats.size(), halves.size());
+  EXPECT_THAT(floats, testing::ElementsAre(0.0F, -0.0F, 0x1p-24F, -0x3FFp-24F, 0x1p-14F, 1.0F,
+                                           -2.5F, 65504.0F, std::numeric_limits<float>::infinity(),
+                                           -std::numeric_limits<float>::infinity(),
+                                           testing::IsNan(), 0x1.554p-2F));
+  EXPECT_TRUE(std::signbit(floats[1]));
+  using Vantrel::Math::float2;
+  EXPECT_EQ(elementsOf<float2>(valueIn(
+                npyFile(npyHeader("<f2", "(1, 2)"), bytesOf<std::uint16_t>({0x3C00, 0xC000})),
+                NpyForm{.vectors = true})),
+            (std::vector<float2>{{{1, -2}}}));
+}
+
+TEST(Npy, TellsWhatTheFileHas) {
+  const auto read = [](const char* code, const char* shape, NpyForm form) {
+    const Bytes file = npyFile(npyHeader(code, shape), Bytes(24));
+    MemorySource source(file);
+    return parseNpy(source, form);
+  };
+  EXPECT_EQ(read("<f4", "(3, 2)", {.vectors = true}).description, "float32, 3 × 2");
+  EXPECT_EQ(read("|b1", "(2, 3, 4)", {}).description, "bool, 2 × 3 × 4");
+  EXPECT_FALSE(read("<i2", "(12,)", {}).isWidened);
+  EXPECT_TRUE(read("<i2", "(12,)", {.widened = true}).isWidened);
+  EXPECT_FALSE(read("<i4", "(6,)", {.widened = true}).isWidened);
+  EXPECT_TRUE(read("<f2", "(12,)", {}).isWidened);
+}
+
+TEST(Npy, HeadersLongerThanAnyOneWrites) {
+  const Bytes file = npyFile(std::string((1 << 20) + 1, ' '), {}, 2);
+  EXPECT_EQ(refusalOf(file), "the header has more than 1048576 bytes");
 }
 
 TEST(Npy, EmptyArrays) {
-  EXPECT_EQ(elementsOf<float>(parseNpy(npyFile(npyHeader("<f4", "(0,)"), {}))).size(), 0U);
-  const Orvel::Value rows = parseNpy(npyFile(npyHeader("<f4", "(3, 0)"), {}));
+  EXPECT_EQ(elementsOf<float>(valueIn(npyFile(npyHeader("<f4", "(0,)"), {}))).size(), 0U);
+  const Orvel::Value rows = valueIn(npyFile(npyHeader("<f4", "(3, 0)"), {}));
   EXPECT_EQ(Orvel::ArrayValue(rows).size(), 3U);
   EXPECT_EQ(refusalOf(npyFile(npyHeader("<f4", "(0, 18446744073709551615)"), {})), "accepted");
 }
@@ -160,7 +257,7 @@ TEST(Npy, EmptyArrays) {
 TEST(Npy, AllVersions) {
   for (unsigned char version = 1; version <= 3; ++version) {
     const Orvel::Value value =
-        parseNpy(npyFile(npyHeader("<i4", "(1,)"), bytesOf<std::int32_t>({7}), version));
+        valueIn(npyFile(npyHeader("<i4", "(1,)"), bytesOf<std::int32_t>({7}), version));
     EXPECT_EQ(elementsOf<std::int32_t>(value), (std::vector<std::int32_t>{7}));
   }
 }
@@ -221,7 +318,7 @@ TEST(Npy, DimensionsAndTypesOutOfReach) {
             "the array has 0 dimensions; 1 to 3 are supported");
   EXPECT_EQ(refusalOf(npyFile(npyHeader("<i4", "(1, 1, 1, 1)"), Bytes(4))),
             "the array has 4 dimensions; 1 to 3 are supported");
-  for (const char* type : {"<c16", "<f2", "<U4", "|O", "i4", "", "<M8[ns]"}) {
+  for (const char* type : {"<c16", "<f16", "<U4", "|O", "i4", "", "<M8[ns]"}) {
     EXPECT_EQ(refusalOf(npyFile(npyHeader(type, "(1,)"), Bytes(16))),
               "elements of type '" + std::string(type) + "' aren't supported");
   }
@@ -257,13 +354,26 @@ INSTANTIATE_TEST_SUITE_P(
                     BadHeader{"{'shape': (3 4)}", "expected ')'"},
                     BadHeader{"{'shape': (3,) 'descr': '<i4'}", "expected '}'"}));
 
-TEST(Npy, FilesAreNamed) {
+std::string refusalOfFile(const std::filesystem::path& file) {
   try {
-    readNpy("no_such_folder/x.npy");
-    FAIL();
+    readNpy(file);
   } catch (const ReadError& error) {
-    EXPECT_STREQ(error.what(), "no_such_folder/x.npy: No such file or directory");
+    return error.what();
   }
+  return "accepted";
+}
+
+TEST(Npy, FilesAreNamed) {
+  EXPECT_EQ(refusalOfFile("no_such_folder/x.npy"),
+            "no_such_folder/x.npy: No such file or directory");
+}
+
+TEST(Npy, FoldersAreRefused) {
+  const std::filesystem::path folder = std::filesystem::path(testing::TempDir()) / "folder.npy";
+  std::filesystem::create_directory(folder);
+  EXPECT_EQ(refusalOfFile(folder),
+            folder.string() + ": it is a folder; only regular files are read");
+  std::filesystem::remove(folder);
 }
 
 }  // namespace
