@@ -20,9 +20,10 @@ struct ShowOptions {
   ReportOptions report;
 };
 
-Orvel::Value readData(const std::filesystem::path& file, bool vectors) {
-  if (file.extension() != ".npy") return Orvel::makeValue(readMesh(file));
-  return readNpy(file, {.vectors = vectors, .widened = true}).value;
+/// What a data file has, and how, if that tells more than the value.
+NpyArray readData(const std::filesystem::path& file, bool vectors) {
+  if (file.extension() != ".npy") return {Orvel::makeValue(readMesh(file)), {}};
+  return readNpy(file, {.vectors = vectors, .widened = true});
 }
 
 /// One entry of the report a file. False when the file can't be read or reported.
@@ -30,8 +31,10 @@ bool show(const std::string& file, const ShowOptions& options,
           const PlugIn::Translation& translation, RunContext& context) {
   const EntryScope entry(*context.logger, {});
   try {
-    return reportOutput(translation, file, readData(filePath(file), options.vectors),
-                        options.report.outputForm(), context);
+    const NpyArray data = readData(filePath(file), options.vectors);
+    if (!data.description.empty())
+      context.logger->addMessage(vtlcmdSource, levelProgress, file + ": " + data.description);
+    return reportOutput(translation, file, data.value, options.report.outputForm(), context);
   } catch (const std::exception& error) {
     context.logger->addMessage(vtlcmdSource, levelError, error.what());
     return false;

@@ -28,6 +28,8 @@ struct ElementCode {
   Builder build;
   /// As a type that the graph system reports.
   Builder buildWidened;
+  const char* widenedName;
+  /// The graph system has no type like the file's.
   bool alwaysWidened;
   /// Of vectors of two, three and four elements; null for elements that have none.
   std::array<Builder, 3> buildVectors;
@@ -40,6 +42,7 @@ constexpr ElementCode elementCode(std::string_view code, std::string_view name) 
                   sizeof(Stored),
                   buildNpyValue<Stored, Kept>,
                   buildNpyValue<Stored, Widened>,
+                  valueType<Widened>().name,
                   !std::is_same_v<Stored, Kept>,
                   {}};
   if constexpr (std::is_floating_point_v<Kept>) {
@@ -117,14 +120,14 @@ Builder vectorBuilder(const ElementCode& code, const NpyHeader& header) {
   return code.buildVectors[length - 2];
 }
 
-std::string describe(const ElementCode& code, std::span<const std::uint64_t> shape) {
+std::string describe(const ElementCode& code, std::span<const std::uint64_t> shape, bool widened) {
   std::string text(code.name);
   const char* separator = ", ";
   for (const std::uint64_t length : shape) {
     text += separator + std::to_string(length);
     separator = " × ";
   }
-  return text;
+  return widened ? text + ", widened to " + code.widenedName : text;
 }
 
 }  // namespace
@@ -136,16 +139,18 @@ NpyArray parseNpy(ByteSource& file, NpyForm form) {
     throw ReadError("the array has " + std::to_string(header.shape.size()) +
                     " dimensions; 1 to 3 are supported");
   }
-  const Builder scalarBuilder = form.widened ? code.buildWidened : code.build;
-  const Builder build = form.vectors ? vectorBuilder(code, header) : scalarBuilder;
+  const bool widened = code.alwaysWidened || (form.widened && code.build != code.buildWidened);
+  const Builder build = form.vectors ? vectorBuilder(code, header)
+                        : widened    ? code.buildWidened
+                                     : code.build;
   checkSize(header, code.size, file.remaining());
   const char order = header.descriptor[0];
   const bool swapped = order == (std::endian::native == std::endian::little ? '>' : '<');
   std::vector<std::uint64_t> shape = header.shape;
   if (form.vectors) shape.pop_back();
   NpyNumbers numbers(file, swapped);
-  return {build({std::move(shape), header.fortranOrder}, numbers), describe(code, header.shape),
-          code.alwaysWidened || (form.widened && code.build != code.buildWidened)};
+  return {build({std::move(shape), header.fortranOrder}, numbers),
+          describe(code, header.shape, widened)};
 }
 
 NpyArray readNpy(const std::filesystem::path& path, NpyForm form) {

@@ -23,11 +23,8 @@ struct NpyForm {
 struct NpyArray {
   /// Nested as deep as the file has dimensions.
   Orvel::Value value;
-  /// What the file has: "float32, 1000 × 3".
+  /// What the file has: "float32, 1000 × 3", or "int16, 7, widened to int".
   std::string description;
-  /// The value's elements aren't of the file's type, since the graph system has none like it or the
-  /// form asks for another.
-  bool isWidened = false;
 };
 
 /// The array in a file, whose bytes are read up to the end. Throws ReadError, whose text leaves it

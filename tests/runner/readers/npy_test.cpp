@@ -229,17 +229,17 @@ TEST(Npy, HalfFloatsBecomeFloats) {
 }
 
 TEST(Npy, TellsWhatTheFileHas) {
-  const auto read = [](const char* code, const char* shape, NpyForm form) {
+  const auto described = [](const char* code, const char* shape, NpyForm form) {
     const Bytes file = npyFile(npyHeader(code, shape), Bytes(24));
     MemorySource source(file);
-    return parseNpy(source, form);
+    return parseNpy(source, form).description;
   };
-  EXPECT_EQ(read("<f4", "(3, 2)", {.vectors = true}).description, "float32, 3 × 2");
-  EXPECT_EQ(read("|b1", "(2, 3, 4)", {}).description, "bool, 2 × 3 × 4");
-  EXPECT_FALSE(read("<i2", "(12,)", {}).isWidened);
-  EXPECT_TRUE(read("<i2", "(12,)", {.widened = true}).isWidened);
-  EXPECT_FALSE(read("<i4", "(6,)", {.widened = true}).isWidened);
-  EXPECT_TRUE(read("<f2", "(12,)", {}).isWidened);
+  EXPECT_EQ(described("<f4", "(3, 2)", {.vectors = true}), "float32, 3 × 2");
+  EXPECT_EQ(described("|b1", "(2, 3, 4)", {}), "bool, 2 × 3 × 4");
+  EXPECT_EQ(described("<i2", "(12,)", {}), "int16, 12");
+  EXPECT_EQ(described("<i2", "(12,)", {.widened = true}), "int16, 12, widened to int");
+  EXPECT_EQ(described("<i4", "(6,)", {.widened = true}), "int32, 6");
+  EXPECT_EQ(described("<f2", "(12,)", {}), "float16, 12, widened to float");
 }
 
 TEST(Npy, HeadersLongerThanAnyOneWrites) {
