@@ -4,7 +4,8 @@
 #include <optional>
 #include <ostream>
 
-#include "graph/graph.h"
+#include "command_line/port_kinds.h"
+#include "graph/graph_file.h"
 #include "logging/vtlcmd_logger.h"
 #include "text/control_characters.h"
 #include "text/load_error.h"
@@ -34,6 +35,8 @@ void offer(const Place& place, const std::string& value, const std::string& mean
 void offerFiles(const Place& place) { place.stream << '\t' << place.before << '\n'; }
 
 std::vector<GraphPort> portsOf(const std::string& graphFile) {
+  // The standard input isn't there to be completed.
+  if (graphFile == standardInput) return {};
   try {
     return loadGraph(graphFile).ports;
   } catch (const LoadError&) {
@@ -49,6 +52,8 @@ std::optional<std::string> portName(const Place& place) {
   return typed.substr(0, equals);
 }
 
+bool takesText(const GraphPort& port) { return portKindOf(port.type).source == PortSource::text; }
+
 void offerPort(const Place& place, const GraphPort& port) {
   const std::string type = nameOf(port.type);
   offer(place, port.name + "=", port.description.empty() ? type : type + ", " + port.description);
@@ -57,7 +62,7 @@ void offerPort(const Place& place, const GraphPort& port) {
 void offerPortTexts(const Place& place) {
   const std::optional<std::string> name = portName(place);
   for (const GraphPort& port : portsOf(place.graphFile)) {
-    if (port.isJob != place.wantsJobs) continue;
+    if (port.isJob != place.wantsJobs || !takesText(port)) continue;
     if (!name) {
       offerPort(place, port);
     } else if (port.name == *name && nameOf(port.type) == "bool") {
@@ -72,7 +77,9 @@ void offerPortFiles(Place place) {
     place.before += *name + "=";
     return offerFiles(place);
   }
-  for (const GraphPort& port : portsOf(place.graphFile)) offerPort(place, port);
+  for (const GraphPort& port : portsOf(place.graphFile)) {
+    if (takesText(port)) offerPort(place, port);
+  }
 }
 
 void offerLevels(const Place& place) {

@@ -4,9 +4,9 @@
 #include <nlohmann/json.hpp>
 
 #include "command_line/commands.h"
-#include "graph/graph.h"
+#include "command_line/port_kinds.h"
+#include "graph/graph_file.h"
 #include "text/control_characters.h"
-#include "text/path_text.h"
 
 namespace vtlcmd::runner {
 namespace {
@@ -17,17 +17,21 @@ struct PortRow {
   std::string type;
   std::string defaultText;
   std::string description;
+  /// Null for an output.
+  const PortKind* portKind;
+
+  bool takesText() const { return portKind != nullptr && portKind->source == PortSource::text; }
 };
 
 std::vector<PortRow> portRows(const Graph& graph) {
   std::vector<PortRow> rows;
   for (const GraphPort& port : graph.ports) {
     rows.push_back({port.isJob ? "job" : "input", port.name, nameOf(port.type), port.defaultText,
-                    port.description});
+                    port.description, &portKindOf(port.type)});
   }
   for (const GraphOutput& output : graph.outputs) {
-    rows.push_back(
-        {"output", output.name, nameOf(graph.typeOfSlot(output.source)), "", output.description});
+    rows.push_back({"output", output.name, nameOf(graph.typeOfSlot(output.source)), "",
+                    output.description, nullptr});
   }
   return rows;
 }
@@ -47,6 +51,8 @@ void printTable(const std::vector<PortRow>& rows) {
     std::string line =
         padded(row.kind, 6) + padded(row.name, nameWidth) + padded(row.type, typeWidth);
     if (!row.defaultText.empty()) line += "default " + row.defaultText + "  ";
+    if (row.portKind != nullptr && !row.takesText())
+      line += "no text (" + std::string(row.portKind->instead) + ")  ";
     line += row.description;
     line.resize(line.find_last_not_of(' ') + 1);
     std::cout << withoutControls(line, "") << '\n';
@@ -58,6 +64,7 @@ void printJson(const Graph& graph) {
   for (const PortRow& row : portRows(graph)) {
     nlohmann::ordered_json port{{"kind", row.kind}, {"name", row.name}, {"type", row.type}};
     if (!row.defaultText.empty()) port["default"] = nlohmann::ordered_json::parse(row.defaultText);
+    if (row.portKind != nullptr) port["takes_text"] = row.takesText();
     if (!row.description.empty()) port["description"] = row.description;
     ports.push_back(std::move(port));
   }
@@ -78,10 +85,12 @@ void addPortsCommand(CLI::App& app) {
   vtlcmd ports scatter.json
   vtlcmd ports scatter.json --json | jq '.ports[] | select(.kind == "input").name'
 )");
-  command->add_option("GRAPH", options->graph, "Graph file")->required()->type_name("");
+  command->add_option("GRAPH", options->graph, "Graph file; '-' is the standard input")
+      ->required()
+      ->type_name("");
   command->add_flag("--json", options->json, "Print a JSON document");
   command->callback([options] {
-    const Graph graph = loadGraph(filePath(options->graph));
+    const Graph graph = loadGraph(options->graph);
     options->json ? printJson(graph) : printTable(portRows(graph));
   });
 }

@@ -4,6 +4,8 @@
 
 #include "command_line/commands.h"
 #include "command_line/option_values.h"
+#include "command_line/output_targets.h"
+#include "command_line/port_kinds.h"
 #include "command_line/port_texts.h"
 #include "command_line/report_options.h"
 #include "command_line/run_reports.h"
@@ -11,7 +13,9 @@
 #include "execution/interrupt.h"
 #include "execution/progress.h"
 #include "execution/session.h"
-#include "graph/graph.h"
+#include "graph/graph_file.h"
+#include "graph/path_sources.h"
+#include "text/control_characters.h"
 #include "text/load_error.h"
 #include "text/path_text.h"
 #include "text/shortest_text.h"
@@ -49,7 +53,9 @@ void addOptions(CLI::App& command, RunOptions& options) {
   const auto addList = [&](const char* name, std::vector<std::string>& list, const char* help) {
     return command.add_option(name, list, help)->allow_extra_args(false);
   };
-  command.add_option("GRAPH", options.graph, "Graph file")->required()->type_name("");
+  command.add_option("GRAPH", options.graph, "Graph file; '-' is the standard input")
+      ->required()
+      ->type_name("");
   addList("-s,--set", options.inputs, "Text for an input port, handed on as it stands")
       ->type_name("PORT=TEXT");
   addList("-j,--set-job", options.jobs, "Text for a Job port")->type_name("PORT=TEXT");
@@ -87,12 +93,16 @@ void addOptions(CLI::App& command, RunOptions& options) {
   options.report.addTo(command);
 }
 
-RunSettings settingsFrom(const RunOptions& options, const Graph& graph,
-                         std::vector<std::string> arguments) {
+PortTexts textsFrom(const RunOptions& options, const Graph& graph) {
   PortTexts texts(graph);
   for (const std::string& assignment : options.files) texts.setFromFile(assignment);
   for (const std::string& assignment : options.inputs) texts.setInput(assignment);
   for (const std::string& assignment : options.jobs) texts.setJob(assignment);
+  return texts;
+}
+
+RunSettings settingsFrom(const RunOptions& options, const PortTexts& texts,
+                         std::vector<std::string> arguments) {
   RunSettings settings;
   settings.graphFile = filePath(options.graph);
   settings.arguments = std::move(arguments);
@@ -149,6 +159,20 @@ ExitCode runGraph(const Graph& graph, const RunSettings& settings, const RunOpti
   return exitCodeOf(outcome);
 }
 
+/// Whatever a run writes must leave what it reads as it is.
+void refuseTargets(const RunOptions& options, std::vector<std::filesystem::path> filesRead) {
+  filesRead.push_back(filePath(options.graph));
+  filesRead.push_back(options.report.plugInFile());
+  OutputTargets targets(std::move(filesRead));
+  for (const std::string& report : options.reports) targets.add("--report", report);
+}
+
+/// What the run will complain of in every frame is told once, with a way out.
+void tellUnsettablePorts(const Graph& graph, const TextsByPort& texts) {
+  const std::vector<std::string> lines = unsettablePorts(graph, texts);
+  for (const std::string& line : lines) std::cerr << "vtlcmd: " << line << '\n';
+}
+
 /// A run that never began, for the JSON report.
 void recordLoadFailure(VtlCmdLogger& logger, const std::string& graphFile, const LoadError& error) {
   const GroupScope group(logger, graphFile);
@@ -160,17 +184,30 @@ ExitCode run(const RunOptions& options, const std::vector<std::string>& argument
   RunReports reports(options.reports);
   std::vector<std::string> portNames;
   try {
-    const Graph graph = loadGraph(filePath(options.graph));
+    refuseSharedInput(options.graph, options.files);
+    Graph graph = loadGraph(options.graph);
     for (const GraphPort& port : graph.ports) portNames.push_back(port.name);
-    const RunSettings settings = settingsFrom(options, graph, arguments);
+    const PortTexts texts = textsFrom(options, graph);
+    const TextsByPort textsByPort = texts.byPort();
+    lookUpTextsInWorkingDirectory(graph, textsByPort);
+    const RunSettings settings = settingsFrom(options, texts, arguments);
+    std::vector<std::filesystem::path> filesRead = filesReadBy(graph, textsByPort);
+    filesRead.insert(filesRead.end(), texts.files().begin(), texts.files().end());
+    refuseTargets(options, std::move(filesRead));
     reports.open();
+    if (settings.verbosity >= levelWarning) tellUnsettablePorts(graph, textsByPort);
     const ExitCode code = runGraph(graph, settings, options, reports.useStandardOutput(), logger);
     reports.write(logger, portNames);
     return code;
   } catch (const LoadError& error) {
     recordLoadFailure(logger, options.graph, error);
-    reports.open();
-    reports.write(logger, portNames);
+    try {
+      refuseTargets(options, {});
+      reports.open();
+      reports.write(logger, portNames);
+    } catch (const std::exception& ofReport) {
+      std::cerr << "vtlcmd: " << withoutControls(ofReport.what()) << '\n';
+    }
     throw;
   }
 }

@@ -19,8 +19,7 @@ std::string sentenceAbout(const GraphNode& node, const std::string& text) {
 
 }  // namespace
 
-Executor::Executor(const Graph& graph, std::filesystem::path graphFolder, VtlCmdLogger& logger)
-    : graph_(graph), graphFolder_(std::move(graphFolder)), logger_(logger) {}
+Executor::Executor(const Graph& graph, VtlCmdLogger& logger) : graph_(graph), logger_(logger) {}
 
 std::optional<std::vector<Orvel::Value>> Executor::run(
     const std::vector<Orvel::Value>& portValues) const {
@@ -64,7 +63,8 @@ Orvel::Value Executor::evaluate(const GraphNode& node, const Slots& slots) const
     logger_.addVantrelMessage(severityWarning, sentenceAbout(node, text));
   };
   const Orvel::Value* literal = node.literal ? &*node.literal : nullptr;
-  return node.operation->evaluate({nodeTypes, node.type, arguments, literal, graphFolder_, warn});
+  return node.operation->evaluate(
+      {nodeTypes, node.type, arguments, literal, node.pathFolder, warn});
 }
 
 }  // namespace vtlcmd::runner

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <filesystem>
 #include <optional>
 #include <vector>
 
@@ -14,7 +13,7 @@ namespace vtlcmd::runner {
 class Executor {
  public:
   /// Graph and logger must outlive the executor.
-  Executor(const Graph& graph, std::filesystem::path graphFolder, VtlCmdLogger& logger);
+  Executor(const Graph& graph, VtlCmdLogger& logger);
 
   /// The values by slot, from those of the ports. Nothing when a node failed: the run ends there.
   std::optional<std::vector<Orvel::Value>> run(const std::vector<Orvel::Value>& portValues) const;
@@ -25,7 +24,6 @@ class Executor {
   Orvel::Value evaluate(const GraphNode& node, const Slots& slots) const;
 
   const Graph& graph_;
-  std::filesystem::path graphFolder_;
   VtlCmdLogger& logger_;
 };
 

@@ -17,7 +17,7 @@ Session::Session(const Graph& graph, const PlugIn::Translation& translation,
       translation_(translation),
       settings_(settings),
       logger_(logger),
-      executor_(graph, settings.graphFile.parent_path(), logger),
+      executor_(graph, logger),
       context_{
           &settings.inputValues, &settings.jobValues,    0,      0, 1 / settings.framesPerSecond,
           settings.sceneFile,    settings.secondaryPath, &logger} {

@@ -10,10 +10,8 @@
 #include "graph/json_place.h"
 #include "graph/literal.h"
 #include "nodes/node_table.h"
-#include "readers/file_text.h"
 #include "text/library_text.h"
 #include "text/near_misses.h"
-#include "text/path_text.h"
 
 namespace vtlcmd::runner {
 namespace {
@@ -212,18 +210,6 @@ class GraphBuilder {
 Graph parseGraph(std::string_view text) {
   const nlohmann::json document = parseJson(text);
   return GraphBuilder(JsonPlace(document)).build();
-}
-
-Graph loadGraph(const std::filesystem::path& file) {
-  const std::optional<std::string> text = readFile(file);
-  if (!text) throw GraphError(fileText(file), "the file can't be read");
-  try {
-    Graph graph = parseGraph(*text);
-    if (graph.name.empty()) graph.name = fileText(file.stem());
-    return graph;
-  } catch (const GraphError& error) {
-    throw GraphError(fileText(file), error.what());
-  }
 }
 
 }  // namespace vtlcmd::runner

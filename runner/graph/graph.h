@@ -31,6 +31,8 @@ struct GraphNode {
   ValueType type;
   /// Of a constant.
   std::optional<Orvel::Value> literal;
+  /// Where a relative path that the node is given is looked up; empty for the working directory.
+  std::filesystem::path pathFolder;
 };
 
 struct GraphOutput {
@@ -58,9 +60,5 @@ struct Graph {
 
 /// Reads and checks the text of a graph file. Throws GraphError.
 Graph parseGraph(std::string_view text);
-
-/// The same for a file; a graph without a name takes the file's. Throws GraphError, whose text
-/// begins with the path.
-Graph loadGraph(const std::filesystem::path& file);
 
 }  // namespace vtlcmd::runner

@@ -1,6 +1,5 @@
 #include "graph/json_document.h"
 
-#include <algorithm>
 #include <cstddef>
 #include <set>
 #include <string>
@@ -8,6 +7,7 @@
 
 #include "graph/graph_error.h"
 #include "text/library_text.h"
+#include "text/text_place.h"
 
 namespace vtlcmd::runner {
 namespace {
@@ -28,12 +28,14 @@ class ParseWatch {
       case Event::key:
         onKey(parsed.get_ref<const std::string&>());
         break;
+      case Event::value:
+        if (parsed.is_string()) refuseNul(parsed.get_ref<const std::string&>());
+        endValue();
+        break;
       case Event::object_end:
       case Event::array_end:
         levels_.pop_back();
-        [[fallthrough]];
-      case Event::value:
-        if (!levels_.empty()) ++levels_.back().index;
+        endValue();
         break;
     }
   }
@@ -58,7 +60,17 @@ class ParseWatch {
     std::set<std::string> keys;
   };
 
+  void endValue() {
+    if (!levels_.empty()) ++levels_.back().index;
+  }
+
+  void refuseNul(const std::string& text) const {
+    if (text.find('\0') != std::string::npos)
+      throw GraphError(place(), "a text can't hold a NUL character");
+  }
+
   void onKey(const std::string& key) {
+    refuseNul(key);
     Level& level = levels_.back();
     level.key = key;
     if (!level.keys.insert(key).second)
@@ -67,16 +79,6 @@ class ParseWatch {
 
   std::vector<Level> levels_;
 };
-
-/// "line 3, column 7" of a byte, counted from 1 as the parser does.
-std::string lineAndColumn(std::string_view text, std::size_t byte) {
-  const std::string_view before = text.substr(0, std::min(byte == 0 ? 0 : byte - 1, text.size()));
-  const auto line = 1 + std::count(before.begin(), before.end(), '\n');
-  const std::size_t lineStart = before.rfind('\n');
-  const std::size_t column =
-      lineStart == std::string_view::npos ? before.size() + 1 : before.size() - lineStart;
-  return "line " + std::to_string(line) + ", column " + std::to_string(column);
-}
 
 /// The parser's sentence behind the last of the marks that precede it.
 std::string sentenceOf(const json::exception& error, std::string_view mark) {
@@ -88,6 +90,10 @@ std::string sentenceOf(const json::exception& error, std::string_view mark) {
 }  // namespace
 
 json parseJson(std::string_view text) {
+  // The parser takes it for the end of the document.
+  const std::size_t nul = text.find('\0');
+  if (nul != std::string_view::npos)
+    throw GraphError(lineAndColumn(text, nul), "a NUL character can't stand here");
   ParseWatch watch;
   const auto onEvent = [&](int, Event event, json& parsed) {
     watch.onEvent(event, parsed);
@@ -96,7 +102,9 @@ json parseJson(std::string_view text) {
   try {
     return json::parse(text.begin(), text.end(), onEvent);
   } catch (const json::parse_error& error) {
-    throw GraphError(lineAndColumn(text, error.byte), sentenceOf(error, ": "));
+    // The parser counts bytes from 1.
+    throw GraphError(lineAndColumn(text, error.byte == 0 ? 0 : error.byte - 1),
+                     sentenceOf(error, ": "));
   } catch (const json::exception& error) {
     throw GraphError(watch.place(), sentenceOf(error, "] "));
   }

@@ -9,15 +9,8 @@
 namespace vtlcmd::runner::node_families {
 namespace {
 
-/// A relative path is looked up in the working directory, then beside the graph file.
 std::filesystem::path fileArgument(const NodeCall& call) {
-  std::filesystem::path file = filePath(standardText(call[0].getString()));
-  std::error_code error;
-  if (file.is_relative() && !std::filesystem::exists(file, error)) {
-    std::filesystem::path beside = call.graphFolder / file;
-    if (std::filesystem::exists(beside, error)) return beside;
-  }
-  return file;
+  return call.pathFolder / filePath(standardText(call[0].getString()));
 }
 
 /// What an array's declared type makes of the file's elements.
@@ -37,7 +30,7 @@ Orvel::Value readArray(const NodeCall& call) {
   return value;
 }
 
-const std::vector<Parameter> path{{"path", &type_classes::text}};
+const std::vector<Parameter> path{{"path", &type_classes::path}};
 
 const NodeOperation table[] = {
     {"read_npy", path, NodeSetting::type, [](const NodeTypes& types) { return *types.declared; },

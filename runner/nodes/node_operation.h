@@ -39,8 +39,8 @@ struct NodeCall {
   std::span<const std::vector<Orvel::Value>> arguments;
   /// The value written in the graph file; null but for a constant.
   const Orvel::Value* literal;
-  /// Where a relative path is looked up after the working directory.
-  const std::filesystem::path& graphFolder;
+  /// Where a relative path is looked up.
+  const std::filesystem::path& pathFolder;
   /// Tells the user something about a result that is valid all the same.
   const std::function<void(const std::string&)>& warn;
 

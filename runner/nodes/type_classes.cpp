@@ -54,6 +54,7 @@ const TypeClass convertible{"a bool, a number, a vector or an array of them",
 const TypeClass floating{"a float, a double or an array of them", isSingleOrArray<isFloating>};
 const TypeClass vectors{"a vector or an array of vectors", isSingleOrArray<isVector>};
 const TypeClass text{"a string", isExactly<Orvel::String>};
+const TypeClass path{"a string", isExactly<Orvel::String>};
 const TypeClass object{"an Object", isExactly<ObjectPtr>};
 const TypeClass time{"a Simulation::Time", isExactly<Time>};
 const TypeClass sceneInfo{"a File::Project::SceneInfo", isExactly<SceneInfo>};

@@ -30,6 +30,8 @@ extern const TypeClass floating;
 /// Vectors, single or in an array.
 extern const TypeClass vectors;
 extern const TypeClass text;
+/// A text that names a file.
+extern const TypeClass path;
 extern const TypeClass object;
 extern const TypeClass time;
 extern const TypeClass sceneInfo;

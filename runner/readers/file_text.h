@@ -1,16 +1,13 @@
 #pragma once
 
 #include <filesystem>
-#include <iosfwd>
-#include <optional>
 #include <string>
 
 namespace vtlcmd::runner {
 
-/// All bytes up to the end. Nothing when reading fails.
-std::optional<std::string> readStream(std::istream& stream);
+// Both read all bytes up to the end, and throw std::system_error with the system's reason.
 
-/// All bytes of a file. Nothing when it can't be read.
-std::optional<std::string> readFile(const std::filesystem::path& file);
+std::string readFile(const std::filesystem::path& file);
+std::string readStandardInput();
 
 }  // namespace vtlcmd::runner

@@ -10,17 +10,23 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// The file itself where a link names it, so that the link stays.
+constexpr fs::perms anyoneWrites =
+    fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
+
+/// The file itself where a link names it, so that the link stays. A link that leads nowhere fails.
 fs::path linkTarget(const fs::path& file) {
-  std::error_code error;
-  fs::path target = fs::weakly_canonical(file, error);
-  return error ? file : target;
+  return fs::is_symlink(fs::symlink_status(file)) ? fs::canonical(file) : file;
 }
 
+/// Whether the file is a plain one or not there yet. A plain one that is read-only fails: its owner
+/// means it to stay, though the folder would allow another in its place.
 bool canBeReplaced(const fs::path& file) {
-  std::error_code error;
-  const fs::file_status status = fs::status(file, error);
-  return !fs::exists(status) || fs::is_regular_file(status);
+  const fs::file_status status = fs::status(file);
+  if (!fs::exists(status)) return true;
+  if (!fs::is_regular_file(status)) return false;
+  if ((status.permissions() & anyoneWrites) == fs::perms::none)
+    throw std::system_error(EACCES, std::generic_category());
+  return true;
 }
 
 /// A name beside the file that no other process takes.
@@ -38,23 +44,50 @@ fs::path besideFile(const fs::path& file) {
 
 }  // namespace
 
+FileBuffer::int_type FileBuffer::overflow(int_type character) {
+  errno = 0;
+  const int_type result = std::filebuf::overflow(character);
+  remember(traits_type::eq_int_type(result, traits_type::eof()));
+  return result;
+}
+
+std::streamsize FileBuffer::xsputn(const char* text, std::streamsize count) {
+  errno = 0;
+  const std::streamsize written = std::filebuf::xsputn(text, count);
+  remember(written != count);
+  return written;
+}
+
+int FileBuffer::sync() {
+  errno = 0;
+  const int result = std::filebuf::sync();
+  remember(result != 0);
+  return result;
+}
+
+void FileBuffer::remember(bool failed) {
+  if (failed && failure_ == 0) failure_ = errno;
+}
+
 WholeFile::WholeFile(const fs::path& file)
     : file_(linkTarget(file)), partial_(canBeReplaced(file_) ? besideFile(file_) : file_) {
   errno = 0;
-  stream_.open(partial_, std::ios::binary | std::ios::trunc);
-  if (!stream_) throwLast();
+  if (buffer_.open(partial_, std::ios::out | std::ios::binary | std::ios::trunc) == nullptr)
+    throwLast();
 }
 
 WholeFile::~WholeFile() {
-  stream_.close();
+  buffer_.close();
   std::error_code ignored;
   if (!partial_.empty() && partial_ != file_) fs::remove(partial_, ignored);
 }
 
 void WholeFile::commit() {
   errno = 0;
-  stream_.close();
-  if (!stream_) throwLast();
+  if (buffer_.close() == nullptr || !stream_) {
+    if (buffer_.failure() != 0) errno = buffer_.failure();
+    throwLast();
+  }
   if (partial_ != file_) {
     std::error_code ignored;
     const fs::file_status before = fs::status(file_, ignored);

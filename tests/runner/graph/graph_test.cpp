@@ -82,7 +82,7 @@ TEST(Graph, BytesThatAreNoTextAreRefused) {
 }
 
 TEST(Graph, NamesHoldNoControlCharacters) {
-  EXPECT_EQ(refusalOf(R"({"inputs": [{"name": "a\u0000b", "type": "int"}]})"),
+  EXPECT_EQ(refusalOf(R"({"inputs": [{"name": "a\u001fb", "type": "int"}]})"),
             "$.inputs[0].name: a name can't hold control characters");
 }
 

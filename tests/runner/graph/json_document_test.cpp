@@ -35,5 +35,13 @@ TEST(JsonDocument, NumbersOutOfRangeAreRefusedWhereTheyStand) {
   EXPECT_EQ(refusalOf("-1e999"), "$: number overflow parsing '-1e999'");
 }
 
+TEST(JsonDocument, NulCharactersAreRefusedWhereTheyStand) {
+  using namespace std::string_view_literals;
+  EXPECT_EQ(refusalOf(R"({"a": ["x\u0000y"]})"), "$.a[0]: a text can't hold a NUL character");
+  EXPECT_EQ(refusalOf(R"([{"x\u0000y": 1}])"), "$[0]: a text can't hold a NUL character");
+  EXPECT_EQ(refusalOf("[1]\n\0[2]"sv), "line 2, column 1: a NUL character can't stand here");
+  EXPECT_EQ(refusalOf("[\"\0\"]"sv), "line 1, column 3: a NUL character can't stand here");
+}
+
 }  // namespace
 }  // namespace vtlcmd::runner

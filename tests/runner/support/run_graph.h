@@ -33,7 +33,7 @@ struct GraphResult {
 inline GraphResult runGraph(std::string_view text) {
   const Graph graph = parseGraph(text);
   VtlCmdLogger logger(10);
-  const auto values = Executor(graph, {}, logger).run({});
+  const auto values = Executor(graph, logger).run({});
   GraphResult result;
   for (const LogMessage& message : logger.messages) {
     EXPECT_EQ(message.source, vantrelSource);

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+namespace vtlcmd::runner {
+
+/// The files that a command is to write, held against what it reads and against each other, so that
+/// nothing is lost and everything that can be refused is refused before the work begins. Files are
+/// compared by what they are, not by name.
+class OutputTargets {
+ public:
+  /// What stands for the standard output where a file is wanted.
+  static constexpr const char* standardOutput = "-";
+
+  /// `inputs`: the files that the command reads.
+  explicit OutputTargets(std::vector<std::filesystem::path> inputs) : inputs_(std::move(inputs)) {}
+
+  /// Takes in the target that `option` names: a file or `-`. Throws UsageError for an empty name, a
+  /// file that the command reads or that is a target already, and one that can't be written, with
+  /// the system's reason. Leaves the file system as it is.
+  void add(const std::string& option, const std::string& target);
+
+ private:
+  std::vector<std::filesystem::path> inputs_;
+  std::vector<std::filesystem::path> targets_;
+  bool takesOutput_ = false;
+};
+
+}  // namespace vtlcmd::runner
