@@ -44,7 +44,7 @@ struct Row {
   std::function<Pair()> measure;
 };
 
-/// Figures in nanoseconds.
+/// Figures in nanoseconds of processor time, that of programs run included.
 Row timed(TimedRow row);
 
 }  // namespace vtlcmd::bench

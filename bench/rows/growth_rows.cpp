@@ -79,7 +79,7 @@ std::vector<TimedRow> growthRows(const Scale& scale) {
   };
   add(doublings("ports in one run of the plug-in", scale.ports, 7,
                 [&](std::size_t size) { return [plugIn, size] { runPorts(*plugIn, size); }; }));
-  add(doublings("ports in one run of the runner", scale.ports, 3, [&](std::size_t size) {
+  add(doublings("ports in one run of the runner", scale.ports, 1, [&](std::size_t size) {
     const auto graph = std::make_shared<GraphFile>(graphOfPorts(size));
     return [graph] { runProgram({"run", graph->path()}); };
   }));
