@@ -1,5 +1,6 @@
 #include <exception>
 #include <iostream>
+#include <new>
 
 #include "command_line/command_line.h"
 #include "platform/process.h"
@@ -11,6 +12,8 @@ int main(int count, char** words) {
   try {
     vtlcmd::runner::prepareStandardStreams();
     code = vtlcmd::runner::runCommandLine(vtlcmd::runner::commandLineWords(count, words));
+  } catch (const std::bad_alloc&) {
+    std::cerr << "vtlcmd: there isn't enough memory\n";
   } catch (const std::exception& error) {
     std::cerr << "vtlcmd: " << vtlcmd::runner::withoutControls(error.what()) << '\n';
   }

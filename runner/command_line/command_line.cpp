@@ -10,6 +10,7 @@
 #include "command_line/completion.h"
 #include "command_line/usage_error.h"
 #include "command_line/version_text.h"
+#include "readers/foreign_file.h"
 #include "text/control_characters.h"
 #include "text/library_text.h"
 #include "text/load_error.h"
@@ -90,6 +91,10 @@ ExitCode runCommandLine(const std::vector<std::string>& arguments) {
   // Called by the shells' completion scripts; the words behind it are anything but a command line.
   if (!arguments.empty() && arguments[0] == "complete") {
     printCompletions(app, {arguments.begin() + 1, arguments.end()}, std::cout);
+    return ExitCode::success;
+  }
+  if (!arguments.empty() && arguments[0] == readerCommand) {
+    serveForeignFile({arguments.begin() + 1, arguments.end()});
     return ExitCode::success;
   }
   try {

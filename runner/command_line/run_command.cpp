@@ -7,6 +7,7 @@
 #include "command_line/output_targets.h"
 #include "command_line/port_kinds.h"
 #include "command_line/port_texts.h"
+#include "command_line/read_options.h"
 #include "command_line/report_options.h"
 #include "command_line/run_reports.h"
 #include "command_line/terminal.h"
@@ -46,6 +47,7 @@ struct RunOptions {
   std::vector<std::string> reports;
   /// Nothing: on a terminal.
   std::optional<bool> progress;
+  ReadOptions read;
   ReportOptions report;
 };
 
@@ -90,6 +92,7 @@ void addOptions(CLI::App& command, RunOptions& options) {
           "--no-progress", [&options] { options.progress = false; },
           "Never tell how far the run is")
       ->excludes(progress);
+  options.read.addTo(command);
   options.report.addTo(command);
 }
 
@@ -180,6 +183,7 @@ void recordLoadFailure(VtlCmdLogger& logger, const std::string& graphFile, const
 }
 
 ExitCode run(const RunOptions& options, const std::vector<std::string>& arguments) {
+  options.read.apply();
   VtlCmdLogger logger(options.report.printLimit());
   RunReports reports(options.reports);
   std::vector<std::string> portNames;

@@ -1,14 +1,13 @@
 #include <iostream>
 #include <memory>
+#include <new>
 
 #include "command_line/commands.h"
+#include "command_line/read_options.h"
 #include "command_line/report_options.h"
 #include "command_line/terminal.h"
 #include "execution/plug_in.h"
-#include "orvel_sdk/value_factory.h"
-#include "readers/mesh.h"
-#include "readers/npy.h"
-#include "readers/read_error.h"
+#include "readers/data_file.h"
 #include "text/path_text.h"
 
 namespace vtlcmd::runner {
@@ -17,31 +16,42 @@ namespace {
 struct ShowOptions {
   std::vector<std::string> files;
   bool vectors = false;
+  ReadOptions read;
   ReportOptions report;
 };
 
-/// What a data file has, and how, if that tells more than the value.
-NpyArray readData(const std::filesystem::path& file, bool vectors) {
-  if (file.extension() != ".npy") return {Orvel::makeValue(readMesh(file)), {}};
-  return readNpy(file, {.vectors = vectors, .widened = true});
+/// Reports what is in a file. False when the plug-in has no report for some of it.
+bool showValues(const std::string& file, const ShowOptions& options,
+                const PlugIn::Translation& translation, RunContext& context) {
+  bool complete = true;
+  for (const DataValue& data :
+       readDataFile(filePath(file), {.vectors = options.vectors, .widened = true})) {
+    const std::string name = data.name.empty() ? file : file + "/" + data.name;
+    if (!data.description.empty())
+      context.logger->addMessage(vtlcmdSource, levelProgress, name + ": " + data.description);
+    complete &= reportOutput(translation, name, data.value, options.report.outputForm(), context);
+  }
+  return complete;
 }
 
 /// One entry of the report a file. False when the file can't be read or reported.
 bool show(const std::string& file, const ShowOptions& options,
           const PlugIn::Translation& translation, RunContext& context) {
   const EntryScope entry(*context.logger, {});
+  std::string problem;
   try {
-    const NpyArray data = readData(filePath(file), options.vectors);
-    if (!data.description.empty())
-      context.logger->addMessage(vtlcmdSource, levelProgress, file + ": " + data.description);
-    return reportOutput(translation, file, data.value, options.report.outputForm(), context);
+    return showValues(file, options, translation, context);
+  } catch (const std::bad_alloc&) {
+    problem = file + ": there isn't enough memory for what is in it";
   } catch (const std::exception& error) {
-    context.logger->addMessage(vtlcmdSource, levelError, error.what());
-    return false;
+    problem = error.what();
   }
+  context.logger->addMessage(vtlcmdSource, levelError, problem);
+  return false;
 }
 
 ExitCode showAll(const ShowOptions& options) {
+  options.read.apply();
   VtlCmdLogger logger(options.report.printLimit());
   Progress noProgress(std::cerr, ProgressForm::none, options.files.size());
   MessagePrinter printer(logger, static_cast<std::int16_t>(options.report.verbosity()),
@@ -66,6 +76,7 @@ void addShowCommand(CLI::App& app, CommandState& state) {
   command->add_option("FILE", options->files, "Data files")->required()->type_name("");
   command->add_flag("--vectors", options->vectors,
                     "Take a last dimension of 2 to 4 floats in .npy files as vectors");
+  options->read.addTo(*command);
   options->report.addTo(*command);
   command->footer(R"(Examples:
   vtlcmd show temperatures.npy scan.ply

@@ -1,7 +1,7 @@
 #include "command_line/version_text.h"
 
 #include "build_facts.h"
-#include "readers/mesh.h"
+#include "readers/mesh_import.h"
 
 namespace vtlcmd::runner {
 

@@ -1,7 +1,6 @@
 #include "nodes/families.h"
 #include "nodes/operand.h"
-#include "readers/mesh.h"
-#include "readers/npy.h"
+#include "readers/data_file.h"
 #include "text/library_text.h"
 #include "text/path_text.h"
 #include "values/type_dispatch.h"
@@ -23,11 +22,11 @@ NpyForm formFor(const ValueType& type) {
 
 Orvel::Value readArray(const NodeCall& call) {
   const std::filesystem::path file = fileArgument(call);
-  Orvel::Value value = readNpy(file, formFor(call.resultType)).value;
-  const std::string type = value.getType().getFullyQualifiedName().c_str();
+  std::vector<DataValue> values = readArrays(file, formFor(call.resultType));
+  const std::string type = values.at(0).value.getType().getFullyQualifiedName().c_str();
   if (type != nameOf(call.resultType))
     throw NodeError(fileText(file) + " holds " + type + ", not " + nameOf(call.resultType));
-  return value;
+  return std::move(values.at(0).value);
 }
 
 const std::vector<Parameter> path{{"path", &type_classes::path}};

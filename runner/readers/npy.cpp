@@ -6,12 +6,10 @@
 #include <limits>
 #include <string_view>
 
-#include "readers/input_file.h"
 #include "readers/npy_header.h"
 #include "readers/npy_values.h"
 #include "readers/read_error.h"
 #include "text/library_text.h"
-#include "text/path_text.h"
 
 namespace vtlcmd::runner {
 namespace {
@@ -151,15 +149,6 @@ NpyArray parseNpy(ByteSource& file, NpyForm form) {
   NpyNumbers numbers(file, swapped);
   return {build({std::move(shape), header.fortranOrder}, numbers),
           describe(code, header.shape, widened)};
-}
-
-NpyArray readNpy(const std::filesystem::path& path, NpyForm form) {
-  try {
-    InputFile file(path);
-    return parseNpy(file, form);
-  } catch (const ReadError& error) {
-    throw ReadError(fileText(path) + ": " + error.what());
-  }
 }
 
 }  // namespace vtlcmd::runner

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <filesystem>
 #include <string>
 
 #include "host/imports/orvel_values.h"
@@ -30,8 +29,5 @@ struct NpyArray {
 /// The array in a file, whose bytes are read up to the end. Throws ReadError, whose text leaves it
 /// to the caller to name the file, and std::bad_alloc.
 NpyArray parseNpy(ByteSource& file, NpyForm form = {});
-
-/// The array in a file. Throws ReadError.
-NpyArray readNpy(const std::filesystem::path& file, NpyForm form = {});
 
 }  // namespace vtlcmd::runner

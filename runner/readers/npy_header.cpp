@@ -1,6 +1,7 @@
 #include "readers/npy_header.h"
 
 #include <algorithm>
+#include <bit>
 #include <charconv>
 #include <optional>
 #include <string_view>
@@ -135,6 +136,23 @@ NpyHeader parseNpyHeader(ByteSource& file) {
   if (length > file.remaining()) throw ReadError("the file is cut short in its header");
   if (length > longestHeader) throw ReadError("the header has more than 1048576 bytes");
   return DictionaryParser(takeWhole(file, length)).parse();
+}
+
+std::string npyHeader(std::string_view type, std::span<const std::uint64_t> shape) {
+  std::string text = "{'descr': '";
+  text += std::endian::native == std::endian::little ? '<' : '>';
+  text += type;
+  text += "', 'fortran_order': False, 'shape': (";
+  for (const std::uint64_t length : shape) text += std::to_string(length) + ", ";
+  text += "), }";
+  // Readers that map the file want the elements at a multiple of 64.
+  const std::size_t prefix = magic.size() + 4;
+  text.append(63 - (prefix + text.size()) % 64, ' ');
+  text += '\n';
+  std::string header(magic);
+  header +=
+      {'\1', '\0', static_cast<char>(text.size() & 0xFFU), static_cast<char>(text.size() >> 8U)};
+  return header + text;
 }
 
 }  // namespace vtlcmd::runner

@@ -354,27 +354,5 @@ INSTANTIATE_TEST_SUITE_P(
                     BadHeader{"{'shape': (3 4)}", "expected ')'"},
                     BadHeader{"{'shape': (3,) 'descr': '<i4'}", "expected '}'"}));
 
-std::string refusalOfFile(const std::filesystem::path& file) {
-  try {
-    readNpy(file);
-  } catch (const ReadError& error) {
-    return error.what();
-  }
-  return "accepted";
-}
-
-TEST(Npy, FilesAreNamed) {
-  EXPECT_EQ(refusalOfFile("no_such_folder/x.npy"),
-            "no_such_folder/x.npy: No such file or directory");
-}
-
-TEST(Npy, FoldersAreRefused) {
-  const std::filesystem::path folder = std::filesystem::path(testing::TempDir()) / "folder.npy";
-  std::filesystem::create_directory(folder);
-  EXPECT_EQ(refusalOfFile(folder),
-            folder.string() + ": it is a folder; only regular files are read");
-  std::filesystem::remove(folder);
-}
-
 }  // namespace
 }  // namespace vtlcmd::runner

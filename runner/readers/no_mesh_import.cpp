@@ -1,6 +1,5 @@
-#include "readers/mesh.h"
+#include "readers/mesh_import.h"
 #include "readers/read_error.h"
-#include "text/path_text.h"
 
 /// For builds without a library that reads meshes.
 
@@ -8,8 +7,8 @@ namespace vtlcmd::runner {
 
 std::string meshReaderName() { return "none"; }
 
-ObjectPtr readMesh(const std::filesystem::path& file) {
-  throw ReadError(fileText(file) + ": this program was built without a mesh reader");
+MeshData importMesh(const std::filesystem::path&, bool) {
+  throw ReadError("this program was built without a reader for such meshes");
 }
 
 }  // namespace vtlcmd::runner

@@ -1,0 +1,57 @@
+#include "readers/data_file.h"
+
+#include <new>
+#include <stdexcept>
+
+#include "orvel_sdk/value_factory.h"
+#include "readers/foreign_file.h"
+#include "readers/input_file.h"
+#include "readers/read_error.h"
+#include "readers/reader_table.h"
+#include "text/path_text.h"
+
+namespace vtlcmd::runner {
+namespace {
+
+/// Calls a function and puts the file's name before its errors.
+template <typename Function>
+auto naming(const std::filesystem::path& file, Function&& function) {
+  try {
+    requireRegularFile(file);
+    return function();
+  } catch (const ReadError& error) {
+    throw ReadError(fileText(file) + ": " + error.what());
+  }
+}
+
+std::vector<DataValue> readArrayFile(const std::filesystem::path& file, NpyForm form) {
+  InputFile input(file);
+  NpyArray array = parseNpy(input, form);
+  return {{"", std::move(array.value), std::move(array.description)}};
+}
+
+}  // namespace
+
+std::vector<DataValue> readDataFile(const std::filesystem::path& file, NpyForm form) {
+  return naming(file, [&] {
+    return readerFor(file).send == nullptr ? readArrayFile(file, form)
+                                           : readForeignFile(file, form);
+  });
+}
+
+std::vector<DataValue> readArrays(const std::filesystem::path& file, NpyForm form) {
+  return naming(file, [&] {
+    const Reader& reader = readerFor(file);
+    return reader.send == nullptr || reader.givesMesh ? readArrayFile(file, form)
+                                                      : readForeignFile(file, form);
+  });
+}
+
+ObjectPtr readMesh(const std::filesystem::path& file) {
+  return naming(file, [&] {
+    if (!readerFor(file).givesMesh) throw ReadError("it is no mesh");
+    return Orvel::valueAs<ObjectPtr>(readForeignFile(file, {}).at(0).value);
+  });
+}
+
+}  // namespace vtlcmd::runner

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "host/imports/orvel_values.h"
+#include "host/value_types.h"
+#include "readers/npy.h"
+
+namespace vtlcmd::runner {
+
+/// A value that a data file has.
+struct DataValue {
+  /// Its name in the file; empty in files that have one value without a name.
+  std::string name;
+  Orvel::Value value;
+  /// What the file has, if that tells more than the value: "int16, 7, widened to int".
+  std::string description;
+};
+
+/// What is in a data file, read by the reader for its extension, a mesh's for unknown ones. Files
+/// of foreign formats are read in a process of their own, within the limits of `readLimits`. `form`
+/// is for arrays. Throws ReadError, which names the file.
+std::vector<DataValue> readDataFile(const std::filesystem::path& file, NpyForm form);
+
+/// The same for a file that should have arrays; one without a reader for its extension is taken for
+/// an array file.
+std::vector<DataValue> readArrays(const std::filesystem::path& file, NpyForm form);
+
+/// A mesh as an object with the component properties `points`, `faces` and `corners`. Its data
+/// properties are `position`, one a point; `face_size`, one a face; `corner_point`, the point of
+/// each corner; and as far as the file has them for all `normal`, `uv` and `color`, one a corner,
+/// or one a point in a mesh without faces. Throws ReadError, which names the file.
+ObjectPtr readMesh(const std::filesystem::path& file);
+
+}  // namespace vtlcmd::runner

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+/// How a process that reads a file tells what is in it: in messages, each a kind in one byte, the
+/// length of a name in four, the name, the length of the payload in eight, the payload. Numbers
+/// have their lowest byte first.
+
+namespace vtlcmd::runner {
+
+enum class DataMessage : std::uint8_t {
+  /// A component property of the mesh; the payload is its count, in four bytes.
+  component = 1,
+  /// A data property of the mesh; the payload is an array file.
+  numbers,
+  /// The same, whose last dimension is vectors.
+  vectors,
+  /// A value; the payload is an array file.
+  array,
+  /// The file can't be read. The reason stands for a name.
+  error,
+  /// Nothing comes any more.
+  end,
+};
+
+inline constexpr std::size_t longestMessageName = 1 << 16;
+
+/// The exit code of a process for which its memory was too small.
+inline constexpr int outOfMemoryExit = 99;
+
+}  // namespace vtlcmd::runner

@@ -1,0 +1,100 @@
+#include "readers/data_reply.h"
+
+#include <algorithm>
+#include <array>
+#include <string>
+
+#include "orvel_sdk/any_bridge.h"
+#include "orvel_sdk/value_factory.h"
+#include "readers/data_message.h"
+#include "readers/read_error.h"
+#include "text/library_text.h"
+#include "vantrel_geometry/geometry_builder.h"
+#include "vantrel_object/object_builder.h"
+
+namespace vtlcmd::runner {
+namespace {
+
+[[noreturn]] void throwBroken() { throw ReadError("what its reader says makes no sense"); }
+
+std::uint64_t readNumber(ByteSource& source, std::size_t size) {
+  std::array<unsigned char, 8> bytes{};
+  if (source.read(std::span(bytes).first(size)) < size) throwBroken();
+  std::uint64_t number = 0;
+  for (std::size_t i = 0; i < size; ++i) number |= std::uint64_t{bytes[i]} << (8 * i);
+  return number;
+}
+
+std::string readName(ByteSource& source) {
+  const std::uint64_t length = readNumber(source, 4);
+  if (length > longestMessageName) throwBroken();
+  std::string name(length, '\0');
+  if (source.read({reinterpret_cast<unsigned char*>(name.data()), name.size()}) < name.size())
+    throwBroken();
+  return name;
+}
+
+/// The payload of one message.
+class Payload final : public ByteSource {
+ public:
+  Payload(ByteSource& source, std::uint64_t size) : source_(source), left_(size) {
+    if (size > source.remaining()) throwBroken();
+  }
+
+  std::size_t read(std::span<unsigned char> bytes) override {
+    const auto wanted = static_cast<std::size_t>(std::min<std::uint64_t>(bytes.size(), left_));
+    const std::size_t count = source_.read(bytes.first(wanted));
+    left_ -= count;
+    return count;
+  }
+
+  std::uint64_t remaining() const override { return left_; }
+
+ private:
+  ByteSource& source_;
+  std::uint64_t left_;
+};
+
+}  // namespace
+
+std::vector<DataValue> parseReply(ByteSource& messages, NpyForm form) {
+  std::vector<DataValue> values;
+  Orvel::MutablePtr<Vantrel::Object> mesh = Vantrel::createObject();
+  bool hasMesh = false;
+  for (;;) {
+    const auto kind = static_cast<DataMessage>(readNumber(messages, 1));
+    const std::string name = readName(messages);
+    Payload payload(messages, readNumber(messages, 8));
+    switch (kind) {
+      case DataMessage::component: {
+        const std::uint64_t count = readNumber(payload, 4);
+        Vantrel::Geometry::setComponentProperty(*mesh, viewOf(name),
+                                                static_cast<std::uint32_t>(count));
+        hasMesh = true;
+        break;
+      }
+      case DataMessage::numbers:
+      case DataMessage::vectors: {
+        const NpyArray array = parseNpy(payload, {.vectors = kind == DataMessage::vectors});
+        Vantrel::Geometry::setDataProperty(*mesh, viewOf(name), Orvel::toAny(array.value));
+        break;
+      }
+      case DataMessage::array: {
+        NpyArray array = parseNpy(payload, form);
+        values.push_back({name, std::move(array.value), std::move(array.description)});
+        break;
+      }
+      case DataMessage::error:
+        throw ReadError(name);
+      case DataMessage::end:
+        if (hasMesh) values.push_back({"", Orvel::makeValue(ObjectPtr(std::move(mesh))), ""});
+        if (values.empty()) throwBroken();
+        return values;
+      default:
+        throwBroken();
+    }
+    if (payload.remaining() != 0) throwBroken();
+  }
+}
+
+}  // namespace vtlcmd::runner

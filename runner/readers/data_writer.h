@@ -1,0 +1,40 @@
+#pragma once
+
+#include <cstdint>
+#include <iosfwd>
+#include <span>
+#include <string_view>
+
+#include "readers/byte_source.h"
+#include "readers/data_message.h"
+#include "readers/mesh_data.h"
+
+namespace vtlcmd::runner {
+
+/// Sends what is in a file as messages.
+class DataWriter {
+ public:
+  /// The stream must outlive the writer.
+  explicit DataWriter(std::ostream& stream) : stream_(stream) {}
+
+  void writeMesh(const MeshData& mesh);
+
+  /// An array file of the source's remaining bytes. Throws ReadError when it has fewer after all.
+  void writeArrayFile(std::string_view name, ByteSource& file);
+
+  /// An array of `shape`, whose elements have the type that the descriptor without its order names.
+  void writeArray(DataMessage kind, std::string_view name, std::string_view descriptor,
+                  std::span<const std::uint64_t> shape, std::span<const unsigned char> elements);
+
+  void writeError(std::string_view reason);
+  void writeEnd();
+
+ private:
+  void writeNumber(std::uint64_t number, int bytes);
+  void begin(DataMessage kind, std::string_view name, std::uint64_t payloadSize);
+  void writeComponent(std::string_view name, std::uint64_t count);
+
+  std::ostream& stream_;
+};
+
+}  // namespace vtlcmd::runner

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "host/imports/vantrel_math.h"
+
+namespace vtlcmd::runner {
+
+/// What a mesh file says, points in its order and number.
+struct MeshData {
+  std::vector<Vantrel::Math::float3> positions;
+  /// The corners of each face.
+  std::vector<std::int32_t> faceSizes;
+  /// The point of each corner, face by face.
+  std::vector<std::int32_t> cornerPoints;
+  /// One a corner, or one a point in a mesh without faces; of another number when the file has them
+  /// for some only.
+  std::vector<Vantrel::Math::float3> normals;
+  std::vector<Vantrel::Math::float2> uvs;
+  std::vector<Vantrel::Math::float4> colors;
+};
+
+}  // namespace vtlcmd::runner

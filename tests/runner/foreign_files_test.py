@@ -1,0 +1,141 @@
+"""Files that want too much, or crash what reads them, cost one line and never the program."""
+
+import argparse
+import json
+import os
+import random
+import struct
+import subprocess
+import sys
+import tempfile
+import zipfile
+
+parser = argparse.ArgumentParser(description=__doc__)
+parser.add_argument("--program", required=True, nargs="+", help="the words that start it")
+parser.add_argument("--folder", required=True, help="the project's folder")
+arguments = parser.parse_args()
+program = [os.path.abspath(word) for word in arguments.program]
+array = os.path.abspath(os.path.join(arguments.folder, "examples/data/temperatures.npy"))
+failures = 0
+
+
+def check(what, actual, expected):
+    global failures
+    if actual != expected:
+        failures += 1
+        print(f"{what}\n  expected {expected!r}\n  actual   {actual!r}")
+
+
+def run(*words):
+    result = subprocess.run([*program, *words], capture_output=True, text=True, errors="replace",
+                            timeout=300)
+    return result.returncode, result.stdout, result.stderr
+
+
+def refused(file, reason, *options):
+    """The file is refused for the reason in one line, and the next file is shown all the same."""
+    code, output, errors = run("show", *options, file, array)
+    check(f"{file} {options}", (code, errors), (1, f"[vtlcmd]  Error:    {file}: {reason}\n"))
+    check(f"{file}: what follows", "(array<array<double>>)" in output, True)
+
+
+def scene(nodes, buffer="data:application/octet-stream;base64," + "A" * 48):
+    return json.dumps({
+        "asset": {"version": "2.0"}, "scene": 0, "scenes": [{"nodes": [0]}], "nodes": nodes,
+        "meshes": [{"primitives": [{"attributes": {"POSITION": 0}}]}],
+        "accessors": [{"bufferView": 0, "componentType": 5126, "count": 3, "type": "VEC3"}],
+        "bufferViews": [{"buffer": 0, "byteLength": 36}],
+        "buffers": [{"byteLength": 36, "uri": buffer}]})
+
+
+def write(name, content):
+    with open(name, "wb") as file:
+        file.write(content if isinstance(content, bytes) else content.encode())
+
+
+def check_crashes():
+    write("deep.gltf", scene([{"children": [i + 1]} for i in range(20000)] + [{"mesh": 0}]))
+    write("brackets.gltf", "[" * 200000)
+    for file in "deep.gltf", "brackets.gltf":
+        refused(file, "its reader crashed: Segmentation fault")
+
+
+def check_limits():
+    write("claims_much.glb", b"glTF" + struct.pack("<III", 2, 22, 0xFFFFFFF0) + b"JSON{}")
+    write("shared.gltf", scene([{"children": [i + 1, i + 1]} for i in range(30)] + [{"mesh": 0}]))
+    with zipfile.ZipFile("bomb.3mf", "w", zipfile.ZIP_DEFLATED) as archive:
+        archive.writestr("_rels/.rels", '<Relationships><Relationship Id="r" Target="/3D/3dmodel.model"'
+                         ' Type="http://schemas.microsoft.com/3dmanufacturing/2013/01/3dmodel"/>'
+                         "</Relationships>")
+        archive.writestr("3D/3dmodel.model", b" " * (400 << 20))
+    memory = "reading it takes more than 200 MiB of memory (--read-memory)"
+    for file in "claims_much.glb", "shared.gltf", "bomb.3mf":
+        refused(file, memory, "--read-memory", "200M")
+    refused("shared.gltf", "reading it takes more than 1 second of processor time (--read-cpu)",
+            "--read-cpu", "1")
+    refused("shared.gltf", "reading it takes longer than 1 second (--read-time)", "--read-time", "1")
+
+
+def check_other_files():
+    regular = "only regular files are read"
+    os.mkfifo("fifo.bin")
+    os.mkfifo("fifo.obj")
+    os.mkdir("folder.ply")
+    write("waits.gltf", scene([{"mesh": 0}], "fifo.bin"))
+    write("curious.gltf", scene([{"mesh": 0}], "/etc/passwd"))
+    refused("waits.gltf", f"it names 'fifo.bin': it is a FIFO; {regular}")
+    refused("curious.gltf",
+            "it names '/etc/passwd', which is outside its folder (--read-anywhere allows that)")
+    check("anywhere", run("show", "--read-anywhere", "curious.gltf")[0], 0)
+    refused("fifo.obj", f"it is a FIFO; {regular}")
+    refused("folder.ply", f"it is a folder; {regular}")
+    refused("/dev/zero", f"it is a device; {regular}")
+    refused("absent.ply", "No such file or directory")
+
+
+def check_noise():
+    source = random.Random(7)
+    for i in range(20):
+        write("noise.obj", source.randbytes(source.randrange(1, 2000)))
+        code, output, errors = run("show", "noise.obj")
+        check(f"noise {i}", (code, output, errors.count("\n")), (1, "", 1))
+
+
+def check_nodes():
+    write("mesh.json", json.dumps({
+        "nodes": [{"name": "path", "op": "constant", "type": "string", "value": os.path.abspath("deep.gltf")},
+                  {"name": "mesh", "op": "read_mesh", "in": {"path": "path"}}],
+        "outputs": [{"name": "mesh", "from": "mesh"}]}))
+    code, _, errors = run("run", "mesh.json")
+    check("a node's file", (code, "Node 'mesh' (read_mesh): " in errors,
+                            "deep.gltf: its reader crashed: Segmentation fault" in errors),
+          (1, True, True))
+
+
+def check_memory_limit():
+    write("fill.json", json.dumps({
+        "inputs": [{"name": "count", "type": "uint"}],
+        "nodes": [{"name": "one", "op": "constant", "type": "double", "value": 1},
+                  {"name": "ones", "op": "fill", "in": {"value": "one", "count": "count"}}],
+        "outputs": [{"name": "ones", "from": "ones"}]}))
+    limited = "run", "fill.json", "--memory-limit", "100M", "-s"
+    code, output, errors = run(*limited, "count=20000000")
+    check("too much memory", (code, output), (1, ""))
+    check("too much memory",
+          "Node 'ones' (fill): there isn't enough memory for the result" in errors, True)
+    check("enough memory", run(*limited, "count=10000000")[0], 0)
+    for size in "", "0", "much", "-1G":
+        check("sizes", run("run", "fill.json", "--memory-limit", size)[0], 2)
+    for seconds in "0", "-1", "1.5", "99999999999":
+        check("times", run("show", array, "--read-time", seconds)[0], 2)
+
+
+with tempfile.TemporaryDirectory() as folder:
+    os.chdir(folder)
+    check_crashes()
+    check_limits()
+    check_other_files()
+    check_noise()
+    check_nodes()
+    check_memory_limit()
+sys.exit(failures != 0)
