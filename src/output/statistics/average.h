@@ -43,17 +43,6 @@ constexpr T averageOf(T sum, std::uint64_t count) noexcept {
   }
 }
 
-/// One more element on a running sum: floating types add, integers wrap in their own width.
-template <typename T>
-constexpr T addWrapping(T sum, T element) noexcept {
-  if constexpr (std::is_floating_point_v<T>) {
-    return sum + element;
-  } else {
-    using Bits = std::make_unsigned_t<T>;
-    return static_cast<T>(static_cast<Bits>(static_cast<Bits>(sum) + static_cast<Bits>(element)));
-  }
-}
-
 /// Whether more than half of `count` elements are true, where the first one counts as an element
 /// but never as a true one.
 constexpr bool mostAreTrue(std::uint64_t trueBehindFirst, std::uint64_t count) noexcept {

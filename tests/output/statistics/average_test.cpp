@@ -38,14 +38,16 @@ TEST(AverageOf, UnsignedLongTakesTheTopBitOffAndPutsItBack) {
   EXPECT_EQ(averageOf<std::uint64_t>(7, 2), 3U);
 }
 
-TEST(AddWrapping, WrapsInTheElementsOwnWidth) {
-  EXPECT_EQ(addWrapping<std::int32_t>(2147483647, 1), lowest32);
-  EXPECT_EQ(addWrapping<std::uint32_t>(4294967295, 1), 0U);
-  EXPECT_EQ(addWrapping<std::int64_t>(9223372036854775807, 1), lowest64);
-  EXPECT_EQ(addWrapping<std::uint64_t>(18446744073709551615U, 1), 0U);
-  EXPECT_EQ(addWrapping<std::int16_t>(32767, 1), -32768);
-  EXPECT_EQ(addWrapping<std::int16_t>(-32768, -1), 32767);
-  EXPECT_EQ(addWrapping<std::uint16_t>(65535, 1), 0);
+TEST(MostAreTrue, TakesMoreThanHalfOfTheCount) {
+  EXPECT_FALSE(mostAreTrue(0, 1));
+  EXPECT_FALSE(mostAreTrue(1, 2));
+  EXPECT_FALSE(mostAreTrue(1, 3));
+  EXPECT_TRUE(mostAreTrue(2, 3));
+}
+
+TEST(MostAreTrue, CountsInSinglePrecision) {
+  EXPECT_FALSE(mostAreTrue((1U << 24) + 1, 1U << 25)) << "both round to the same half";
+  EXPECT_TRUE(mostAreTrue((1U << 24) + 2, 1U << 25));
 }
 
 }  // namespace
