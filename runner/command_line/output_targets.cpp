@@ -19,7 +19,9 @@ bool areSameFile(const fs::path& a, const fs::path& b) {
   std::error_code error;
   const fs::file_status status = fs::status(a, error);
   if (fs::exists(status)) return fs::is_regular_file(status) && fs::equivalent(a, b, error);
-  return fs::weakly_canonical(a, error) == fs::weakly_canonical(b, error);
+  // A relative path may stay one where nothing is there yet.
+  return fs::weakly_canonical(fs::absolute(a, error), error) ==
+         fs::weakly_canonical(fs::absolute(b, error), error);
 }
 
 bool holds(const std::vector<fs::path>& files, const fs::path& file) {

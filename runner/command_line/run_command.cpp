@@ -75,7 +75,11 @@ void addOptions(CLI::App& command, RunOptions& options) {
                   "length of a frame")
       ->type_name("NUMBER")
       ->capture_default_str();
-  command.add_option("--scene", options.scene, "Scene file that the graph is told")
+  command
+      .add_option(
+          "--scene", options.scene,
+          "Scene file that the graph is told; on every platform //shots/scene.vs is a server "
+          "and its share, without a file name")
       ->type_name("PATH");
   command.add_option("--secondary", options.secondary, "Secondary path that the graph is told")
       ->type_name("PATH");

@@ -23,6 +23,8 @@ fs::path linkTarget(const fs::path& file) {
 bool canBeReplaced(const fs::path& file) {
   const fs::file_status status = fs::status(file);
   if (!fs::exists(status)) return true;
+  // Not every platform calls it that.
+  if (fs::is_directory(status)) throw std::system_error(EISDIR, std::generic_category());
   if (!fs::is_regular_file(status)) return false;
   if ((status.permissions() & anyoneWrites) == fs::perms::none)
     throw std::system_error(EACCES, std::generic_category());

@@ -86,6 +86,40 @@ TEST_F(WholeFileTest, RefusesAFolderThatIsNotThere) {
   }
 }
 
+TEST_F(WholeFileTest, RefusesLinksThatLeadNowhere) {
+  std::error_code error;
+  fs::create_symlink("nowhere.json", folder_ / "link.json", error);
+  if (error) GTEST_SKIP() << "no links here: " << error.message();
+  EXPECT_THROW(const WholeFile file(folder_ / "link.json"), std::system_error);
+  EXPECT_TRUE(fs::is_symlink(folder_ / "link.json"));
+  EXPECT_EQ(filesInFolder(), 1U);
+}
+
+TEST_F(WholeFileTest, RefusesToReplaceAReadOnlyFile) {
+  const fs::path name = folder_ / "report.json";
+  fill(name, "old");
+  fs::permissions(name, fs::perms::owner_read);
+  EXPECT_THROW(const WholeFile file(name), std::system_error);
+  EXPECT_EQ(textOf(name), "old");
+  fs::permissions(name, fs::perms::owner_all);
+}
+
+TEST_F(WholeFileTest, AFullDeviceIsCalledThat) {
+  const fs::path full = "/dev/full";
+  if (!fs::exists(full)) GTEST_SKIP() << "no such device here";
+  // Less and more than a buffer holds.
+  for (const std::size_t size : {std::size_t{1}, std::size_t{1} << 20U}) {
+    WholeFile file(full);
+    file.stream() << std::string(size, 'x') << "behind it";
+    try {
+      file.commit();
+      FAIL() << "accepted " << size;
+    } catch (const std::system_error& error) {
+      EXPECT_EQ(error.code(), std::errc::no_space_on_device) << size;
+    }
+  }
+}
+
 TEST_F(WholeFileTest, RefusesAFolderInItsPlace) {
   EXPECT_THROW(const WholeFile file(folder_), std::system_error);
 }
