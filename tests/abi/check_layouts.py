@@ -65,6 +65,12 @@ def datum(line, value):
     return f'asm volatile(".ascii \\"fact {line} %c0\\"" : : "i"({value}));'
 
 
+def right_behind(line, what, start, end, alignment):
+    return (f'#line {line} "{TABLE.name}"\n'
+            f'static_assert({start} >= {end} && {start} - ({end}) < {alignment}, '
+            f'"{what} isn\'t right behind what stands before it");')
+
+
 def same_type(line, what, found, expected):
     return (f'#line {line} "{TABLE.name}"\n'
             f'static_assert(std::is_same_v<{found}, {expected}>, "{what} isn\'t {expected}");')
@@ -92,14 +98,24 @@ def read_table(itanium):
         if row == "" or row.startswith("#"):
             continue
         if not row.startswith(" "):
-            kind, owner, *size = row.split()
-            if size and size != ["*"]:
-                facts.append(Fact(line, f"size of {owner}", int(size[0])))
+            kind, owner, *numbers = row.split()
+            end = f"sizeof({numbers[1]})" if len(numbers) > 1 else "0"
+            if kind == "value":
+                facts.append(Fact(line, owner, int(numbers[0])))
+                statements.append(datum(line, f"static_cast<int>({owner})"))
+            elif numbers and numbers[0] != "*":
+                facts.append(Fact(line, f"size of {owner}", int(numbers[0])))
                 statements.append(datum(line, f"sizeof({owner})"))
         elif kind == "record":
             offset, member, type_ = row.split(None, 2)
-            facts.append(Fact(line, f"offset of {owner}::{member}", int(offset)))
-            statements.append(datum(line, f"__builtin_offsetof({owner}, {member})"))
+            start = f"__builtin_offsetof({owner}, {member})"
+            if offset == "+":
+                statements.append(right_behind(line, f"{owner}::{member}", start, end,
+                                               f"alignof(decltype({owner}::{member}))"))
+            else:
+                facts.append(Fact(line, f"offset of {owner}::{member}", int(offset)))
+                statements.append(datum(line, start))
+            end = f"{start} + sizeof({owner}::{member})"
             statements.append(same_type(line, f"{owner}::{member}",
                                         f"decltype({owner}::{member})", type_))
         else:
