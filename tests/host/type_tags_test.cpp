@@ -2,10 +2,12 @@
 
 #include <gtest/gtest.h>
 #include <string>
+#include <string_view>
 
 namespace vtlcmd {
 namespace {
 
+using namespace std::string_literals;
 using Orvel::Internal::TypeInfo;
 
 /// The tag orders before no tag that it equals, and exactly one way round otherwise.
@@ -33,6 +35,16 @@ TEST(SameType, TellsKindRankLengthAndSpellingApart) {
   EXPECT_FALSE(sameType(tag, makeTag("H", 0, 1)));
   EXPECT_FALSE(sameType(tag, makeTag("HH", 0, 0)));
   EXPECT_FALSE(sameType(tag, makeTag("I", 0, 0)));
+}
+
+TEST(SameType, SpellingsAreReadByLength) {
+  using namespace std::string_view_literals;
+  const std::string copy = "a\0b"s;
+  EXPECT_TRUE(sameType(makeTag("a\0b"sv, 0, 0), makeTag(copy, 0, 0)));
+  EXPECT_FALSE(sameType(makeTag("a\0b"sv, 0, 0), makeTag("a\0c"sv, 0, 0)));
+  EXPECT_FALSE(sameType(makeTag("a\0"sv, 0, 0), makeTag("a"sv, 0, 0)));
+  const TypeInfo unterminated = makeTag(std::string_view("Hx", 1), 0, 0);
+  EXPECT_TRUE(sameType(unterminated, makeTag("H"sv, 0, 0)));
 }
 
 TEST(SameType, EqualNamePointersDecideBeforeTheLength) {
@@ -66,6 +78,13 @@ TEST(TagOrder, RankGoesFirstThenKindThenSpelling) {
   expectBefore(makeTag("A", 0, 1), makeTag("B", 0, 1));
   expectBefore(makeTag("A", 0, 1), makeTag("AA", 0, 1));
   expectBefore(makeTag("AZ", 0, 1), makeTag("B", 0, 1));
+}
+
+TEST(TagOrder, SpellingsAreReadByLength) {
+  using namespace std::string_view_literals;
+  expectBefore(makeTag("a\0b"sv, 0, 0), makeTag("a\0c"sv, 0, 0));
+  expectBefore(makeTag("a"sv, 0, 0), makeTag("a\0"sv, 0, 0));
+  expectBefore(makeTag(std::string_view("Hx", 1), 0, 0), makeTag("Ha"sv, 0, 0));
 }
 
 TEST(TagOrder, BytesAreSigned) { expectBefore(makeTag("\x80", 0, 0), makeTag("A", 0, 0)); }

@@ -73,6 +73,37 @@ TEST(ValueTypes, RecordsAndReportOnlyTypesAreSpelledAsTheirHostsSpellThem) {
                                            {"Math::double4x4", {"Udouble4x4@Math@Vantrel@@", 0}}}));
 }
 
+using Vantrel::Math::Matrix;
+using Vantrel::Math::Vector;
+
+/// What the rows of a list store, in order.
+template <typename List>
+struct StoredOf;
+template <typename... Rows>
+struct StoredOf<const std::tuple<Rows...>> {
+  using Types = std::tuple<typename Rows::Type...>;
+};
+
+static_assert(
+    std::is_same_v<StoredOf<decltype(registeredTypes)>::Types,
+                   std::tuple<bool, float, double, std::int32_t, std::uint32_t, std::int64_t,
+                              std::uint64_t, Vector<float, 2>, Vector<float, 3>, Vector<float, 4>,
+                              Vector<double, 2>, Vector<double, 3>, Vector<double, 4>,
+                              Orvel::Ptr<Vantrel::Object>, Orvel::String>>);
+static_assert(
+    std::is_same_v<StoredOf<decltype(inputOnlyTypes)>::Types,
+                   std::tuple<Vantrel::Simulation::Time, Vantrel::File::Project::SceneInfo>>);
+static_assert(
+    std::is_same_v<
+        StoredOf<decltype(reportOnlyTypes)>::Types,
+        std::tuple<std::int8_t, std::uint8_t, std::int16_t, std::uint16_t, Vector<std::int32_t, 2>,
+                   Vector<std::int32_t, 3>, Matrix<std::int32_t, 2, 2>, Matrix<std::int32_t, 2, 3>,
+                   Vector<std::int16_t, 2>, Vector<std::int16_t, 3>, Matrix<std::int16_t, 2, 2>,
+                   Matrix<std::int16_t, 2, 3>, Vector<std::uint8_t, 3>, Vector<std::uint8_t, 4>,
+                   Matrix<float, 2, 2>, Matrix<float, 2, 3>, Matrix<float, 3, 3>,
+                   Matrix<float, 4, 4>, Matrix<double, 2, 2>, Matrix<double, 2, 3>,
+                   Matrix<double, 3, 3>, Matrix<double, 4, 4>>>);
+
 TEST(ValueTypes, NameTableKeepsItsOrder) {
   const std::vector<std::string> names(typeNames.begin(), typeNames.end());
   EXPECT_EQ(names, (std::vector<std::string>{
