@@ -58,6 +58,12 @@ T readText(const Orvel::String& text) {
   }
 }
 
+template <Registered T>
+void store(Any& result, T value) {
+  Any temporary = makeAny(std::move(value));
+  swap(result, temporary);
+}
+
 /// What no way of setting a plain input port can leave out: the calls into the closed libraries
 /// and the look-ups, the parse, the messages and the Any. The port has a good text; one of type
 /// Object has none.
@@ -70,16 +76,14 @@ __attribute__((noinline)) bool setInputFloor(const Orvel::Type& type, Any& value
 
   const PortValueEntry* entry = data.context->inputValues->find(*data.portName);
   const Orvel::String typeName = type.getFullyQualifiedName();
-  Any temporary;
   if constexpr (std::is_same_v<T, ObjectPtr>) {
     record.add(levelVerbose, concatenate({"No value was provided to vtlcmd for input port '",
                                           data.portName->c_str(), "' (", typeName.c_str(),
                                           "). A default value will be used."}));
-    temporary = makeAny(ObjectPtr(Vantrel::createObject()));
+    store<T>(value, Vantrel::createObject());
   } else {
-    temporary = makeAny(readText<T>(entry->text));
+    store(value, readText<T>(entry->text));
   }
-  swap(value, temporary);
   record.add(levelVerbose,
              concatenate({"Set input port '", data.portName->c_str(), "': (", typeName.c_str(),
                           ") ", valueText<T>(*anyCast<T>(&value))}));

@@ -36,6 +36,7 @@ template <std::size_t Bytes>
 __attribute__((always_inline)) inline void addBlocks(const void* bytes, std::uint64_t size) {
   using Register __attribute__((vector_size(Bytes))) = std::uint64_t;
   Register sums[4]{};
+  // NOLINTNEXTLINE(modernize-use-auto): g++ would deduce a pointer to one integer
   const Register* position = static_cast<const Register*>(bytes);
   const Register* end = position + size / Bytes;
   for (; position != end; position += 4) {

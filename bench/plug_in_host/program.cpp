@@ -8,13 +8,12 @@
 #include <unistd.h>
 #include <utility>
 
-extern char** environ;
-
 namespace vtlcmd::bench {
 
 void runProgram(std::vector<std::string> arguments) {
   arguments.insert(arguments.begin(), VTLCMD_PROGRAM);
   std::vector<char*> pointers;
+  pointers.reserve(arguments.size() + 1);
   for (std::string& argument : arguments) pointers.push_back(argument.data());
   pointers.push_back(nullptr);
 

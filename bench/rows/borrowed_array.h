@@ -48,8 +48,9 @@ template <typename T>
 requires std::is_trivially_destructible_v<T> Orvel::Ptr<Orvel::Array<T>> arrayOver(
     const Bytes& bytes, std::size_t size) {
   struct Borrowed {
+    explicit Borrowed(Bytes memory) : bytes(std::move(memory)) {}
     Bytes bytes;
-    Orvel::Array<T> array{};
+    Orvel::Array<T> array;
   };
   auto borrowed = Orvel::makeMutable<Borrowed>(bytes);
   borrowed->array.data = static_cast<T*>(bytes.address());
