@@ -7,6 +7,7 @@
 #include "host/value_types.h"
 #include "input/number_parsing.h"
 #include "logging/vtlcmd_logger.h"
+#include "text/joined.h"
 
 namespace vtlcmd {
 
@@ -18,7 +19,7 @@ concept Scalar = Number<T> || std::same_as<T, bool>;
 template <Registered T>
 void addParseError(VtlCmdLogger* logger, const std::string& prefix, const char* text) {
   logger->addMessage(vtlcmdSource, levelError,
-                     prefix + "Unable to convert '" + text + valueType<T>().parseErrorEnd);
+                     joined({prefix, "Unable to convert '", text, valueType<T>().parseErrorEnd}));
 }
 
 /// The value of a whole text, or nothing and exactly one message that starts with `prefix`.

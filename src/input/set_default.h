@@ -1,8 +1,8 @@
 #pragma once
 
 #include "host/imports/vantrel_object.h"
+#include "host/store.h"
 #include "host/value_types.h"
-#include "input/set_from_string.h"
 
 namespace vtlcmd {
 
@@ -10,9 +10,9 @@ namespace vtlcmd {
 template <Registered T>
 void setDefault(Any& value) {
   if constexpr (std::same_as<T, ObjectPtr>) {
-    store<T>(value, Vantrel::createObject());
+    store(value, makeAny(ObjectPtr(Vantrel::createObject())));
   } else {
-    store(value, T{});
+    store(value, makeAny(T{}));
   }
 }
 

@@ -2,8 +2,9 @@
 
 #include <concepts>
 #include <string>
-#include <utility>
+#include <vector>
 
+#include "host/store.h"
 #include "host/value_types.h"
 #include "input/from_string.h"
 #include "input/split_string.h"
@@ -19,18 +20,11 @@ concept VectorType = Registered<T> && requires {
   T::componentCount;
 };
 
-/// Stores a new value in a result, whose old value ends last.
-template <Storable Stored>
-void store(Any& result, Stored newValue) {
-  Any temporary = makeAny(std::move(newValue));
-  swap(result, temporary);
-}
-
 template <Scalar T>
 void setFromString(Any& value, const Orvel::String& text, VtlCmdLogger* logger,
                    const std::string& prefix) {
   if (const std::optional<T> parsed = fromString<T>(text, logger, prefix)) {
-    store(value, *parsed);
+    store(value, makeAny(*parsed));
   } else {
     value = Any{};
   }
@@ -44,8 +38,8 @@ void setFromString(Any& value, const Orvel::String& text, VtlCmdLogger* logger,
   const std::vector<std::string> pieces = splitString(text.c_str(), ',');
   if (pieces.size() != valueType<T>().components) {
     logger->addMessage(vtlcmdSource, levelError,
-                       prefix + "Cannot extract " + valueType<T>().name + " value from '" +
-                           text.c_str() + "': invalid number of vector components");
+                       joined({prefix, "Cannot extract ", valueType<T>().name, " value from '",
+                               text.c_str(), "': invalid number of vector components"}));
     value = Any{};
     return;
   }
@@ -62,7 +56,7 @@ void setFromString(Any& value, const Orvel::String& text, VtlCmdLogger* logger,
     }
   }
   if (allParsed) {
-    store(value, vector);
+    store(value, makeAny(vector));
   } else {
     value = Any{};
   }
@@ -70,7 +64,7 @@ void setFromString(Any& value, const Orvel::String& text, VtlCmdLogger* logger,
 
 template <std::same_as<Orvel::String> T>
 void setFromString(Any& value, const Orvel::String& text, VtlCmdLogger*, const std::string&) {
-  store(value, *fromString<T>(text));
+  store(value, makeAny(*fromString<T>(text)));
 }
 
 /// An object can't be written as text: always refused.
@@ -78,7 +72,7 @@ template <std::same_as<ObjectPtr> T>
 void setFromString(Any& value, const Orvel::String&, VtlCmdLogger* logger,
                    const std::string& prefix) {
   logger->addMessage(vtlcmdSource, levelError,
-                     prefix + "UNSUPPORTED: setFromString() for " + valueType<T>().name);
+                     joined({prefix, "UNSUPPORTED: setFromString() for ", valueType<T>().name}));
   value = Any{};
 }
 

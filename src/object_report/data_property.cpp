@@ -13,17 +13,17 @@ namespace {
 /// One element type: the tag of its arrays, and what is printed for them.
 struct Row {
   const Orvel::Internal::TypeInfo* tag;
-  bool (*print)(const Any& value, std::ostream& stream, const Orvel::String& name);
+  bool (*print)(const Any& value, TextBuilder& text, const Orvel::String& name);
 };
 
 template <typename T>
-bool printStatistics(const Any& value, std::ostream& stream, const Orvel::String& name) {
+bool printStatistics(const Any& value, TextBuilder& text, const Orvel::String& name) {
   const StoredArray<T, 1> array = *anyCast<StoredArray<T, 1>>(&value);
-  return printNamedArrayStatistics(stream, name, *array);
+  return printNamedArrayStatistics(text, name, *array);
 }
 
-bool printUnsupported(const Any&, std::ostream& stream, const Orvel::String& name) {
-  stream << "  " << name.c_str() << ": {non supported Data Geo Property}\n";
+bool printUnsupported(const Any&, TextBuilder& text, const Orvel::String& name) {
+  text << "  " << name.c_str() << ": {non supported Data Geo Property}\n";
   return false;
 }
 
@@ -57,10 +57,10 @@ static_assert(rows.size() == std::tuple_size_v<decltype(registeredTypes)> - 1 +
 
 }  // namespace
 
-bool printDataProperty(const Any& value, std::ostream& stream, const Orvel::String& name) {
+bool printDataProperty(const Any& value, TextBuilder& text, const Orvel::String& name) {
   if (!value.holdsValue()) return false;
   for (const Row& row : rows) {
-    if (any_operations::cast(value, *row.tag) != nullptr) return row.print(value, stream, name);
+    if (any_operations::cast(value, *row.tag) != nullptr) return row.print(value, text, name);
   }
   return false;
 }

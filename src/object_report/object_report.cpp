@@ -1,7 +1,5 @@
 #include "object_report/object_report.h"
 
-#include <sstream>
-
 #include "host/imports/vantrel_geometry.h"
 #include "host/value_types.h"
 
@@ -9,37 +7,35 @@ namespace vtlcmd {
 
 namespace Geometry = Vantrel::Geometry;
 
-std::string objectReport(const Orvel::Ptr<const Vantrel::Object>& object) {
-  std::ostringstream stream;
-  stream << "{\n";
+void objectReport(TextBuilder& text, const Orvel::Ptr<const Vantrel::Object>& object) {
+  text << "{\n";
   if (!object) {
-    stream << "  No object produced, verify your inputs."
-           << "\n";
+    text << "  No object produced, verify your inputs."
+         << "\n";
   } else {
     const auto components = Geometry::getComponentGeoPropPrototype();
     Orvel::Array<Orvel::String> names = Geometry::getGeoPropNamesByPrototype(*object, *components);
     for (const Orvel::String& name : names) {
-      stream << "  " << name.c_str() << ": count: " << Geometry::getElementCount(*object, name)
-             << "\n";
+      text << "  " << name.c_str() << ": count: " << Geometry::getElementCount(*object, name)
+           << "\n";
     }
     const auto data = Geometry::getDataGeoPropPrototype(Geometry::sGenericDataGeoProp);
     names = Geometry::getGeoPropNamesByPrototype(*object, *data);
     for (const Orvel::String& name : names) {
       const auto property = Geometry::getDataGeoProperty(*object, name);
-      printDataProperty(property->propertyByKey(Geometry::sData), stream, name);
+      printDataProperty(property->propertyByKey(Geometry::sData), text, name);
     }
   }
-  stream << "}";
-  return stream.str();
+  text << "}";
 }
 
-std::string objectReportFromAny(const Any& value) {
+void objectReportFromAny(TextBuilder& text, const Any& value) {
   const auto* object = anyCast<ObjectPtr>(&value);
-  return objectReport(object == nullptr ? ObjectPtr{} : *object);
+  objectReport(text, object == nullptr ? ObjectPtr{} : *object);
 }
 
-std::string objectReportFromValue(const Orvel::Value& value) {
-  return objectReport(value.getOrvelClass().castTo<const Vantrel::Object>());
+void objectReportFromValue(TextBuilder& text, const Orvel::Value& value) {
+  objectReport(text, value.getOrvelClass().castTo<const Vantrel::Object>());
 }
 
 }  // namespace vtlcmd

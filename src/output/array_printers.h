@@ -2,7 +2,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <ostream>
 
 #include "host/imports/orvel_values.h"
 #include "host/value_types.h"
@@ -25,50 +24,37 @@ Orvel::String arrayTypeName(std::uint32_t levels) {
 /// Of the array of T at a rank of 1 to 3 that the Any holds; neither it nor an array inside it may
 /// be null. Heads call the elements by T's name at every level.
 template <Registered T, std::uint32_t Rank>
-void printArray(std::ostream& stream, const Any* any, VtlCmdLogger* logger) {
+void printArray(TextBuilder& text, const Any* any, VtlCmdLogger* logger) {
   constexpr ArrayClass arrayClass = valueType<T>().arrayClass;
   constexpr const char* typeWord = valueType<T>().name;
   const StoredArray<T, Rank> array = *anyCast<StoredArray<T, Rank>>(any);
   const std::uint64_t shown = shownOf(array->size, *logger);
   if (shown == 0) {
-    writeShortNote(stream, array->size, typeWord);
+    writeShortNote(text, array->size, typeWord);
   } else if constexpr (Rank == 1 && arrayClass == ArrayClass::summarised) {
-    printArrayStatistics(stream, *array);
+    printArrayStatistics(text, *array);
   } else if constexpr (Rank == 1 && arrayClass == ArrayClass::refused) {
-    writeRefusal(stream, typeWord);
+    writeRefusal(text, typeWord);
   } else {
-    writeList(stream, shown, array->size, typeWord, [&](std::uint64_t i) {
+    writeList(text, shown, array->size, typeWord, [&](std::uint64_t i) {
       const Any element = makeAny(array->data[i]);
       if constexpr (Rank == 1) {
-        stream << anyToText<T>(&element);
+        anyToText<T>(text, &element);
       } else {
-        printArray<T, Rank - 1>(stream, &element, logger);
+        printArray<T, Rank - 1>(text, &element, logger);
       }
     });
   }
 }
 
-template <Registered T>
-void printArray1(std::ostream& stream, const Any* any, VtlCmdLogger* logger) {
-  printArray<T, 1>(stream, any, logger);
-}
-template <Registered T>
-void printArray2(std::ostream& stream, const Any* any, VtlCmdLogger* logger) {
-  printArray<T, 2>(stream, any, logger);
-}
-template <Registered T>
-void printArray3(std::ostream& stream, const Any* any, VtlCmdLogger* logger) {
-  printArray<T, 3>(stream, any, logger);
-}
-
 /// Of a value with `arrayDepth` array levels around T, without a bound on the depth; 0 is the text
 /// of a single value. Heads call the elements by the type library's name of the level below.
 template <Registered T>
-void printArrayValue(std::ostream& stream, const Orvel::Value& value, std::size_t arrayDepth,
+void printArrayValue(TextBuilder& text, const Orvel::Value& value, std::size_t arrayDepth,
                      VtlCmdLogger* logger) {
   constexpr ArrayClass arrayClass = valueType<T>().arrayClass;
   if (arrayDepth == 0) {
-    stream << valueToText<T>(value);
+    valueToText<T>(text, value);
     return;
   }
   const Orvel::String typeWord =
@@ -77,22 +63,22 @@ void printArrayValue(std::ostream& stream, const Orvel::Value& value, std::size_
   const std::uint64_t total = array.size();
   const std::uint64_t shown = shownOf(total, *logger);
   if (shown == 0) {
-    writeShortNote(stream, total, typeWord.c_str());
+    writeShortNote(text, total, typeWord.c_str());
     return;
   }
   if constexpr (arrayClass == ArrayClass::summarised) {
     if (arrayDepth == 1) {
-      if (typeWord == valueType<T>().name) printArrayStatistics(stream, *value.getArray<T>());
+      if (typeWord == valueType<T>().name) printArrayStatistics(text, *value.getArray<T>());
       return;
     }
   } else if constexpr (arrayClass == ArrayClass::refused) {
     if (arrayDepth == 1) {
-      writeRefusal(stream, typeWord.c_str());
+      writeRefusal(text, typeWord.c_str());
       return;
     }
   }
-  writeList(stream, shown, total, typeWord.c_str(), [&](std::uint64_t i) {
-    printArrayValue<T>(stream, array.getElement(i), arrayDepth - 1, logger);
+  writeList(text, shown, total, typeWord.c_str(), [&](std::uint64_t i) {
+    printArrayValue<T>(text, array.getElement(i), arrayDepth - 1, logger);
   });
 }
 

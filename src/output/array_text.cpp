@@ -9,12 +9,12 @@ Orvel::String arrayTypeName(const char* baseName, std::uint32_t levels) {
   return name;
 }
 
-void writeShortNote(std::ostream& stream, std::uint64_t total, const char* typeWord) {
-  stream << "(0 out of " << total << " " << typeWord << ")";
+void writeShortNote(TextBuilder& text, std::uint64_t total, const char* typeWord) {
+  text << "(0 out of " << total << " " << typeWord << ")";
 }
 
-void writeRefusal(std::ostream& stream, const char* typeWord) {
-  stream << "{non supported array of " << typeWord << " }";
+void writeRefusal(TextBuilder& text, const char* typeWord) {
+  text << "{non supported array of " << typeWord << " }";
 }
 
 }  // namespace vtlcmd

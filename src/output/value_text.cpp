@@ -7,23 +7,22 @@ namespace {
 
 struct MemberWriter {
   const char* typeName;
-  void (*write)(std::ostream& stream, const Orvel::Value& member);
+  void (*write)(TextBuilder& text, const Orvel::Value& member);
 };
 
 constexpr std::array<MemberWriter, 3> memberWriters{{
-    {"float", [](std::ostream& stream, const Orvel::Value& v) { stream << v.getFloat(); }},
-    {"double", [](std::ostream& stream, const Orvel::Value& v) { stream << v.getDouble(); }},
-    {"int", [](std::ostream& stream, const Orvel::Value& v) { stream << v.getInt(); }},
+    {"float", [](TextBuilder& text, const Orvel::Value& member) { text << member.getFloat(); }},
+    {"double", [](TextBuilder& text, const Orvel::Value& member) { text << member.getDouble(); }},
+    {"int", [](TextBuilder& text, const Orvel::Value& member) { text << member.getInt(); }},
 }};
 
 }  // namespace
 
-std::string structValueToText(const Orvel::Value& value) {
+void structValueToText(TextBuilder& text, const Orvel::Value& value) {
   const Orvel::StructValue structValue(value);
   const Orvel::StructType type = structValue.getType();
   const auto end = type.end();
-  std::ostringstream stream;
-  stream << "{";
+  text << "{";
   for (auto position = type.begin(); position != end;) {
     const Orvel::StructValue::Member member = structValue[position->getName()];
     const Orvel::String typeName = member.getType().getFullyQualifiedName();
@@ -31,13 +30,12 @@ std::string structValueToText(const Orvel::Value& value) {
     const char* separator = position != end ? ", " : "";
     for (const MemberWriter& writer : memberWriters) {
       if (!(typeName == writer.typeName)) continue;
-      writer.write(stream, member);
-      stream << separator;
+      writer.write(text, member);
+      text << separator;
       break;
     }
   }
-  stream << "}";
-  return stream.str();
+  text << "}";
 }
 
 }  // namespace vtlcmd

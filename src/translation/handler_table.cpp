@@ -10,9 +10,9 @@ namespace {
 template <Registered T>
 void registerType(HandlerTable& table) {
   table.byTag[&typeTag<T, 0>] = &reportScalar<T>;
-  table.byTag[&typeTag<T, 1>] = &reportArray1<T>;
-  table.byTag[&typeTag<T, 2>] = &reportArray2<T>;
-  table.byTag[&typeTag<T, 3>] = &reportArray3<T>;
+  table.byTag[&typeTag<T, 1>] = &reportArray<T, 1>;
+  table.byTag[&typeTag<T, 2>] = &reportArray<T, 2>;
+  table.byTag[&typeTag<T, 3>] = &reportArray<T, 3>;
   table.byName[valueType<T>().name] = {&inputSetter<T>, &reportValue<T>};
 }
 

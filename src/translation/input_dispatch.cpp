@@ -1,9 +1,10 @@
 #include <string>
 
+#include "host/store.h"
 #include "host/value_types.h"
-#include "input/set_from_string.h"
 #include "logging/vtlcmd_logger.h"
-#include "output/number_text.h"
+#include "text/joined.h"
+#include "text/text_builder.h"
 #include "translation/null_data.h"
 #include "translation/scene_path.h"
 #include "translation/vtlcmd_type_translation.h"
@@ -14,25 +15,28 @@ namespace {
 using Vantrel::File::Project::SceneInfo;
 using Vantrel::Simulation::Time;
 
+/// For the line of a time, whose numbers have up to thirteen characters.
+constexpr std::size_t usualRoom = 80;
+
 bool setTime(Any& value, const RunContext& context) {
+  TextBuilder line(usualRoom);
   if (context.frameLength <= 0) {
-    context.logger->addMessage(vtlcmdSource, levelError,
-                               "Invalid frame length: " + numberText(context.frameLength));
+    line << "Invalid frame length: " << context.frameLength;
+    context.logger->addMessage(vtlcmdSource, levelError, line.text());
     return false;
   }
-  context.logger->addMessage(vtlcmdSource, levelVerbose,
-                             "Frame: " + numberText(context.frame) +
-                                 " | Time: " + numberText(context.time) +
-                                 "s (fps=" + numberText(1 / context.frameLength) + ")");
-  store(value, Time{1, context.time, context.frame, context.frameLength});
+  line << "Frame: " << context.frame << " | Time: " << context.time
+       << "s (fps=" << 1 / context.frameLength << ")";
+  context.logger->addMessage(vtlcmdSource, levelVerbose, line.text());
+  store(value, makeAny(Time{1, context.time, context.frame, context.frameLength}));
   return true;
 }
 
 bool setSceneInfo(Any& value, const RunContext& context) {
   const ScenePath scene = splitScenePath(context.sceneFile);
-  store(value,
-        SceneInfo{narrowPath(scene.fileName).c_str(), narrowPath(scene.directory).c_str(),
-                  narrowPath(context.secondaryPath).c_str(), !context.secondaryPath.empty()});
+  store(value, makeAny(SceneInfo{
+                   narrowPath(scene.fileName).c_str(), narrowPath(scene.directory).c_str(),
+                   narrowPath(context.secondaryPath).c_str(), !context.secondaryPath.empty()}));
   return true;
 }
 
@@ -48,17 +52,16 @@ constexpr RecordSetter recordSetters[] = {
 };
 
 void refuse(const Orvel::String& typeName, const InputValueData& data) {
-  const std::string port = data.portName->c_str();
-  const std::string type = typeName.c_str();
+  const char* port = data.portName->c_str();
+  const char* type = typeName.c_str();
   VtlCmdLogger& logger = *data.context->logger;
   // The plain port's word has a capital in the first line and none in the second.
+  logger.addMessage(vtlcmdSource, levelProgress,
+                    joined({data.isJobPort ? "Job" : "Input", " port '", port, "' [", type, "]"}));
   logger.addMessage(
-      vtlcmdSource, levelProgress,
-      std::string(data.isJobPort ? "Job" : "Input") + " port '" + port + "' [" + type + "]");
-  logger.addMessage(vtlcmdSource, levelCritical,
-                    "The TypeTranslation does not support setting a value of type '" + type +
-                        "' for the " + (data.isJobPort ? "Job" : "input") + " port named '" + port +
-                        "'.");
+      vtlcmdSource, levelCritical,
+      joined({"The TypeTranslation does not support setting a value of type '", type, "' for the ",
+              data.isJobPort ? "Job" : "input", " port named '", port, "'."}));
 }
 
 }  // namespace

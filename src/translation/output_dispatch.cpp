@@ -1,7 +1,7 @@
 #include <cstddef>
-#include <string>
 
 #include "logging/vtlcmd_logger.h"
+#include "text/joined.h"
 #include "translation/null_data.h"
 #include "translation/vtlcmd_type_translation.h"
 
@@ -24,13 +24,14 @@ bool VtlCmdTypeTranslation::getOutputValue(const Orvel::Value& value, OutputValu
     found->second.reporter(data->portName, value, arrayDepth, logger);
     return true;
   }
-  const std::string port = data->portName->c_str();
+  const char* port = data->portName->c_str();
   const Orvel::String wholeName = value.getType().getFullyQualifiedName();
   logger->addMessage(vtlcmdSource, levelProgress,
-                     "Output port '" + port + "' [" + wholeName.c_str() + "]");
-  logger->addMessage(vtlcmdSource, levelWarning,
-                     std::string("The TypeTranslation does not support getting a value of type '") +
-                         elementName.c_str() + "' for the Terminal output named '" + port + "'.");
+                     joined({"Output port '", port, "' [", wholeName.c_str(), "]"}));
+  logger->addMessage(
+      vtlcmdSource, levelWarning,
+      joined({"The TypeTranslation does not support getting a value of type '", elementName.c_str(),
+              "' for the Terminal output named '", port, "'."}));
   return false;
 }
 

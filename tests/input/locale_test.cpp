@@ -1,10 +1,12 @@
 #include <clocale>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <locale>
-#include <string>
+#include <vector>
 
+#include "support/scoped_locale.h"
 #include "support/test_host.h"
+#include "support/type_samples.h"
+#include "vantrel_geometry/geometry_builder.h"
 
 namespace vtlcmd {
 namespace {
@@ -59,22 +61,53 @@ TEST_F(UnderDecimalComma, ReportsKeepThePoint) {
   EXPECT_THAT(host_.messages(), ElementsAre("progress Output port 'p': (double) 1.5"));
 }
 
-/// The same for streams, whose named locales not every standard library has.
-class GermanNumbers : public std::numpunct<char> {
-  char do_decimal_point() const override { return ','; }
-  char do_thousands_sep() const override { return '.'; }
-  std::string do_grouping() const override { return "\3"; }
+/// The locale of streams is another one.
+class UnderAGroupingGlobalLocale : public ::testing::Test {
+ protected:
+  testing::GroupingLocale locale_;
+  TestHost host_;
 };
 
-TEST(UnderAGroupingGlobalLocale, ReportsTakeItsForm) {
-  const std::locale before =
-      std::locale::global(std::locale(std::locale::classic(), new GermanNumbers));
-  TestHost host;
-  EXPECT_TRUE(host.getAny(makeAny(1.5), "p"));
-  EXPECT_TRUE(host.getAny(makeAny(std::int32_t{1234567}), "q"));
-  std::locale::global(before);
-  EXPECT_THAT(host.messages(), ElementsAre("progress Output port 'p': (double) 1,5",
-                                           "progress Output port 'q': (int) 1.234.567"));
+TEST_F(UnderAGroupingGlobalLocale, ReportsTakeItsForm) {
+  EXPECT_TRUE(host_.getAny(makeAny(1.5), "p"));
+  EXPECT_TRUE(host_.getValue(Orvel::makeValue(Math::float2{{1.5F, 123456}}), "p"));
+  EXPECT_TRUE(host_.getAny(makeAny(std::int32_t{1234567}), "p"));
+  EXPECT_TRUE(host_.getAny(makeAny(testing::arrayOf<double>(std::vector<double>(1000, 0.5))), "p"));
+  EXPECT_THAT(host_.messages(),
+              ElementsAre("progress Output port 'p': (double) 1,5",
+                          "progress Output port 'p': (Math::float2) {1,5, 123.456}",
+                          "progress Output port 'p': (int) 1.234.567",
+                          "progress Output port 'p': (array<double>) (1.000 double)\n"
+                          "  {\n     min: 0,5\n     max: 0,5\n     avg: 0,5\n  }"));
+}
+
+TEST_F(UnderAGroupingGlobalLocale, ListsTakeItsForm) {
+  const std::vector<Orvel::String> texts(1000, "a");
+  host_.logger.printLimit = 1;
+  EXPECT_TRUE(host_.getAny(makeAny(testing::arrayOf<Orvel::String>(texts)), "p"));
+  EXPECT_THAT(host_.messages(), ElementsAre("progress Output port 'p': (array<string>) \n"
+                                            "(1 out of 1.000 string)[\n\"a\" ]\n"));
+}
+
+TEST_F(UnderAGroupingGlobalLocale, ObjectReportsTakeItsForm) {
+  const ObjectPtr object = Vantrel::createObject();
+  Vantrel::Geometry::setComponentProperty(*object, {"points", 6}, 1000);
+  EXPECT_TRUE(host_.getAny(makeAny(object), "p"));
+  EXPECT_THAT(host_.messages(),
+              ElementsAre("progress Output port 'p': (Object) {\n  points: count: 1.000\n}"));
+}
+
+TEST_F(UnderAGroupingGlobalLocale, InputMessagesTakeItsForm) {
+  host_.giveText("p", "1234567");
+  Any value;
+  EXPECT_TRUE(host_.setInput(Orvel::typeOf<std::int32_t>(), value, "p"));
+  host_.context.frame = 1000;
+  EXPECT_TRUE(host_.setInput(Orvel::typeOf<Vantrel::Simulation::Time>(), value, "t"));
+  host_.context.frameLength = -1000.5;
+  EXPECT_FALSE(host_.setInput(Orvel::typeOf<Vantrel::Simulation::Time>(), value, "t"));
+  EXPECT_THAT(host_.messages(), ElementsAre("verbose Set input port 'p': (int) 1.234.567",
+                                            "verbose Frame: 1.000 | Time: 0s (fps=1)",
+                                            "error Invalid frame length: -1.000,5"));
 }
 
 }  // namespace

@@ -1,7 +1,6 @@
 #include "object_report/object_report.h"
 
 #include <gtest/gtest.h>
-#include <sstream>
 #include <string>
 #include <tuple>
 
@@ -9,6 +8,7 @@
 #include "host/value_types.h"
 #include "orvel_sdk/value_factory.h"
 #include "output/statistics/array_statistics.h"
+#include "support/built_text.h"
 #include "support/type_samples.h"
 #include "vantrel_geometry/geometry_builder.h"
 #include "vantrel_object/object_builder.h"
@@ -17,6 +17,17 @@ namespace vtlcmd {
 namespace {
 
 using testing::arrayOf;
+using testing::builtText;
+
+std::string reportOf(const Orvel::Ptr<const Vantrel::Object>& object) {
+  return builtText([&](TextBuilder& text) { objectReport(text, object); });
+}
+std::string reportFromAny(const Any& value) {
+  return builtText([&](TextBuilder& text) { objectReportFromAny(text, value); });
+}
+std::string reportFromValue(const Orvel::Value& value) {
+  return builtText([&](TextBuilder& text) { objectReportFromValue(text, value); });
+}
 
 Orvel::StringView view(const char* text) { return {text, std::char_traits<char>::length(text)}; }
 
@@ -32,7 +43,7 @@ class ObjectReport : public ::testing::Test {
   void addAny(const char* name, const Any& any) {
     Vantrel::Geometry::setDataProperty(*object_, view(name), any);
   }
-  std::string report() { return objectReport(object_); }
+  std::string report() { return reportOf(object_); }
 
   ObjectPtr object_ = Vantrel::createObject();
 };
@@ -59,12 +70,12 @@ TEST_F(ObjectReport, WorkedText) {
 TEST_F(ObjectReport, ObjectWithoutPropertiesIsTwoBraces) { EXPECT_EQ(report(), "{\n}"); }
 
 TEST_F(ObjectReport, NullObjectHasATextOfItsOwn) {
-  EXPECT_EQ(objectReport({}), nullReport);
-  EXPECT_EQ(objectReportFromAny(makeAny(ObjectPtr{})), nullReport);
-  EXPECT_EQ(objectReportFromAny(Any{}), nullReport);
-  EXPECT_EQ(objectReportFromAny(makeAny(std::int32_t{5})), nullReport);
-  EXPECT_EQ(objectReportFromAny(makeAny(arrayOf<ObjectPtr>({object_}))), nullReport);
-  EXPECT_EQ(objectReportFromValue(Orvel::makeValue(ObjectPtr{})), nullReport);
+  EXPECT_EQ(reportOf({}), nullReport);
+  EXPECT_EQ(reportFromAny(makeAny(ObjectPtr{})), nullReport);
+  EXPECT_EQ(reportFromAny(Any{}), nullReport);
+  EXPECT_EQ(reportFromAny(makeAny(std::int32_t{5})), nullReport);
+  EXPECT_EQ(reportFromAny(makeAny(arrayOf<ObjectPtr>({object_}))), nullReport);
+  EXPECT_EQ(reportFromValue(Orvel::makeValue(ObjectPtr{})), nullReport);
 }
 
 TEST_F(ObjectReport, ComponentsStandBeforeDataEachInTheLibrarysOrder) {
@@ -119,8 +130,8 @@ TEST_F(ObjectReport, ReadsAlikeFromAnyAndFromValueAndLeavesTheObjectAlone) {
   addAny("weight", makeAny(array));
   const auto objectUses = Orvel::useCount(object_);
   const auto arrayUses = Orvel::useCount(array);
-  EXPECT_EQ(objectReportFromAny(makeAny(object_)), report());
-  EXPECT_EQ(objectReportFromValue(Orvel::makeValue(object_)), report());
+  EXPECT_EQ(reportFromAny(makeAny(object_)), report());
+  EXPECT_EQ(reportFromValue(Orvel::makeValue(object_)), report());
   EXPECT_EQ(Orvel::useCount(object_), objectUses);
   EXPECT_EQ(Orvel::useCount(array), arrayUses);
 }
@@ -129,9 +140,9 @@ template <typename T>
 class DataProperty : public ::testing::Test {
  protected:
   static std::pair<bool, std::string> print(const Any& value) {
-    std::ostringstream stream;
-    const bool printed = printDataProperty(value, stream, "p");
-    return {printed, stream.str()};
+    TextBuilder text(0);
+    const bool printed = printDataProperty(value, text, "p");
+    return {printed, text.text()};
   }
 };
 
@@ -148,10 +159,10 @@ TYPED_TEST(DataProperty, IsSummarisedUnsupportedOrPassedOverByItsElementType) {
     EXPECT_FALSE(printed);
     EXPECT_EQ(text, "");
   } else if constexpr (Summarised<T>) {
-    std::ostringstream expected;
+    TextBuilder expected(0);
     printNamedArrayStatistics(expected, "p", *arrayOf<T>({T{}}));
     EXPECT_TRUE(printed);
-    EXPECT_EQ(text, expected.str());
+    EXPECT_EQ(text, expected.text());
   } else {
     EXPECT_FALSE(printed);
     EXPECT_EQ(text, "  p: {non supported Data Geo Property}\n");

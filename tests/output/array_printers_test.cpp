@@ -2,12 +2,12 @@
 
 #include <algorithm>
 #include <gtest/gtest.h>
-#include <sstream>
-#include <streambuf>
 #include <string>
 
 #include "orvel_sdk/type_factory.h"
 #include "orvel_sdk/value_factory.h"
+#include "support/allocation_count.h"
+#include "support/built_text.h"
 #include "support/type_samples.h"
 
 namespace vtlcmd {
@@ -24,18 +24,17 @@ template <typename T, std::uint32_t Rank>
 std::string print(const StoredArray<T, Rank>& array, std::uint32_t limit) {
   VtlCmdLogger logger(limit);
   const Any any = makeAny(array);
-  std::ostringstream stream;
-  printArray<T, Rank>(stream, &any, &logger);
+  TextBuilder text(0);
+  printArray<T, Rank>(text, &any, &logger);
   EXPECT_TRUE(logger.messages.empty());
-  return stream.str();
+  return text.text();
 }
 
 template <typename T>
 std::string printValue(const Orvel::Value& value, std::size_t depth, std::uint32_t limit) {
   VtlCmdLogger logger(limit);
-  std::ostringstream stream;
-  printArrayValue<T>(stream, value, depth, &logger);
-  return stream.str();
+  return testing::builtText(
+      [&](TextBuilder& text) { printArrayValue<T>(text, value, depth, &logger); });
 }
 
 std::string note(std::uint64_t shown, std::uint64_t total, const std::string& word) {
@@ -46,19 +45,23 @@ std::string list(const std::string& head, const std::string& elements) {
   return "\n" + head + "[\n" + elements + " ]\n";
 }
 
-/// A sink that looks at an array's use count whenever something is written.
+/// Looks at an array's use count whenever the text that is built grows.
 template <typename T>
-class CountingSink : public std::streambuf {
+class UseCountWatch {
  public:
-  explicit CountingSink(const Orvel::Ptr<Orvel::Array<T>>& array) : array_(array) {}
+  explicit UseCountWatch(const Orvel::Ptr<Orvel::Array<T>>& array) : array_(array) {
+    testing::watchAllocations(
+        [](void* self) {
+          auto& watch = *static_cast<UseCountWatch*>(self);
+          watch.highest_ = std::max(watch.highest_, Orvel::useCount(watch.array_));
+        },
+        this);
+  }
+  UseCountWatch(const UseCountWatch&) = delete;
+  UseCountWatch& operator=(const UseCountWatch&) = delete;
+  ~UseCountWatch() { testing::watchAllocations(nullptr, nullptr); }
 
   std::uint64_t highest() const { return highest_; }
-
- protected:
-  int_type overflow(int_type character) override {
-    highest_ = std::max(highest_, Orvel::useCount(array_));
-    return traits_type::not_eof(character);
-  }
 
  private:
   const Orvel::Ptr<Orvel::Array<T>>& array_;
@@ -82,14 +85,15 @@ class ArrayPrinters : public ::testing::Test {
     std::string texts;
     for (std::uint64_t i = 0; i < shown; ++i) {
       const Any any = makeAny(elements[i]);
-      texts += (i == 0 ? "" : ",\n") + anyToText<T>(&any);
+      texts += (i == 0 ? "" : ",\n") +
+               testing::builtText([&](TextBuilder& text) { anyToText<T>(text, &any); });
     }
     return list(note(shown, elements.size(), name()), texts);
   }
   static std::string statistics(const std::vector<T>& elements) {
-    std::ostringstream stream;
-    if constexpr (Summarised<T>) printArrayStatistics(stream, *arrayOf<T>(elements));
-    return stream.str();
+    TextBuilder text(0);
+    if constexpr (Summarised<T>) printArrayStatistics(text, *arrayOf<T>(elements));
+    return text.text();
   }
 
   std::vector<T> five_{sampleValue<T>(0), sampleValue<T>(1), sampleValue<T>(0), sampleValue<T>(1),
@@ -171,13 +175,15 @@ TYPED_TEST(ArrayPrinters, ArraysAreSharedNotCopied) {
     const Orvel::Value value = Orvel::makeValue(rows);
     const auto before = Orvel::useCount(row);
     VtlCmdLogger logger(10);
-    CountingSink<T> sink(row);
-    std::ostream stream(&sink);
-    printArray2<T>(stream, &any, &logger);
-    EXPECT_GE(sink.highest(), before + 1) << "a reference is held while the row is printed";
-    EXPECT_LE(sink.highest(), before + 3) << "and no more than its holders need";
+    TextBuilder text(0);
+    {
+      const UseCountWatch<T> watch(row);
+      printArray<T, 2>(text, &any, &logger);
+      EXPECT_GE(watch.highest(), before + 2) << "the row's element and its printer hold it";
+      EXPECT_LE(watch.highest(), before + 3) << "and no more than its holders need";
+    }
     EXPECT_EQ(Orvel::useCount(row), before);
-    printArrayValue<T>(stream, value, 2, &logger);
+    printArrayValue<T>(text, value, 2, &logger);
     EXPECT_EQ(Orvel::useCount(row), before);
     EXPECT_EQ(row->data, data);
   }

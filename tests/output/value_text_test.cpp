@@ -8,13 +8,29 @@
 
 #include "orvel_sdk/type_factory.h"
 #include "orvel_sdk/value_factory.h"
+#include "support/built_text.h"
 #include "support/type_samples.h"
 
 namespace vtlcmd {
 namespace {
 
+using testing::builtText;
 using testing::sampleOf;
 using testing::sampleValue;
+
+template <typename T>
+std::string textOfAny(const Any* any) {
+  return builtText([&](TextBuilder& text) { anyToText<T>(text, any); });
+}
+
+template <typename T>
+std::string textOfValue(const Orvel::Value& value) {
+  return builtText([&](TextBuilder& text) { valueToText<T>(text, value); });
+}
+
+std::string textOfStruct(const Orvel::Value& value) {
+  return builtText([&](TextBuilder& text) { structValueToText(text, value); });
+}
 
 template <typename T>
 class ValueText : public ::testing::Test {};
@@ -26,8 +42,8 @@ TYPED_TEST(ValueText, ReadsAlikeFromAnyAndFromValue) {
     const Any any = makeAny(value);
     const char* report =
         which == 0 ? sampleOf<TypeParam>().report : sampleOf<TypeParam>().otherReport;
-    EXPECT_EQ(anyToText<TypeParam>(&any), report);
-    EXPECT_EQ(valueToText<TypeParam>(Orvel::makeValue(value)), report);
+    EXPECT_EQ(textOfAny<TypeParam>(&any), report);
+    EXPECT_EQ(textOfValue<TypeParam>(Orvel::makeValue(value)), report);
   }
 }
 
@@ -35,15 +51,15 @@ TYPED_TEST(ValueText, WithoutAValueTheZeroStandsIn) {
   const Any empty;
   const Any foreign = makeAny(testing::nestedArray<TypeParam, 1>(sampleValue<TypeParam>(0)));
   for (const Any* any : {static_cast<const Any*>(nullptr), &empty, &foreign}) {
-    EXPECT_EQ(anyToText<TypeParam>(any), sampleOf<TypeParam>().zeroReport);
+    EXPECT_EQ(textOfAny<TypeParam>(any), sampleOf<TypeParam>().zeroReport);
   }
 }
 
 template <typename T>
 std::string read(T value) {
   const Any any = makeAny(value);
-  EXPECT_EQ(valueToText<T>(Orvel::makeValue(value)), anyToText<T>(&any));
-  return anyToText<T>(&any);
+  EXPECT_EQ(textOfValue<T>(Orvel::makeValue(value)), textOfAny<T>(&any));
+  return textOfAny<T>(&any);
 }
 
 template <typename T>
@@ -99,8 +115,8 @@ Orvel::Value makeStructOf(const std::vector<Orvel::Value>& members) {
 }
 
 TEST(StructValueToText, WritesMembersByTheirOwnType) {
-  EXPECT_EQ(structValueToText(makeStructOf({})), "{}");
-  EXPECT_EQ(structValueToText(makeStructOf(
+  EXPECT_EQ(textOfStruct(makeStructOf({})), "{}");
+  EXPECT_EQ(textOfStruct(makeStructOf(
                 {Orvel::makeValue(1.5F), Orvel::makeValue(2.25), Orvel::makeValue(-3)})),
             "{1.5, 2.25, -3}");
 }
@@ -108,12 +124,11 @@ TEST(StructValueToText, WritesMembersByTheirOwnType) {
 TEST(StructValueToText, OtherMembersLeaveTheSeparatorBeforeThem) {
   const Orvel::Value other = Orvel::makeValue(Orvel::String("text"));
   const Orvel::Value number = Orvel::makeValue(1.5F);
-  EXPECT_EQ(structValueToText(makeStructOf({number, other})), "{1.5, }");
-  EXPECT_EQ(structValueToText(makeStructOf({other, number})), "{1.5}");
-  EXPECT_EQ(structValueToText(makeStructOf({number, other, number})), "{1.5, 1.5}");
-  EXPECT_EQ(structValueToText(makeStructOf({other})), "{}");
-  EXPECT_EQ(structValueToText(makeStructOf({number, Orvel::makeValue(std::uint32_t{7})})),
-            "{1.5, }");
+  EXPECT_EQ(textOfStruct(makeStructOf({number, other})), "{1.5, }");
+  EXPECT_EQ(textOfStruct(makeStructOf({other, number})), "{1.5}");
+  EXPECT_EQ(textOfStruct(makeStructOf({number, other, number})), "{1.5, 1.5}");
+  EXPECT_EQ(textOfStruct(makeStructOf({other})), "{}");
+  EXPECT_EQ(textOfStruct(makeStructOf({number, Orvel::makeValue(std::uint32_t{7})})), "{1.5, }");
 }
 
 }  // namespace

@@ -6,12 +6,20 @@
 
 namespace {
 std::atomic<std::size_t> allocations;
-}
+void (*watcher)(void*) = nullptr;
+void* watcherState = nullptr;
+}  // namespace
 
 std::size_t vtlcmd::testing::allocationCount() { return allocations; }
 
+void vtlcmd::testing::watchAllocations(void (*atAllocation)(void* state), void* state) {
+  watcher = atAllocation;
+  watcherState = state;
+}
+
 void* operator new(std::size_t size) {
   ++allocations;
+  if (watcher != nullptr) watcher(watcherState);
   if (void* block = std::malloc(size == 0 ? 1 : size)) return block;
   throw std::bad_alloc();
 }

@@ -2,13 +2,13 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <ostream>
 #include <type_traits>
 
 #include "host/imports/orvel_array.h"
 #include "host/imports/orvel_string.h"
 #include "host/value_types.h"
 #include "output/statistics/summary.h"
+#include "text/text_builder.h"
 
 namespace vtlcmd {
 
@@ -22,31 +22,30 @@ concept Summarised = requires {
 namespace array_statistics {
 
 template <typename T>
-void writeValue(std::ostream& stream, T number) {
-  stream << number;
+void writeValue(TextBuilder& text, T number) {
+  text << number;
 }
 
 template <typename Component, std::size_t Count>
-void writeValue(std::ostream& stream, const Math::Vector<Component, Count>& vector) {
+void writeValue(TextBuilder& text, const Math::Vector<Component, Count>& vector) {
   const char* separator = "{";
   for (const Component component : vector.components) {
-    stream << separator << component << "f";
+    text << separator << component << "f";
     separator = ", ";
   }
-  stream << "}";
+  text << "}";
 }
 
 template <typename T>
-void writeLine(std::ostream& stream, const char* word, const T& value) {
-  stream << "     " << word << ": ";
-  writeValue(stream, value);
-  stream << "\n";
+void writeLine(TextBuilder& text, const char* word, const T& value) {
+  text << "     " << word << ": ";
+  writeValue(text, value);
+  text << "\n";
 }
 
 }  // namespace array_statistics
 
-/// Writes the block of count, minimum, maximum and average over all elements, in one pass without
-/// allocation, to a stream in its default state:
+/// Appends the block of count, minimum, maximum and average over all elements:
 ///
 ///   (3 float)
 ///     {
@@ -55,28 +54,28 @@ void writeLine(std::ostream& stream, const char* word, const T& value) {
 ///        avg: 2.66667
 ///     }
 template <Summarised T>
-void printArrayStatistics(std::ostream& stream, const Orvel::Array<T>& array) {
+void printArrayStatistics(TextBuilder& text, const Orvel::Array<T>& array) {
   // The blank in front of this one head is wanted.
-  if constexpr (std::is_same_v<T, bool>) stream << " ";
-  stream << "(" << array.size << " " << valueType<T>().name << ")\n  {\n";
+  if constexpr (std::is_same_v<T, bool>) text << " ";
+  text << "(" << array.size << " " << valueType<T>().name << ")\n  {\n";
   if (array.size == 0) {
-    stream << "empty array...";
+    text << "empty array...";
   } else {
     const Summary<T> summary = summarise(array.data, array.size);
-    array_statistics::writeLine(stream, "min", summary.minimum);
-    array_statistics::writeLine(stream, "max", summary.maximum);
-    array_statistics::writeLine(stream, "avg", summary.average);
+    array_statistics::writeLine(text, "min", summary.minimum);
+    array_statistics::writeLine(text, "max", summary.maximum);
+    array_statistics::writeLine(text, "avg", summary.average);
   }
-  stream << "  }";
+  text << "  }";
 }
 
 /// The block as a line of the object report, behind the property's name. Always true: it printed.
 template <Summarised T>
-bool printNamedArrayStatistics(std::ostream& stream, const Orvel::String& name,
+bool printNamedArrayStatistics(TextBuilder& text, const Orvel::String& name,
                                const Orvel::Array<T>& array) {
-  stream << "  " << name.c_str() << ": ";
-  printArrayStatistics(stream, array);
-  stream << "\n";
+  text << "  " << name.c_str() << ": ";
+  printArrayStatistics(text, array);
+  text << "\n";
   return true;
 }
 

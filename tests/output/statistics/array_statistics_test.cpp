@@ -3,11 +3,11 @@
 #include <cmath>
 #include <gtest/gtest.h>
 #include <limits>
-#include <sstream>
 #include <string>
 #include <vector>
 
 #include "support/allocation_count.h"
+#include "support/built_text.h"
 #include "support/type_samples.h"
 
 namespace vtlcmd {
@@ -22,9 +22,8 @@ using std::uint64_t;
 
 template <typename T>
 std::string statistics(const std::vector<T>& elements) {
-  std::ostringstream stream;
-  printArrayStatistics(stream, *testing::arrayOf<T>(elements));
-  return stream.str();
+  return testing::builtText(
+      [&](TextBuilder& text) { printArrayStatistics(text, *testing::arrayOf<T>(elements)); });
 }
 
 std::string block(const std::string& head, const std::string& minimum, const std::string& maximum,
@@ -79,9 +78,9 @@ TEST(ArrayStatistics, AnyByteOfABoolArrayButZeroIsTrue) {
   bytes[0] = 2;
   bytes[1] = 255;
   bytes[2] = 128;
-  std::ostringstream stream;
-  printArrayStatistics(stream, array);
-  EXPECT_EQ(stream.str(), block(" (3 bool)", "1", "1", "1"));
+  const std::string text =
+      testing::builtText([&](TextBuilder& built) { printArrayStatistics(built, array); });
+  EXPECT_EQ(text, block(" (3 bool)", "1", "1", "1"));
 }
 
 TEST(ArrayStatistics, IntegerAveragesTruncateTowardZero) {
@@ -170,25 +169,17 @@ TYPED_TEST(SummarisedType, EmptyArraySaysSoOnOneLine) {
 }
 
 TYPED_TEST(SummarisedType, NamedBlockIsALineOfTheObjectReport) {
-  std::ostringstream stream;
+  TextBuilder text(0);
   const auto array = testing::arrayOf<TypeParam>({TypeParam{}});
-  EXPECT_TRUE(printNamedArrayStatistics(stream, "name", *array));
-  EXPECT_EQ(stream.str(), "  name: " + statistics<TypeParam>({TypeParam{}}) + "\n");
+  EXPECT_TRUE(printNamedArrayStatistics(text, "name", *array));
+  EXPECT_EQ(text.text(), "  name: " + statistics<TypeParam>({TypeParam{}}) + "\n");
 }
-
-/// Takes what is written and keeps nothing.
-class Discard : public std::streambuf {
- protected:
-  int_type overflow(int_type character) override { return traits_type::not_eof(character); }
-};
 
 TYPED_TEST(SummarisedType, SummariesAllocateNothing) {
   const auto array = testing::arrayOf<TypeParam>(std::vector<TypeParam>(1000));
-  Discard discard;
-  std::ostream stream(&discard);
-  printArrayStatistics(stream, *array);
+  TextBuilder text(1000);
   const std::size_t before = testing::allocationCount();
-  printArrayStatistics(stream, *array);
+  printArrayStatistics(text, *array);
   EXPECT_EQ(testing::allocationCount(), before);
   EXPECT_EQ(Orvel::useCount(array), 1U);
 }

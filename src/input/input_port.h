@@ -1,0 +1,24 @@
+#pragma once
+
+#include <string>
+
+#include "logging/vtlcmd_logger.h"
+#include "text/text_builder.h"
+
+namespace vtlcmd {
+
+/// What the messages about an input or Job port call it. Both texts are terminated and not owned.
+struct InputPort {
+  bool isJobPort;
+  const char* name;
+  const char* typeName;
+
+  /// Starts every message about a text that was given: "Input port 'count' (int): ".
+  std::string prefix() const;
+  /// Says that no text was given, at level verbose.
+  void addNoValueLine(VtlCmdLogger& logger) const;
+  /// "Set input port 'count': (int) ", for the value's text to follow.
+  TextBuilder beginValueLine() const;
+};
+
+}  // namespace vtlcmd

@@ -1,0 +1,84 @@
+#include "text/text_builder.h"
+
+#include <cfenv>
+#include <gtest/gtest.h>
+#include <limits>
+#include <string>
+
+#include "support/built_text.h"
+#include "support/scoped_locale.h"
+
+namespace vtlcmd {
+namespace {
+
+template <TextNumber Number>
+std::string read(Number number) {
+  return testing::builtText([=](TextBuilder& text) { text << number; });
+}
+
+/// Another rounding mode while it lives.
+class RoundingMode {
+ public:
+  explicit RoundingMode(int mode) { std::fesetround(mode); }
+  RoundingMode(const RoundingMode&) = delete;
+  RoundingMode& operator=(const RoundingMode&) = delete;
+  ~RoundingMode() { std::fesetround(FE_TONEAREST); }
+};
+
+TEST(TextBuilder, PiecesFollowEachOther) {
+  TextBuilder text(3);
+  EXPECT_EQ(text.text(), "");
+  text << "(" << std::uint64_t{3} << " out of " << std::string(100, 'x') << ")";
+  EXPECT_EQ(text.text(), "(3 out of " + std::string(100, 'x') + ")");
+}
+
+TEST(TextBuilder, IntegersReadInFullAndBoolsAsDigits) {
+  EXPECT_EQ(read(true), "1");
+  EXPECT_EQ(read(false), "0");
+  EXPECT_EQ(read(std::numeric_limits<std::int16_t>::min()), "-32768");
+  EXPECT_EQ(read(std::numeric_limits<std::uint16_t>::max()), "65535");
+  EXPECT_EQ(read(std::numeric_limits<std::int32_t>::min()), "-2147483648");
+  EXPECT_EQ(read(std::numeric_limits<std::uint32_t>::max()), "4294967295");
+  EXPECT_EQ(read(std::numeric_limits<std::int64_t>::min()), "-9223372036854775808");
+  EXPECT_EQ(read(std::numeric_limits<std::uint64_t>::max()), "18446744073709551615");
+}
+
+TEST(TextBuilder, FloatingNumbersReadWithSixDigits) {
+  EXPECT_EQ(read(0.1F), "0.1");
+  EXPECT_EQ(read(1234567.0), "1.23457e+06");
+  EXPECT_EQ(read(-1.2345678e-300), "-1.23457e-300");
+  EXPECT_EQ(read(-0.0), "-0");
+  EXPECT_EQ(read(-std::numeric_limits<float>::infinity()), "-inf");
+}
+
+TEST(TextBuilder, GlobalLocaleOfTheTextsBeginApplies) {
+  TextBuilder before(0);
+  {
+    const testing::GroupingLocale locale;
+    before << 1.5;
+    EXPECT_EQ(read(std::uint64_t{1234567}), "1.234.567");
+    EXPECT_EQ(read(std::int16_t{-12345}), "-12.345");
+    EXPECT_EQ(read(2.5), "2,5");
+    EXPECT_EQ(read(123456.0F), "123.456");
+    EXPECT_EQ(read(true), "1");
+  }
+  EXPECT_EQ(before.text(), "1.5");
+  EXPECT_EQ(read(1234567), "1234567");
+}
+
+#if !defined(_WIN32)  // whose C library prints alike in all modes
+TEST(TextBuilder, RoundingModeApplies) {
+  constexpr double justAbove = 1.0000011;
+  EXPECT_EQ(read(justAbove), "1");
+  {
+    const RoundingMode mode(FE_UPWARD);
+    EXPECT_EQ(read(justAbove), "1.00001");
+    EXPECT_EQ(read(-justAbove), "-1");
+  }
+  const RoundingMode mode(FE_DOWNWARD);
+  EXPECT_EQ(read(-justAbove), "-1.00001");
+}
+#endif
+
+}  // namespace
+}  // namespace vtlcmd
