@@ -1,13 +1,16 @@
 #include "logging/run_report.h"
 
+#include <utility>
+
 #include "logging/vtlcmd_logger.h"
 
 namespace vtlcmd {
 
 void VtlCmdLogger::beginGroup(const std::string& name) {
+  std::string ownName = name;
   groups.emplace_back();
   currentGroupIndex = groups.size() - 1;
-  groups.back().name = name;
+  groups.back().name = std::move(ownName);
   currentEntryIndex = noCurrent;
 }
 
@@ -17,12 +20,13 @@ void VtlCmdLogger::endGroup() noexcept {
 }
 
 void VtlCmdLogger::beginEntry(const RunDescription& description) {
+  RunDescription ownDescription = description;
   ReportEntry* target = &fallbackEntry;
   if (ReportGroup* group = currentGroup()) {
     target = &group->entries.emplace_back();
     currentEntryIndex = group->entries.size() - 1;
   }
-  static_cast<RunDescription&>(*target) = description;
+  static_cast<RunDescription&>(*target) = std::move(ownDescription);
 }
 
 void VtlCmdLogger::endEntry() noexcept { currentEntryIndex = noCurrent; }

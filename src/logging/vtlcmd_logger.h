@@ -42,7 +42,7 @@ struct LogMessage {
 ///
 /// No lock and no thread: calls on one logger must not overlap. Records live in vectors, so a
 /// reference to one is valid until the next append to the same vector. Fields up to `errorCount`
-/// have offsets that both sides rely on.
+/// have offsets that both sides rely on. What is passed in may be a part of the report itself.
 class VtlCmdLogger {
  public:
   /// The index of no group and no entry. It is out of range like any stale index.

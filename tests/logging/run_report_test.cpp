@@ -60,6 +60,27 @@ TEST_F(RunReport, WithoutAGroupReportsLandInTheFallbackEntry) {
   EXPECT_TRUE(report.valueShown);
 }
 
+TEST_F(RunReport, PartsOfTheReportMayNameAndDescribeWhatComesNext) {
+  const std::string longName(100, 'n');
+  logger.beginGroup(longName);
+  logger.beginEntry(describe("graph"));
+  for (int i = 0; i < 20; ++i) {
+    logger.beginEntry(logger.currentEntry());
+    expectDescribed(logger.currentEntry(), "graph");
+  }
+  for (int i = 0; i < 20; ++i) {
+    ASSERT_NE(logger.currentGroup(), nullptr);
+    logger.beginGroup(logger.currentGroup()->name);
+    EXPECT_EQ(logger.groups.back().name, longName);
+  }
+}
+
+TEST_F(RunReport, AnEntryMayDescribeTheFallbackEntryAndBackAgain) {
+  logger.beginEntry(describe("graph"));
+  logger.beginEntry(logger.fallbackEntry);
+  expectDescribed(logger.fallbackEntry, "graph");
+}
+
 TEST_F(RunReport, InAGroupWithoutEntryReportsAndMessagesPart) {
   logger.beginGroup("group");
   logger.reportOutputValue("result", "int", "42");
@@ -188,6 +209,91 @@ TEST_F(RunReport, GroupFlagsNeedAGroup) {
   EXPECT_TRUE(logger.groups[0].loaded);
   logger.setFinished(true);
   EXPECT_TRUE(logger.groups[0].finished);
+}
+
+TEST_F(RunReport, AnIndexEqualToTheSizeIsOutOfRange) {
+  logger.currentGroupIndex = 0;
+  EXPECT_EQ(logger.currentGroup(), nullptr);
+  logger.beginGroup("group");
+  logger.currentEntryIndex = 0;
+  EXPECT_EQ(&logger.currentEntry(), &logger.fallbackEntry);
+  EXPECT_EQ(&logger.messagesFor(0, 0), &logger.groups[0].messages);
+  EXPECT_EQ(&logger.messagesFor(1, 0), &logger.fallbackEntry.messages);
+}
+
+TEST_F(RunReport, EachOfTheFourFlagsIsNeeded) {
+  for (int missing = 0; missing < 4; ++missing) {
+    ReportEntry entry;
+    bool* flags[] = {&entry.inputsSet, &entry.executed, &entry.outputsReported,
+                     &entry.withoutErrors};
+    for (int flag = 0; flag < 4; ++flag) *flags[flag] = flag != missing;
+    EXPECT_FALSE(entry.succeeded()) << missing;
+    *flags[missing] = true;
+    EXPECT_TRUE(entry.succeeded());
+  }
+}
+
+TEST_F(RunReport, FlagSettersSetAndClearTheirOwnFlag) {
+  struct Row {
+    void (VtlCmdLogger::*set)(bool) noexcept;
+    bool ReportEntry::*flag;
+  };
+  const Row rows[] = {{&VtlCmdLogger::setInputsSet, &ReportEntry::inputsSet},
+                      {&VtlCmdLogger::setExecuted, &ReportEntry::executed},
+                      {&VtlCmdLogger::setOutputsReported, &ReportEntry::outputsReported},
+                      {&VtlCmdLogger::setWithoutErrors, &ReportEntry::withoutErrors},
+                      {&VtlCmdLogger::setInterrupted, &ReportEntry::interrupted}};
+  for (const Row& row : rows) {
+    for (const bool value : {true, false}) {
+      (logger.*row.set)(value);
+      for (const Row& other : rows) {
+        EXPECT_EQ(logger.currentEntry().*other.flag, value && other.flag == row.flag);
+      }
+    }
+  }
+  logger.setLoaded(true);
+  logger.beginGroup("group");
+  EXPECT_FALSE(logger.groups[0].loaded || logger.groups[0].finished);
+  logger.setLoaded(true);
+  EXPECT_TRUE(logger.groups[0].loaded && !logger.groups[0].finished);
+  logger.setFinished(true);
+  logger.setLoaded(false);
+  EXPECT_TRUE(!logger.groups[0].loaded && logger.groups[0].finished);
+  logger.setFinished(false);
+  EXPECT_FALSE(logger.groups[0].finished);
+}
+
+TEST_F(RunReport, AnEmptyTextCanBeShown) {
+  logger.reportOutputValue("result", "array<int>", "");
+  const auto found = logger.fallbackEntry.outputs.find("result");
+  ASSERT_NE(found, logger.fallbackEntry.outputs.end());
+  EXPECT_TRUE(found->second.valueShown);
+}
+
+TEST_F(RunReport, GroupMayEndWithAnEntryOpen) {
+  {
+    const GroupScope group(logger, "group");
+    logger.beginEntry({});
+  }
+  EXPECT_EQ(logger.currentGroup(), nullptr);
+  EXPECT_EQ(logger.currentEntryIndex, VtlCmdLogger::noCurrent);
+}
+
+TEST_F(RunReport, EntryStartsWithEveryFlagFalseAndEveryNumberZero) {
+  const ReportEntry entry;
+  EXPECT_FALSE(entry.inputsSet || entry.executed || entry.outputsReported || entry.withoutErrors ||
+               entry.interrupted);
+  EXPECT_EQ(entry.frameIndex + entry.frameCount + entry.printLimit + entry.verbosity, 0U);
+  EXPECT_EQ(entry.inputCount + entry.outputCount + entry.throughAny, 0U);
+}
+
+TEST_F(RunReport, MessagesKeepStaleIndicesUnchanged) {
+  logger.currentGroupIndex = 7;
+  logger.currentEntryIndex = 9;
+  logger.addMessage(vtlcmdSource, levelDebug, "text");
+  ASSERT_EQ(logger.messages.size(), 1U);
+  EXPECT_EQ(logger.messages[0].groupIndex, 7U);
+  EXPECT_EQ(logger.messages[0].entryIndex, 9U);
 }
 
 }  // namespace
