@@ -11,12 +11,13 @@ namespace vtlcmd {
 ///
 /// The host gets one from `createVantrelTypeTranslation` and gives it up through `destroy`. It has
 /// to go before the library is unloaded.
-class VtlCmdTypeTranslation final : public VantrelGraph::Executor::TypeTranslationPreview {
+class VtlCmdTypeTranslation : public VantrelGraph::Executor::TypeTranslationPreview {
  public:
   VtlCmdTypeTranslation();
   ~VtlCmdTypeTranslation() override;
 
-  /// Deletes the object; does nothing for a null one. [any thread]
+  /// Deletes the object through slot 0 of its table, whatever a host has put there; does nothing
+  /// for a null one. [any thread]
   void destroy() override;
 
   /// Appends the fifteen registered names in the order of the table, then the two records'. What

@@ -1,5 +1,7 @@
 #include "translation/vtlcmd_type_translation.h"
 
+#include <algorithm>
+#include <array>
 #include <gtest/gtest.h>
 #include <string>
 #include <vector>
@@ -73,6 +75,49 @@ TEST(CreateVantrelTypeTranslation, GivesObjectsThatShareTheTable) {
   second->getSupportedTypeNames(names);
   EXPECT_EQ(names.size, 17U) << "the table stays when an object goes";
   second->destroy();
+}
+
+/// The function table of an object whose deleting entry only counts its calls.
+class CountingTable {
+ public:
+  explicit CountingTable(TypeTranslation* object) : object_(object), own_(tableOf(object)) {
+    std::copy_n(own_ - wordsInFront, entries_.size(), entries_.begin());
+    entries_[wordsInFront + deletingEntry] = reinterpret_cast<const void*>(&count);
+    deleted = nullptr;
+    tableOf(object) = entries_.data() + wordsInFront;
+  }
+  CountingTable(const CountingTable&) = delete;
+  CountingTable& operator=(const CountingTable&) = delete;
+  ~CountingTable() { tableOf(object_) = own_; }
+
+  static inline const void* deleted = nullptr;
+
+ private:
+  /// Offset and type information stand in front of the entries, of which a virtual destructor has
+  /// two; the second one deletes.
+  static constexpr std::size_t wordsInFront = 2;
+  static constexpr std::size_t deletingEntry = 1;
+  static constexpr std::size_t entryCount = 13;
+
+  static void count(const void* object) { deleted = object; }
+  static const void* const*& tableOf(TypeTranslation* object) {
+    return *reinterpret_cast<const void* const**>(object);
+  }
+
+  TypeTranslation* object_;
+  const void* const* own_;
+  std::array<const void*, wordsInFront + entryCount> entries_;
+};
+
+TEST(VtlCmdTypeTranslation, DestroyDeletesThroughTheTable) {
+  TypeTranslation* object = createVantrelTypeTranslation();
+  ASSERT_NE(object, nullptr);
+  {
+    const CountingTable table(object);
+    object->destroy();
+    ASSERT_EQ(CountingTable::deleted, object);
+  }
+  object->destroy();
 }
 
 }  // namespace
