@@ -3,8 +3,8 @@
 #include <string>
 #include <vector>
 
-#include "output/number_text.h"
 #include "rows/rows.h"
+#include "text/text_builder.h"
 
 namespace vtlcmd::bench {
 namespace {
@@ -46,7 +46,9 @@ TimedRow row(const char* typeName) {
   row.elements = setup->numbers.size();
   row.subject = [setup](std::size_t calls) {
     for (std::size_t i = 0; i < calls; ++i) {
-      for (const Number number : setup->numbers) setup->characters += numberText(number).size();
+      TextBuilder text(setup->numbers.size() * 13);
+      for (const Number number : setup->numbers) text << number;
+      setup->characters += text.text().size();
     }
   };
   row.limit = [setup](std::size_t calls) {
