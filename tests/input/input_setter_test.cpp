@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <new>
 #include <string>
 #include <vector>
 
@@ -186,6 +187,101 @@ TEST(InputSetterOfFloat3, WorkedMessages) {
                           "value from '1,2': invalid number of vector components",
                           "error Input port 'pos' (Math::float3): Unable to convert 'x' to a "
                           "float value."));
+}
+
+/// A shared array that, when it ends, looks at what a result holds by then.
+class EndWatch : public Orvel::Internal::ControlBlock {
+ public:
+  explicit EndWatch(const Any& result) : result_(result) {}
+  virtual ~EndWatch() = default;
+
+  Any holder() { return makeAny(StoredArray<float, 1>(&array_, this)); }
+  bool resultHeldItsNewValue() const { return heldNewValue_; }
+
+  void librarySlot() noexcept override {}
+  void endObject() noexcept override {
+    heldNewValue_ = result_.holdsValue() && anyCast<StoredArray<float, 1>>(&result_) == nullptr;
+  }
+
+ private:
+  const Any& result_;
+  Orvel::Array<float> array_;
+  bool heldNewValue_ = false;
+};
+
+TYPED_TEST(InputSetter, OldValueEndsLast) {
+  const bool hasText = !std::is_same_v<TypeParam, ObjectPtr>;
+  for (const bool giveText : {false, hasText}) {
+    for (const bool giveDefault : {false, true}) {
+      TestHost host;
+      if (giveText) host.giveText("p", sampleOf<TypeParam>().text);
+      Any value;
+      EndWatch watch(value);
+      value = watch.holder();
+      const Any defaultValue = giveDefault ? makeAny(sampleValue<TypeParam>(1)) : Any{};
+      EXPECT_TRUE(host.setInput(Orvel::typeOf<TypeParam>(), value, "p", false, defaultValue));
+      EXPECT_TRUE(watch.resultHeldItsNewValue());
+    }
+  }
+}
+
+TYPED_TEST(InputSetter, ResultMayBeItsOwnDefault) {
+  TestHost host;
+  const Orvel::String name = "p";
+  const TypeParam sample = sampleValue<TypeParam>(1);
+  Any value = makeAny(sample);
+  inputSetter<TypeParam>(&name, false, Orvel::typeOf<TypeParam>(), &host.inputValues,
+                         &host.jobValues, &value, &value, &host.logger);
+  const auto* held = anyCast<TypeParam>(&value);
+  ASSERT_NE(held, nullptr);
+  if constexpr (std::is_same_v<TypeParam, ObjectPtr>) {
+    EXPECT_EQ(held->get(), sample.get());
+  } else {
+    EXPECT_EQ(*held, sample);
+  }
+}
+
+/// A manager whose values can't be copied.
+void refuseCopies(AnyOpArgs* args) {
+  if (args->op == AnyOp::copy) throw std::bad_alloc();
+  if (args->op == AnyOp::destroy) args->self->manager = nullptr;
+}
+
+TEST(InputSetterOfInt, DefaultThatCannotBeCopiedLeavesTheResult) {
+  TestHost host;
+  const Orvel::String name = "p";
+  Any defaultValue;
+  defaultValue.manager = &refuseCopies;
+  Any value = makeAny(std::int32_t{5});
+  EXPECT_THROW(
+      inputSetter<std::int32_t>(&name, false, Orvel::typeOf<std::int32_t>(), &host.inputValues,
+                                &host.jobValues, &defaultValue, &value, &host.logger),
+      std::bad_alloc);
+  const auto* held = anyCast<std::int32_t>(&value);
+  ASSERT_NE(held, nullptr);
+  EXPECT_EQ(*held, 5);
+}
+
+TEST(InputSetterOfInt, TextEndsAtItsFirstNul) {
+  TestHost host;
+  host.inputValues.insert("p", {"", Orvel::String(Orvel::StringView{"12\0x", 4})});
+  Any value;
+  EXPECT_TRUE(host.setInput(Orvel::typeOf<std::int32_t>(), value, "p"));
+  EXPECT_THAT(host.messages(), ElementsAre("verbose Set input port 'p': (int) 12"));
+}
+
+TEST(InputSetterOfObject, EveryPortWithoutDefaultGetsANewObject) {
+  TestHost host;
+  Any first;
+  Any second;
+  EXPECT_TRUE(host.setInput(Orvel::typeOf<ObjectPtr>(), first, "a"));
+  EXPECT_TRUE(host.setInput(Orvel::typeOf<ObjectPtr>(), second, "b"));
+  const auto* one = anyCast<ObjectPtr>(&first);
+  const auto* other = anyCast<ObjectPtr>(&second);
+  ASSERT_TRUE(one != nullptr && other != nullptr);
+  EXPECT_NE(one->get(), other->get());
+  EXPECT_EQ(Orvel::useCount(*one), 1U);
+  EXPECT_EQ(Orvel::useCount(*other), 1U);
 }
 
 TEST(InputSetterOfObject, DefaultIsShared) {

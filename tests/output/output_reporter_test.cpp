@@ -1,9 +1,12 @@
 #include "output/output_reporter.h"
 
+#include <exception>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <new>
 #include <string>
 
+#include "support/allocation_count.h"
 #include "support/test_host.h"
 #include "support/type_samples.h"
 
@@ -237,12 +240,67 @@ TYPED_TEST(OutputReporterOf, EmptyAnyReadsAsZero) {
   EXPECT_EQ(reportedBy(host, true).record.valueText, sampleOf<TypeParam>().zeroReport);
 }
 
+TYPED_TEST(OutputReporterOf, AnyOfAnotherTypeReadsAsZero) {
+  TestHost host;
+  const Orvel::String name = "result";
+  const Any foreign = makeAny(nestedArray<TypeParam, 1>(sampleValue<TypeParam>(0)));
+  reportScalar<TypeParam>(&name, foreign, &host.logger);
+  EXPECT_EQ(reportedBy(host, true).record.valueText, sampleOf<TypeParam>().zeroReport);
+}
+
 TYPED_TEST(OutputReporterOf, SuppressedArrayIsNotLookedAt) {
   // A null array would be read through if anything opened it.
-  const Any null = makeAny(StoredArray<TypeParam, 1>{});
+  const Any nulls[] = {makeAny(StoredArray<TypeParam, 1>{}), makeAny(StoredArray<TypeParam, 2>{}),
+                       makeAny(StoredArray<TypeParam, 3>{})};
+  std::string typeName = valueType<TypeParam>().name;
+  for (const Any& null : nulls) {
+    typeName = "array<" + typeName + ">";
+    TestHost host(0);
+    this->expectReport(host, host.getAny(null, "result"), typeName);
+  }
+}
+
+TEST(OutputReporter, ValuesTypeWordIsTheLibrarysOwn) {
   TestHost host(0);
-  this->expectReport(host, host.getAny(null, "result"),
-                     "array<" + std::string(valueType<TypeParam>().name) + ">");
+  const Orvel::String name = "result";
+  reportValue<std::int32_t>(&name, Orvel::makeValue(1.5F), 0, &host.logger);
+  EXPECT_THAT(host.messages(),
+              ElementsAre("progress Output port 'result': (float output suppressed)"));
+}
+
+TEST(OutputReporter, LibrarysExceptionsPassAndNothingIsRecorded) {
+  TestHost host;
+  const Orvel::String name = "result";
+  EXPECT_THROW(reportValue<std::int32_t>(&name, Orvel::makeValue(1.5F), 0, &host.logger),
+               std::exception);
+  EXPECT_TRUE(host.logger.messages.empty());
+  EXPECT_TRUE(host.logger.fallbackEntry.outputs.empty());
+}
+
+/// Fails the allocation after `left` that succeed.
+void failOneAllocation(void* left) {
+  if ((*static_cast<std::size_t*>(left))-- == 0) throw std::bad_alloc();
+}
+
+TYPED_TEST(OutputReporterOf, RecordComesBeforeTheMessageWhateverAllocationFails) {
+  const Orvel::String name = "a port with a name that is too long to be kept in place";
+  const Any any = makeAny(nestedArray<TypeParam, 1>(sampleValue<TypeParam>(0)));
+  bool failed = true;
+  std::size_t recordsWithoutMessage = 0;
+  for (std::size_t successes = 0; failed; ++successes) {
+    VtlCmdLogger logger(10);
+    std::size_t left = successes;
+    testing::watchAllocations(&failOneAllocation, &left);
+    try {
+      reportArray<TypeParam, 1>(&name, any, &logger);
+      failed = false;
+    } catch (const std::bad_alloc&) {
+    }
+    testing::watchAllocations(nullptr, nullptr);
+    EXPECT_EQ(logger.messages.size(), failed ? 0U : 1U);
+    if (failed && !logger.fallbackEntry.outputs.empty()) ++recordsWithoutMessage;
+  }
+  EXPECT_GT(recordsWithoutMessage, 0U);
 }
 
 }  // namespace
