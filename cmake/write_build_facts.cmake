@@ -34,8 +34,12 @@ list(GET version 0 major)
 list(GET version 1 minor)
 list(GET version 2 patch)
 list(GET version 3 fourth)
-# SOURCE_DATE_EPOCH is honoured, for builds that must be reproduced.
-string(TIMESTAMP date "%a %m/%d/%Y, %Y%m%d%H%M")
+# SOURCE_DATE_EPOCH is honoured, for builds that must be reproduced: in UTC, wherever they are made.
+set(zone "")
+if(DEFINED ENV{SOURCE_DATE_EPOCH})
+  set(zone UTC)
+endif()
+string(TIMESTAMP date "%a %m/%d/%Y, %Y%m%d%H%M" ${zone})
 
 file(WRITE ${HEADER} "#pragma once
 

@@ -28,8 +28,15 @@ std::string buildBanner();
 /// True when the environment variable exists and begins with a number other than 0.
 bool envFlag(const char* name);
 
+/// Whether the process has an error stream to write to.
+bool hasErrorStream();
+
 /// Writes the banner line to the process's error stream when QUILLON_DUMP_VERSION_INFO asks for it
 /// and there is a stream to write to. Returns whether it did.
 bool dumpVersionInfo();
+
+/// What `dumpVersionInfo` returned while the library was loaded. Nothing in the library reads it;
+/// it is for whoever looks at the process.
+extern bool versionInfoDumped;
 
 }  // namespace vtlcmd::build_identity

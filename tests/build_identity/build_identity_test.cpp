@@ -1,6 +1,7 @@
 #include "build_identity/build_identity.h"
 
 #include <gtest/gtest.h>
+#include <iostream>
 #include <regex>
 #include <string>
 
@@ -64,6 +65,26 @@ TEST(DumpVersionInfo, WritesOneLineWhenAskedTo) {
   setEnvironment("QUILLON_DUMP_VERSION_INFO", nullptr);
   EXPECT_FALSE(dumpVersionInfo());
   EXPECT_EQ(::testing::internal::GetCapturedStderr(), "");
+}
+
+TEST(DumpVersionInfo, LineBeginsAtTheLeftEdgeWhateverWidthTheStreamHas) {
+  setEnvironment("QUILLON_DUMP_VERSION_INFO", "1");
+  ::testing::internal::CaptureStderr();
+  std::cerr.width(150);
+  EXPECT_TRUE(dumpVersionInfo());
+  EXPECT_EQ(std::cerr.width(), 0);
+  EXPECT_EQ(::testing::internal::GetCapturedStderr(), "VtlCmdTranslation: " + buildBanner() + "\n");
+  setEnvironment("QUILLON_DUMP_VERSION_INFO", nullptr);
+}
+
+TEST(VersionInfoDumped, IsSetOnceAtTheStart) {
+  EXPECT_FALSE(versionInfoDumped);
+  setEnvironment("QUILLON_DUMP_VERSION_INFO", "1");
+  ::testing::internal::CaptureStderr();
+  EXPECT_TRUE(dumpVersionInfo());
+  ::testing::internal::GetCapturedStderr();
+  EXPECT_FALSE(versionInfoDumped) << "of the load, not of a later call";
+  setEnvironment("QUILLON_DUMP_VERSION_INFO", nullptr);
 }
 
 TEST(DumpVersionInfo, IsSilentWithoutAnErrorStream) {
