@@ -1,6 +1,7 @@
 #include "command_line/version_text.h"
 
 #include "build_facts.h"
+#include "readers/archive.h"
 #include "readers/mesh_import.h"
 
 namespace vtlcmd::runner {
@@ -11,7 +12,7 @@ std::string versionText() {
   return "vtlcmd " + std::string(majorVersion) + dot + minorVersion + dot + patchVersion + dot +
          fourthVersion + "\ndate         " + buildDate + "\nbuild        " + buildNumber +
          "\ncommit       " + commit + "\nbranch       " + branch + "\nmesh reader  " +
-         meshReaderName();
+         meshReaderName() + "\narchives     " + archiveReaderName();
 }
 
 }  // namespace vtlcmd::runner

@@ -20,13 +20,41 @@ NpyForm formFor(const ValueType& type) {
   return form;
 }
 
+/// A path like scan.npz/positions names one of a file's values.
+struct ValuePath {
+  std::filesystem::path file;
+  std::string name;
+};
+
+ValuePath valuePathFrom(const std::filesystem::path& path) {
+  std::error_code error;
+  const std::filesystem::path file = path.parent_path();
+  if (!std::filesystem::is_regular_file(file, error)) return {path, {}};
+  return {file, fileText(path.filename())};
+}
+
+/// The value of a name, the only one if the name is empty.
+DataValue takeNamed(std::vector<DataValue> values, const ValuePath& path) {
+  if (path.name.empty() && values.size() == 1) return std::move(values[0]);
+  std::string names;
+  for (DataValue& value : values) {
+    if (!path.name.empty() && value.name == path.name) return std::move(value);
+    if (!value.name.empty()) names += (names.empty() ? "" : ", ") + inQuotes(value.name);
+  }
+  const std::string file = fileText(path.file);
+  if (names.empty()) throw NodeError(file + " has one value without a name");
+  throw NodeError(file + " holds " + names + "; one of them is to be named, like " + file + "/" +
+                  values.back().name);
+}
+
 Orvel::Value readArray(const NodeCall& call) {
-  const std::filesystem::path file = fileArgument(call);
-  std::vector<DataValue> values = readArrays(file, formFor(call.resultType));
-  const std::string type = values.at(0).value.getType().getFullyQualifiedName().c_str();
+  const std::filesystem::path path = fileArgument(call);
+  const ValuePath wanted = valuePathFrom(path);
+  DataValue data = takeNamed(readArrays(wanted.file, formFor(call.resultType)), wanted);
+  const std::string type = data.value.getType().getFullyQualifiedName().c_str();
   if (type != nameOf(call.resultType))
-    throw NodeError(fileText(file) + " holds " + type + ", not " + nameOf(call.resultType));
-  return std::move(values.at(0).value);
+    throw NodeError(fileText(path) + " holds " + type + ", not " + nameOf(call.resultType));
+  return std::move(data.value);
 }
 
 const std::vector<Parameter> path{{"path", &type_classes::path}};
@@ -35,7 +63,8 @@ const NodeOperation table[] = {
     {"read_npy", path, NodeSetting::type, [](const NodeTypes& types) { return *types.declared; },
      readArray,
      "The array in a NumPy file, which must be of the given type. Vectors are made of a last "
-     "dimension of 2 to 4 floats."},
+     "dimension of 2 to 4 floats. FILE.npz/NAME is an array in an archive of such files, and "
+     "FILE.csv/NAME a column of a table."},
     {"read_mesh", path, NodeSetting::none,
      [](const NodeTypes&) {
        return ValueType{valueType<ObjectPtr>().name, 0};

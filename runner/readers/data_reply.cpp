@@ -38,7 +38,8 @@ std::string readName(ByteSource& source) {
 class Payload final : public ByteSource {
  public:
   Payload(ByteSource& source, std::uint64_t size) : source_(source), left_(size) {
-    if (size > source.remaining()) throwBroken();
+    if (size > source.remaining())
+      throw ReadError("it holds more than may be read (--read-memory)");
   }
 
   std::size_t read(std::span<unsigned char> bytes) override {
@@ -54,6 +55,14 @@ class Payload final : public ByteSource {
   ByteSource& source_;
   std::uint64_t left_;
 };
+
+NpyArray parseArray(const std::string& name, ByteSource& payload, NpyForm form) {
+  try {
+    return parseNpy(payload, form);
+  } catch (const ReadError& error) {
+    throw ReadError(name.empty() ? error.what() : inQuotes(name) + " in it: " + error.what());
+  }
+}
 
 }  // namespace
 
@@ -80,7 +89,7 @@ std::vector<DataValue> parseReply(ByteSource& messages, NpyForm form) {
         break;
       }
       case DataMessage::array: {
-        NpyArray array = parseNpy(payload, form);
+        NpyArray array = parseArray(name, payload, form);
         values.push_back({name, std::move(array.value), std::move(array.description)});
         break;
       }

@@ -1,13 +1,11 @@
 #include "readers/data_writer.h"
 
-#include <algorithm>
 #include <array>
 #include <ostream>
 #include <type_traits>
 #include <vector>
 
 #include "readers/npy_header.h"
-#include "readers/read_error.h"
 
 namespace vtlcmd::runner {
 namespace {
@@ -42,23 +40,17 @@ void DataWriter::writeArray(DataMessage kind, std::string_view name, std::string
   const std::string header = npyHeader(descriptor, shape);
   begin(kind, name, header.size() + elements.size());
   stream_ << header;
-  stream_.write(reinterpret_cast<const char*>(elements.data()),
-                static_cast<std::streamsize>(elements.size()));
+  writeBytes(elements);
 }
 
-void DataWriter::writeArrayFile(std::string_view name, ByteSource& file) {
-  std::uint64_t left = file.remaining();
-  begin(DataMessage::array, name, left);
-  std::array<unsigned char, 1 << 16> block;
-  while (left > 0) {
-    const std::size_t wanted =
-        static_cast<std::size_t>(std::min<std::uint64_t>(left, block.size()));
-    if (file.read(std::span(block).first(wanted)) < wanted)
-      throw ReadError("the file is cut short");
-    stream_.write(reinterpret_cast<const char*>(block.data()),
-                  static_cast<std::streamsize>(wanted));
-    left -= wanted;
-  }
+void DataWriter::writeArrayFile(std::string_view name, std::span<const unsigned char> file) {
+  begin(DataMessage::array, name, file.size());
+  writeBytes(file);
+}
+
+void DataWriter::writeBytes(std::span<const unsigned char> bytes) {
+  stream_.write(reinterpret_cast<const char*>(bytes.data()),
+                static_cast<std::streamsize>(bytes.size()));
 }
 
 void DataWriter::writeMesh(const MeshData& mesh) {

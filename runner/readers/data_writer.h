@@ -5,7 +5,6 @@
 #include <span>
 #include <string_view>
 
-#include "readers/byte_source.h"
 #include "readers/data_message.h"
 #include "readers/mesh_data.h"
 
@@ -19,8 +18,8 @@ class DataWriter {
 
   void writeMesh(const MeshData& mesh);
 
-  /// An array file of the source's remaining bytes. Throws ReadError when it has fewer after all.
-  void writeArrayFile(std::string_view name, ByteSource& file);
+  /// A value in the bytes of an array file, which the receiver checks.
+  void writeArrayFile(std::string_view name, std::span<const unsigned char> file);
 
   /// An array of `shape`, whose elements have the type that the descriptor without its order names.
   void writeArray(DataMessage kind, std::string_view name, std::string_view descriptor,
@@ -32,6 +31,7 @@ class DataWriter {
  private:
   void writeNumber(std::uint64_t number, int bytes);
   void begin(DataMessage kind, std::string_view name, std::uint64_t payloadSize);
+  void writeBytes(std::span<const unsigned char> bytes);
   void writeComponent(std::string_view name, std::uint64_t count);
 
   std::ostream& stream_;

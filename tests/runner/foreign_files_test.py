@@ -93,6 +93,64 @@ def check_other_files():
     refused("absent.ply", "No such file or directory")
 
 
+def npy(descriptor, shape, elements):
+    header = f"{{'descr': '{descriptor}', 'fortran_order': False, 'shape': {shape}, }}\n".encode()
+    return b"\x93NUMPY\x01\x00" + struct.pack("<H", len(header)) + header + elements
+
+
+def check_archives():
+    numbers = npy("<i2", "(3,)", struct.pack("<3h", -1, 2, 5))
+    with zipfile.ZipFile("scan.NPZ", "w", zipfile.ZIP_DEFLATED) as archive:
+        archive.writestr("a.npy", numbers)
+        archive.writestr("b.npy", npy("<f4", "(1, 2)", bytes(8)))
+    code, output, errors = run("show", "scan.NPZ")
+    check("archive", (code, errors), (0, ""))
+    check("archive", [line.strip() for line in output.splitlines() if "scan" in line],
+          ["[vtlcmd]            scan.NPZ/a: int16, 3, widened to int",
+           "[vtlcmd]            Output port 'scan.NPZ/a': (array<int>) (3 int)",
+           "[vtlcmd]            scan.NPZ/b: float32, 1 × 2",
+           "[vtlcmd]            Output port 'scan.NPZ/b': (array<array<float>>)"])
+    with open("scan.NPZ", "rb") as file:
+        content = file.read()
+    write("cut.npz", content[:-9])
+    refused("cut.npz", "it is no archive: Not a zip archive")
+    at = content.index(b"a.npy") + 12
+    write("damaged.npz", content[:at] + bytes([content[at] ^ 0x40]) + content[at + 1:])
+    code, _, errors = run("show", "damaged.npz")
+    check("damaged archive", (code, errors.count("\n"), "damaged.npz: 'a.npy' in it " in errors),
+          (1, 1, True))
+    with zipfile.ZipFile("bomb.npz", "w", zipfile.ZIP_DEFLATED) as archive:
+        archive.writestr("a.npy", npy("|i1", "(419430400,)", bytes(400 << 20)))
+    refused("bomb.npz", "reading it takes more than 200 MiB of memory (--read-memory)",
+            "--read-memory", "200M")
+    for content, reason in (numbers + b"x", "'a' in it: the file is 1 byte longer than its header says"), \
+                           (None, "'a.txt' in it is no array file"):
+        with zipfile.ZipFile("other.npz", "w") as archive:
+            archive.writestr("a.npy" if content else "a.txt", content or b"")
+        refused("other.npz", reason)
+
+
+def check_tables():
+    write("table.csv", 'time, "height, m"\r\n0, +1.5\r\n\r\n1,-2e1\r\n')
+    code, output, errors = run("show", "table.csv")
+    check("table", (code, errors, output.count("float64, 2\n")), (0, "", 2))
+    check("table", "table.csv/height, m: float64, 2" in output, True)
+    write("plain.csv", "1,2,3\n4,5,6\n")
+    check("numbers", "plain.csv: float64, 2 × 3" in run("show", "plain.csv")[1], True)
+    write("text.csv", "a,b\n1,2\n3,x\n")
+    refused("text.csv", "line 3: 'x' is no number")
+    write("mesh.json", json.dumps({
+        "inputs": [{"name": "path", "type": "string"}],
+        "nodes": [{"name": "column", "op": "read_npy", "in": {"path": "path"}, "type": "array<double>"}],
+        "outputs": [{"name": "column", "from": "column"}]}))
+    place = os.path.abspath("table.csv")
+    code, output, errors = run("run", "mesh.json", "-s", f"path={place}/time")
+    check("column", (code, "max: 1\n" in output, errors), (0, True, ""))
+    code, _, errors = run("run", "mesh.json", "-s", f"path={place}")
+    check("no column", (code, f"{place} holds 'time', 'height, m'; one of them is to be named, like "
+                        f"{place}/height, m" in errors), (1, True))
+
+
 def check_noise():
     source = random.Random(7)
     for i in range(20):
@@ -135,6 +193,8 @@ with tempfile.TemporaryDirectory() as folder:
     check_crashes()
     check_limits()
     check_other_files()
+    check_archives()
+    check_tables()
     check_noise()
     check_nodes()
     check_memory_limit()
