@@ -72,7 +72,8 @@ ExitCode showAll(const ShowOptions& options) {
 
 void addShowCommand(CLI::App& app, CommandState& state) {
   const auto options = std::make_shared<ShowOptions>();
-  CLI::App* command = app.add_subcommand("show", "Report what is in data files: .npy, .npz, .csv or a mesh");
+  CLI::App* command =
+      app.add_subcommand("show", "Report what is in data files: .npy, .npz, .csv or a mesh");
   command->add_option("FILE", options->files, "Data files")->required()->type_name("");
   command->add_flag("--vectors", options->vectors,
                     "Take a last dimension of 2 to 4 floats in .npy files as vectors");

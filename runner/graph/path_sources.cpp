@@ -2,6 +2,7 @@
 
 #include "host/value_types.h"
 #include "orvel_sdk/value_factory.h"
+#include "readers/data_file.h"
 #include "text/library_text.h"
 #include "text/path_text.h"
 
@@ -67,7 +68,7 @@ std::vector<std::filesystem::path> filesReadBy(const Graph& graph, const TextsBy
   for (const GraphNode& node : graph.nodes) {
     const std::optional<std::size_t> slot = pathSlot(node);
     const std::optional<std::string> text = slot ? knownText(graph, *slot, texts) : std::nullopt;
-    if (text) files.push_back(node.pathFolder / filePath(*text));
+    if (text) files.push_back(valuePathFrom(node.pathFolder / filePath(*text)).file);
   }
   return files;
 }

@@ -20,19 +20,6 @@ NpyForm formFor(const ValueType& type) {
   return form;
 }
 
-/// A path like scan.npz/positions names one of a file's values.
-struct ValuePath {
-  std::filesystem::path file;
-  std::string name;
-};
-
-ValuePath valuePathFrom(const std::filesystem::path& path) {
-  std::error_code error;
-  const std::filesystem::path file = path.parent_path();
-  if (!std::filesystem::is_regular_file(file, error)) return {path, {}};
-  return {file, fileText(path.filename())};
-}
-
 /// The value of a name, the only one if the name is empty.
 DataValue takeNamed(std::vector<DataValue> values, const ValuePath& path) {
   if (path.name.empty() && values.size() == 1) return std::move(values[0]);

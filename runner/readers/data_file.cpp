@@ -32,6 +32,13 @@ std::vector<DataValue> readArrayFile(const std::filesystem::path& file, NpyForm 
 
 }  // namespace
 
+ValuePath valuePathFrom(const std::filesystem::path& path) {
+  std::error_code error;
+  std::filesystem::path file = path.parent_path();
+  if (!std::filesystem::is_regular_file(file, error)) return {path, {}};
+  return {std::move(file), fileText(path.filename())};
+}
+
 std::vector<DataValue> readDataFile(const std::filesystem::path& file, NpyForm form) {
   return naming(file, [&] {
     return readerFor(file).send == nullptr ? readArrayFile(file, form)

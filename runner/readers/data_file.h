@@ -19,6 +19,16 @@ struct DataValue {
   std::string description;
 };
 
+/// A path to one of a data file's values, like scan.npz/positions, or to the only one.
+struct ValuePath {
+  std::filesystem::path file;
+  /// Empty for the only one.
+  std::string name;
+};
+
+/// The last piece of a path names a value if the rest is a regular file.
+ValuePath valuePathFrom(const std::filesystem::path& path);
+
 /// What is in a data file, read by the reader for its extension, a mesh's for unknown ones. Files
 /// of foreign formats are read in a process of their own, within the limits of `readLimits`. `form`
 /// is for arrays. Throws ReadError, which names the file.

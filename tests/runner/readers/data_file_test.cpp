@@ -52,6 +52,15 @@ TEST_F(DataFile, ArraysMayHaveAnyExtension) {
   EXPECT_EQ(readArrays(write("two.dat", twoInts), {}).size(), 1U);
 }
 
+TEST_F(DataFile, ValuesAreNamedBehindTheirFile) {
+  const std::filesystem::path file = write("two.npz", twoInts);
+  EXPECT_EQ(valuePathFrom(file / "a").file, file);
+  EXPECT_EQ(valuePathFrom(file / "a").name, "a");
+  EXPECT_EQ(valuePathFrom(file).file, file);
+  EXPECT_EQ(valuePathFrom(file).name, "");
+  EXPECT_EQ(valuePathFrom(folder_ / "absent" / "a").file, folder_ / "absent" / "a");
+}
+
 TEST_F(DataFile, FilesAreNamed) {
   EXPECT_EQ(refusalOf([] { readDataFile("no_such_folder/x.npy", {}); }),
             "no_such_folder/x.npy: No such file or directory");
