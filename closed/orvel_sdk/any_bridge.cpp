@@ -28,15 +28,15 @@ constexpr AnyMaker anyMaker() {
   }
 }
 
+template <typename Row>
+constexpr AnyMakersByRank anyMakersOf(const Row&) {
+  using T = typename Row::Type;
+  return {anyMaker<T, 0>(), anyMaker<T, 1>(), anyMaker<T, 2>(), anyMaker<T, 3>()};
+}
+
 /// By place in `storedTypes` and rank; null where the type table has no tag.
-constexpr std::array anyMakers = std::apply(
-    [](const auto&... row) {
-      return []<typename... T>(std::tuple<T...>*) {
-        return std::array{AnyMakersByRank{anyMaker<T, 0>(), anyMaker<T, 1>(), anyMaker<T, 2>(),
-                                          anyMaker<T, 3>()}...};
-      }(static_cast<std::tuple<typename std::remove_cvref_t<decltype(row)>::Type...>*>(nullptr));
-    },
-    storedTypes);
+constexpr std::array anyMakers =
+    std::apply([](const auto&... row) { return std::array{anyMakersOf(row)...}; }, storedTypes);
 
 AnyMaker anyMakerOf(const Internal::TypeRep& type) {
   const std::size_t index = Internal::innermostOf(type).storedIndex;
@@ -46,28 +46,33 @@ AnyMaker anyMakerOf(const Internal::TypeRep& type) {
   return anyMakers[index][type.depth];
 }
 
-/// How a value handle is kept; nobody asks for this tag.
+/// A value without a tag in the type table, as an Any keeps it. The tag is made with the Any, since
+/// asking for it can't fail.
+struct Untabled {
+  Internal::ValueHandle value;
+  const Internal::TypeInfo* tag;
+};
+
+/// Of the handle; nobody asks for this tag.
 constexpr auto handleTag = vtlcmd::makeTag("ValueHandle", 0, 0);
 
 /// The manager of values without a tag in the type table: holds the handle, shows the value.
 void manageUntabled(vtlcmd::AnyOpArgs* args) {
-  const Internal::ValueRep& value =
-      **vtlcmd::any_operations::valueOf<Internal::ValueHandle>(*args->self);
+  const Untabled& held = *vtlcmd::any_operations::valueOf<Untabled>(*args->self);
   switch (args->op) {
     case AnyOp::cast: {
       const auto& wanted = *static_cast<const Internal::TypeInfo*>(args->other);
-      args->result =
-          vtlcmd::sameType(wanted, Internal::tagOf(*value.type)) ? value.storage : nullptr;
+      args->result = vtlcmd::sameType(wanted, *held.tag) ? held.value->storage : nullptr;
       break;
     }
     case AnyOp::address:
-      args->other = value.storage;
+      args->other = held.value->storage;
       break;
     case AnyOp::type:
-      args->other = const_cast<Internal::TypeInfo*>(&Internal::tagOf(*value.type));
+      args->other = const_cast<Internal::TypeInfo*>(held.tag);
       break;
     default:
-      vtlcmd::any_operations::manage<Internal::ValueHandle, handleTag>(args);
+      vtlcmd::any_operations::manage<Untabled, handleTag>(args);
   }
 }
 
@@ -75,15 +80,15 @@ void manageUntabled(vtlcmd::AnyOpArgs* args) {
 
 Any toAny(const Value& value) {
   if (const AnyMaker make = anyMakerOf(*value.rep()->type)) return make(value.rep()->storage);
-  Any any = vtlcmd::makeTaggedAny<handleTag>(value.rep());
+  Any any =
+      vtlcmd::makeTaggedAny<handleTag>(Untabled{value.rep(), &Internal::tagOf(*value.rep()->type)});
   any.manager = &manageUntabled;
   return any;
 }
 
 Value fromAny(const Type& type, const Any& any) {
   if (any.manager == &manageUntabled) {
-    const Value held(
-        *vtlcmd::any_operations::valueOf<Internal::ValueHandle>(const_cast<Any&>(any)));
+    const Value held(vtlcmd::any_operations::valueOf<Untabled>(const_cast<Any&>(any))->value);
     if (equalTypes(held.getType(), type)) return held;
   } else if (any.holdsValue() &&
              Internal::innermostOf(*type.rep()).storedIndex != Internal::TypeRep::notStored) {

@@ -4,7 +4,7 @@
 #include <memory>
 #include <new>
 
-#include "orvel_core/make_ptr.h"
+#include "orvel_core/owned_block.h"
 
 namespace Orvel::Internal {
 namespace {
@@ -14,7 +14,7 @@ UntypedTypeRep memoryOf(const TypeRep& element) noexcept {
 }
 
 void zeroArray(const TypeRep& type, void* raw) {
-  ::new (raw) ArrayPtr(makePtr<RunTimeArray>(elementOf(type)));
+  ::new (raw) ArrayPtr(makeOwned<RunTimeArray>(elementOf(type)));
 }
 
 void copyArray(const TypeRep&, void* raw, const void* source) {

@@ -4,7 +4,7 @@
 #include <new>
 #include <utility>
 
-#include "orvel_core/make_ptr.h"
+#include "orvel_core/owned_block.h"
 #include "orvel_sdk/stored_members.h"
 
 namespace Orvel::Internal {
@@ -30,12 +30,12 @@ constexpr StorageOperations storedOperations{zeroStored<T>, copyStored<T>, destr
 
 template <typename T>
 MutablePtr<TypeRep> describe() {
-  return makeMutable<TypeRep>(TypeRep{.name = vtlcmd::valueType<T>().name,
-                                      .kind = StoredStruct<T> ? structKind : plainKind,
-                                      .size = sizeof(T),
-                                      .alignment = alignof(T),
-                                      .operations = &storedOperations<T>,
-                                      .storedIndex = storedTypeIndex<T>()});
+  return makeOwnedMutable<TypeRep>(TypeRep{.name = vtlcmd::valueType<T>().name,
+                                           .kind = StoredStruct<T> ? structKind : plainKind,
+                                           .size = sizeof(T),
+                                           .alignment = alignof(T),
+                                           .operations = &storedOperations<T>,
+                                           .storedIndex = storedTypeIndex<T>()});
 }
 
 using Reps = std::array<TypeHandle, storedTypeCount>;
@@ -47,6 +47,7 @@ void addMembers(TypeRep& type, const Reps& reps) {
       type.members.emplace_back(member.name, Type(reps[member.type]));
       type.offsets.push_back(member.offset);
     }
+    type.structLevels = 1;
   }
 }
 

@@ -64,7 +64,9 @@ void layOutMembers(TypeRep& type) {
     type.offsets.push_back(roundUp(end, member.alignment));
     end = type.offsets.back() + member.size;
     type.alignment = std::max(type.alignment, member.alignment);
+    type.structLevels = std::max(type.structLevels, member.structLevels);
   }
+  ++type.structLevels;
   type.size = std::max<std::uint64_t>(roundUp(end, type.alignment), 1);
 }
 

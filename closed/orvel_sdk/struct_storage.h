@@ -10,7 +10,7 @@ namespace Orvel::Internal {
 /// Memory member by member, for struct types that have no C++ type.
 extern const StorageOperations structOperations;
 
-/// Sets sizes, offsets and alignment of a struct from its members, as C++ would lay them out.
+/// Sets size, offsets, alignment and levels of a struct from its members, laid out as in C++.
 void layOutMembers(TypeRep& type);
 
 /// Makes the members in raw memory as copies, one source each.

@@ -1,9 +1,10 @@
 #include "orvel_sdk/type_factory.h"
 
 #include <stdexcept>
+#include <string>
 #include <string_view>
 
-#include "orvel_core/make_ptr.h"
+#include "orvel_core/owned_block.h"
 #include "orvel_sdk/stored_type_reps.h"
 #include "orvel_sdk/struct_storage.h"
 
@@ -38,11 +39,11 @@ Type makeArrayType(const Type& element) { return Type(Internal::arrayOf(element.
 
 Type makeStructType(StringView name, std::span<const MemberSpec> members) {
   MutablePtr<TypeRep> type =
-      makeMutable<TypeRep>(TypeRep{.name = String(name),
-                                   .kind = Internal::structKind,
-                                   .size = 0,
-                                   .alignment = 1,
-                                   .operations = &Internal::structOperations});
+      Internal::makeOwnedMutable<TypeRep>(TypeRep{.name = String(name),
+                                                  .kind = Internal::structKind,
+                                                  .size = 0,
+                                                  .alignment = 1,
+                                                  .operations = &Internal::structOperations});
   for (const MemberSpec& member : members) {
     for (const StructType::Member& earlier : type->members) {
       if (earlier.getName() == member.name) {
@@ -54,6 +55,11 @@ Type makeStructType(StringView name, std::span<const MemberSpec> members) {
     type->members.emplace_back(member.name, member.type);
   }
   Internal::layOutMembers(*type);
+  if (type->structLevels > Internal::maximumStructLevels) {
+    throw std::invalid_argument("The struct " + Internal::quoted(*type) + " holds more than " +
+                                std::to_string(Internal::maximumStructLevels - 1) +
+                                " structs inside one another.");
+  }
   return Type(TypeHandle(Ptr<TypeRep>(std::move(type))));
 }
 

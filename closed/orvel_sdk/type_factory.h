@@ -27,7 +27,7 @@ struct MemberSpec {
 
 /// A new struct type with these members in this order; none at all is allowed. It is a type of its
 /// own: no other one equals it, whatever the names. Throws std::invalid_argument when two members
-/// share a name.
+/// share a name, or when it would be more than 256 structs inside one another, arrays apart.
 ORVEL_SDK_API Type makeStructType(StringView name, std::span<const MemberSpec> members);
 
 /// Whether two handles stand for one type. Array types are equal when their elements are.

@@ -1,19 +1,19 @@
 #include "orvel_sdk/type_rep.h"
 
-#include "orvel_core/make_ptr.h"
+#include "orvel_core/owned_block.h"
 #include "orvel_sdk/array_storage.h"
 
 namespace Orvel::Internal {
 namespace {
 
 TypeHandle arrayType(const TypeHandle& innermost, std::uint32_t depth) {
-  return makePtr<TypeRep>(TypeRep{.name = innermost->name,
-                                  .kind = TypeKind::array,
-                                  .size = sizeof(ArrayPtr),
-                                  .alignment = alignof(ArrayPtr),
-                                  .operations = &arrayOperations,
-                                  .innermost = innermost,
-                                  .depth = depth});
+  return makeOwned<TypeRep>(TypeRep{.name = innermost->name,
+                                    .kind = TypeKind::array,
+                                    .size = sizeof(ArrayPtr),
+                                    .alignment = alignof(ArrayPtr),
+                                    .operations = &arrayOperations,
+                                    .innermost = innermost,
+                                    .depth = depth});
 }
 
 }  // namespace

@@ -24,8 +24,12 @@ struct StorageOperations {
   void (*destroy)(const TypeRep& type, void* value) noexcept;
 };
 
-/// A type, never changed once a handle of it is out. An array type of any depth is one record that
-/// refers to its innermost element, so that nothing recurs on the depth.
+/// Structs inside one another, at most: their values are made, copied and ended level by level.
+/// Members of an array type don't count, since their elements lie elsewhere.
+inline constexpr std::uint32_t maximumStructLevels = 256;
+
+/// A type, never changed once a handle of it is out. An array type of any depth refers to its
+/// innermost element, so that nothing recurs on the depth.
 struct TypeRep {
   static constexpr std::size_t notStored = storedTypeCount;
 
@@ -43,6 +47,8 @@ struct TypeRep {
   /// Of a struct, in declared order, and where they lie.
   std::vector<StructType::Member> members{};
   std::vector<std::uint64_t> offsets{};
+  /// Of a struct: 1, and those of the deepest member.
+  std::uint32_t structLevels = 0;
 
   /// Of an array; the element has depth 0.
   TypeHandle innermost{};

@@ -44,7 +44,7 @@ Value makeStruct(const Type& type, std::span<const Value> members) {
 }
 
 Value makeArray(const Type& elementType, std::span<const Value> elements) {
-  auto array = makePtr<Internal::RunTimeArray>(elementType.rep(), elements.size());
+  auto array = Internal::makeOwned<Internal::RunTimeArray>(elementType.rep(), elements.size());
   for (const Value& element : elements) {
     if (!equalTypes(element.getType(), elementType)) {
       throw std::invalid_argument("Element " + std::to_string(array->size) + " is of type " +

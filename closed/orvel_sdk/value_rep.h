@@ -4,7 +4,7 @@
 
 #include "host/imports/orvel_array.h"
 #include "host/imports/orvel_values.h"
-#include "orvel_core/make_ptr.h"
+#include "orvel_core/owned_block.h"
 #include "orvel_sdk/type_rep.h"
 
 namespace Orvel::Internal {
@@ -37,7 +37,7 @@ struct ValueRep {
 
 template <typename Construct>
 ValueHandle makeValueRep(TypeHandle type, Construct construct) {
-  return makePtr<ValueRep>(std::move(type), std::move(construct));
+  return makeOwned<ValueRep>(std::move(type), std::move(construct));
 }
 
 /// A value copied from memory that holds one of the type.

@@ -6,7 +6,7 @@
 #include <utility>
 #include <vector>
 
-#include "orvel_core/make_ptr.h"
+#include "orvel_core/owned_block.h"
 
 namespace Vantrel {
 namespace {
@@ -61,7 +61,9 @@ Orvel::MutablePtr<Object> asObject(Orvel::MutablePtr<PropertyList> list) {
 
 }  // namespace
 
-Orvel::MutablePtr<Object> createObject() { return asObject(Orvel::makeMutable<PropertyList>()); }
+Orvel::MutablePtr<Object> createObject() {
+  return asObject(Orvel::Internal::makeOwnedMutable<PropertyList>());
+}
 
 void setProperty(Object& object, Orvel::StringView key, vtlcmd::Any value) {
   listOf(object).set(key, std::move(value));
@@ -74,7 +76,7 @@ Orvel::Array<Orvel::String> propertyKeys(const Object& object) {
 }
 
 Orvel::MutablePtr<Object> copyObject(const Object& object) {
-  return asObject(Orvel::makeMutable<PropertyList>(listOf(object).properties));
+  return asObject(Orvel::Internal::makeOwnedMutable<PropertyList>(listOf(object).properties));
 }
 
 }  // namespace Vantrel

@@ -13,7 +13,7 @@ namespace {
 
 constexpr std::string_view arrayOpening = "array<";
 
-/// The type library walks a type recursively, so a name from a file is kept within the stack.
+/// A report walks an array level by level, so a type from a file is kept within the stack.
 constexpr std::uint32_t maximumDepth = 256;
 
 std::vector<std::string> knownElements() {
