@@ -15,8 +15,7 @@ namespace vtlcmd {
 template <typename T>
 concept Summarised = requires {
   requires Tagged<T, 1>;
-  requires valueType<T>()
-  .arrayClass == ArrayClass::summarised;
+  requires(valueType<T>().arrayClass == ArrayClass::summarised);
 };
 
 namespace array_statistics {

@@ -21,11 +21,6 @@ struct Running {
   Number sum[Components];
 };
 
-template <typename Number>
-bool isNan(Number number) {
-  return number != number;
-}
-
 /// There must be one. Of equal numbers only zeros have several forms, and the first one counts.
 template <std::size_t Stride, typename Number>
 Number firstZero(const Number* numbers) {
@@ -36,7 +31,7 @@ Number firstZero(const Number* numbers) {
 /// Which of two NaNs an addition gives back the compiler may choose; the first one counts.
 template <std::size_t Stride, typename Number>
 Number sumUpToNan(Number sum, const Number* numbers) {
-  for (; !isNan(sum); numbers += Stride) sum += *numbers;
+  for (; !__builtin_isnan(sum); numbers += Stride) sum += *numbers;
   return sum;
 }
 
@@ -117,7 +112,8 @@ void addBlock(Running<Number, Components>& running, const Number* numbers, std::
       running.minimum[c] = minimum == 0 ? firstZero<Components>(numbers + c) : minimum;
     if (running.maximum[c] < maximum)
       running.maximum[c] = maximum == 0 ? firstZero<Components>(numbers + c) : maximum;
-    running.sum[c] = isNan(sums[c]) ? sumUpToNan<Components>(running.sum[c], numbers + c) : sums[c];
+    running.sum[c] =
+        __builtin_isnan(sums[c]) ? sumUpToNan<Components>(running.sum[c], numbers + c) : sums[c];
   }
 }
 
@@ -143,7 +139,7 @@ Running<Number, Components> runThrough(const Number* numbers, std::uint64_t coun
       const Number number = numbers[i * Components + c];
       if (number < running.minimum[c]) running.minimum[c] = number;
       if (running.maximum[c] < number) running.maximum[c] = number;
-      if (!isNan(running.sum[c])) running.sum[c] += number;
+      if (!__builtin_isnan(running.sum[c])) running.sum[c] += number;
     }
   }
   return running;

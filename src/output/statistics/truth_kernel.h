@@ -31,9 +31,8 @@ inline Totals<bool> truthTotals(const bool* elements, std::uint64_t count) {
         trueCounts[v] -= (Lanes<Byte>)(lanes != 0);
       }
     }
-#pragma GCC unroll 4
-    for (std::size_t v = 0; v < vectorsAStep; ++v)
-      for (std::size_t k = 0; k < width; ++k) totals.trueCount += trueCounts[v][k];
+    for (const Lanes<Byte>& lanes : trueCounts)
+      for (std::size_t k = 0; k < width; ++k) totals.trueCount += lanes[k];
   }
   for (; i < count; ++i)
     if (bytes[i] != 0) ++totals.trueCount;

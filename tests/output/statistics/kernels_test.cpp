@@ -45,6 +45,8 @@ std::vector<Number<T>> anyNumbers(std::mt19937_64& random, std::size_t elements)
   return numbers;
 }
 
+using Positions = std::vector<std::size_t>;
+
 template <typename T>
 class Kernels : public ::testing::Test {};
 template <typename Set>
@@ -68,8 +70,8 @@ TYPED_TEST(Kernels, AgreeAtEveryLengthAndAlignment) {
 TYPED_TEST(Kernels, AgreeWhereBlocksMeet) {
   std::mt19937_64 random(2);
   // Bools are counted in blocks of up to 255 times 256, floats in blocks of up to 256 times 8.
-  for (const std::size_t length : {1023, 1024, 1025, 2048, 2049, 2050, 4097, 16320, 16321, 32641,
-                                   65279, 65280, 65281, 65536, 130561}) {
+  for (const std::size_t length : Positions{1023, 1024, 1025, 2048, 2049, 2050, 4097, 16320, 16321,
+                                            32641, 65279, 65280, 65281, 65536, 130561}) {
     ASSERT_TRUE(agree<TypeParam>(anyNumbers<TypeParam>(random, length)));
   }
 }
@@ -78,7 +80,7 @@ TYPED_TEST(Kernels, AgreeOnWhatIsTheSameThroughout) {
   using Limits = std::numeric_limits<Number<TypeParam>>;
   for (const Number<TypeParam> number : {Limits::lowest(), Limits::max(), Number<TypeParam>{0},
                                          Number<TypeParam>{1}, Number<TypeParam>{2}}) {
-    for (const std::size_t length : {1, 2, 63, 300, 70000}) {
+    for (const std::size_t length : Positions{1, 2, 63, 300, 70000}) {
       const std::vector<Number<TypeParam>> numbers(length * Parts<TypeParam>::count, number);
       ASSERT_TRUE(agree<TypeParam>(numbers));
     }
@@ -129,7 +131,7 @@ std::vector<Number<T>> nans() {
 
 TYPED_TEST(FloatingKernels, AgreeOnNanAtEveryPosition) {
   std::mt19937_64 random(3);
-  for (const std::size_t length : {1, 2, 7, 20, 45}) {
+  for (const std::size_t length : Positions{1, 2, 7, 20, 45}) {
     const auto numbers = anyNumbers<TypeParam>(random, length);
     for (const Number<TypeParam>& nan : nans<TypeParam>()) {
       for (std::size_t i = 0; i < numbers.size(); ++i) {
@@ -157,7 +159,7 @@ TYPED_TEST(FloatingKernels, AgreeOnWhichOfTwoNansStays) {
 
 TYPED_TEST(FloatingKernels, AgreeOnNanPastTheFirstBlock) {
   std::vector<Number<TypeParam>> numbers(5000 * Parts<TypeParam>::count, 1);
-  for (const std::size_t i : {0, 1, 2047, 2048, 2049, 4096, 4999}) {
+  for (const std::size_t i : Positions{0, 1, 2047, 2048, 2049, 4096, 4999}) {
     auto withNans = numbers;
     withNans[i * Parts<TypeParam>::count] = nans<TypeParam>()[1];
     withNans.back() = nans<TypeParam>()[2];
@@ -190,8 +192,8 @@ TYPED_TEST(FloatingKernels, KeepTheFirstOfTwoZerosInBlocksOfTheirOwn) {
   constexpr std::size_t parts = Parts<TypeParam>::count;
   const Number<TypeParam> zero = 0;
   for (const Number<TypeParam> first : {zero, -zero}) {
-    for (const std::size_t i : {0, 1, 2040, 2048, 2049, 2050}) {
-      for (const std::size_t k : {2051, 2060, 4096, 4097, 4999}) {
+    for (const std::size_t i : Positions{0, 1, 2040, 2048, 2049, 2050}) {
+      for (const std::size_t k : Positions{2051, 2060, 4096, 4097, 4999}) {
         for (const Number<TypeParam> rest : {Number<TypeParam>{1}, Number<TypeParam>{-1}}) {
           std::vector<Number<TypeParam>> numbers(5000 * parts, rest);
           numbers[i * parts] = first;
