@@ -35,29 +35,28 @@ class Check(unittest.TestCase):
 
     def test_growth_of_five_percent_passes(self):
         self.assertEqual(self.check({"set int": 1050, "set, bool": 105}),
-                         (0, "2 operations counted, 0 over the baseline\n", ""))
+                         (0, "2 operations counted, 0 unlike the baseline\n", ""))
 
     def test_more_growth_fails(self):
         self.assertEqual(self.check({"set int": 1051, "set, bool": 100}),
-                         (1, "2 operations counted, 1 over the baseline\n",
+                         (1, "2 operations counted, 1 unlike the baseline\n",
                           "set int: 1051 instructions, 1000 in the baseline\n"))
 
     def test_fewer_passes_and_is_told(self):
         self.assertEqual(self.check({"set int": 500, "set, bool": 100}),
                          (0, "fewer: set int: 500 instructions, 1000 in the baseline; "
                           "./dev bench --renew keeps it so\n"
-                          "2 operations counted, 0 over the baseline\n", ""))
+                          "2 operations counted, 0 unlike the baseline\n", ""))
 
     def test_other_operations_fail(self):
         self.assertEqual(self.check({"set int": 1000, "set long": 100}),
-                         (1, "2 operations counted, 2 over the baseline\n",
+                         (1, "2 operations counted, 2 unlike the baseline\n",
                           "not in the baseline: set long\nonly in the baseline: set, bool\n"))
 
     def test_another_compiler_is_not_compared(self):
         self.assertEqual(self.check({"set int": 9000, "set, bool": 100}, "another compiler"),
-                         (0, "instructions not compared: counted with another compiler, "
-                          "the baseline is of a compiler\n"
-                          "2 operations counted, 0 over the baseline\n", ""))
+                         (0, "2 operations counted, not compared: with another compiler; "
+                          "the baseline is of a compiler\n", ""))
 
     def test_another_compiler_must_have_the_same_operations(self):
         self.assertEqual(self.check({"set int": 9000}, "another compiler")[0], 1)
