@@ -1,6 +1,7 @@
 #include "measuring/table.h"
 
 #include <algorithm>
+#include <fstream>
 #include <iomanip>
 #include <sstream>
 #include <string>
@@ -52,6 +53,15 @@ std::string ratioText(double ratio) {
   return text.str();
 }
 
+/// The processor's name as Linux knows it; empty elsewhere.
+std::string processorName() {
+  std::ifstream file("/proc/cpuinfo");
+  for (std::string line; std::getline(file, line);) {
+    if (line.starts_with("model name")) return line.substr(line.find(": ") + 2);
+  }
+  return {};
+}
+
 void writeLine(std::ostream& stream, const std::string& name, const std::string& subject,
                const std::string& limit, const std::string& ratio, const std::string& goal,
                const char* verdict) {
@@ -74,6 +84,7 @@ void registerRows(const std::vector<Row>& rows) {
 Table::Table(std::ostream& stream, bool judging) : stream_(stream), judging_(judging) {}
 
 bool Table::ReportContext(const Context&) {
+  stream_ << processorName() << '\n';
   writeLine(stream_, "what", "subject", "limit", "ratio", "goal", "verdict");
   return true;
 }
