@@ -41,7 +41,7 @@ Orvel::Value readArray(const NodeCall& call) {
   const std::string type = data.value.getType().getFullyQualifiedName().c_str();
   if (type != nameOf(call.resultType))
     throw NodeError(fileText(path) + " holds " + type + ", not " + nameOf(call.resultType));
-  return std::move(data.value);
+  return data.value;
 }
 
 const std::vector<Parameter> path{{"path", &type_classes::path}};

@@ -74,6 +74,14 @@ class StartSettings {
   posix_spawnattr_t attributes_;
 };
 
+/// The status of a child that hasn't been waited for.
+int waitFor(pid_t process) {
+  int status = 0;
+  while (::waitpid(process, &status, 0) < 0 && errno == EINTR) {
+  }
+  return status;
+}
+
 ProcessEnd endFrom(int status) {
   if (WIFEXITED(status)) return {ProcessEnd::Kind::exited, WEXITSTATUS(status)};
   const int signal = WTERMSIG(status);
@@ -102,6 +110,7 @@ ChildProcess::ChildProcess(const std::filesystem::path& program,
   std::vector<std::string> texts{program.native()};
   texts.insert(texts.end(), words.begin(), words.end());
   std::vector<char*> arguments;
+  arguments.reserve(texts.size() + 1);
   for (std::string& text : texts) arguments.push_back(text.data());
   arguments.push_back(nullptr);
   check(::posix_spawn(&handles_->process, program.c_str(), settings.files(), settings.attributes(),
@@ -111,7 +120,7 @@ ChildProcess::ChildProcess(const std::filesystem::path& program,
 ChildProcess::~ChildProcess() {
   if (handles_->process <= 0) return;
   ::kill(handles_->process, SIGKILL);
-  wait();
+  waitFor(handles_->process);
 }
 
 std::optional<std::size_t> ChildProcess::read(std::span<unsigned char> bytes,
@@ -131,13 +140,8 @@ std::optional<std::size_t> ChildProcess::read(std::span<unsigned char> bytes,
 }
 
 ProcessEnd ChildProcess::wait() {
-  int status = 0;
-  pid_t waited = 0;
-  do {
-    waited = ::waitpid(handles_->process, &status, 0);
-  } while (waited < 0 && errno == EINTR);
+  const int status = waitFor(handles_->process);
   handles_->process = 0;
-  checkCall(waited);
   return endFrom(status);
 }
 

@@ -48,11 +48,11 @@ std::vector<unsigned char> bytesOf(zip_t* archive, zip_uint64_t index, const std
 std::string archiveReaderName() { return std::string("libzip ") + zip_libzip_version(); }
 
 void readArchive(
-    const std::filesystem::path& path,
+    const std::filesystem::path& file,
     const std::function<void(const std::string&, std::span<const unsigned char>)>& give) {
   int code = 0;
   const std::unique_ptr<zip_t, Close> archive(
-      zip_open(fileText(path).c_str(), ZIP_RDONLY | ZIP_CHECKCONS, &code));
+      zip_open(fileText(file).c_str(), ZIP_RDONLY | ZIP_CHECKCONS, &code));
   if (!archive) {
     zip_error_t error;
     zip_error_init_with_code(&error, code);

@@ -11,9 +11,9 @@ namespace vtlcmd::runner {
 std::string archiveReaderName();
 
 /// Gives each file in a zip archive, by its name and its bytes, which last for the call. Throws
-/// ReadError, which doesn't name the archive, for every archive in a build without a library.
+/// ReadError, which doesn't name it, for every archive in a build without a library.
 void readArchive(
-    const std::filesystem::path& archive,
+    const std::filesystem::path& file,
     const std::function<void(const std::string&, std::span<const unsigned char>)>& give);
 
 }  // namespace vtlcmd::runner

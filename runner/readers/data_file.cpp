@@ -27,7 +27,7 @@ auto naming(const std::filesystem::path& file, Function&& function) {
 std::vector<DataValue> readArrayFile(const std::filesystem::path& file, NpyForm form) {
   InputFile input(file);
   NpyArray array = parseNpy(input, form);
-  return {{"", std::move(array.value), std::move(array.description)}};
+  return {{"", array.value, std::move(array.description)}};
 }
 
 }  // namespace

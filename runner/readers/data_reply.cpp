@@ -90,7 +90,7 @@ std::vector<DataValue> parseReply(ByteSource& messages, NpyForm form) {
       }
       case DataMessage::array: {
         NpyArray array = parseArray(name, payload, form);
-        values.push_back({name, std::move(array.value), std::move(array.description)});
+        values.push_back({name, array.value, std::move(array.description)});
         break;
       }
       case DataMessage::error:

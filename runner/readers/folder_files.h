@@ -14,8 +14,8 @@ class FolderFiles final : public Assimp::DefaultIOSystem {
  public:
   FolderFiles(const std::filesystem::path& mesh, bool anywhere);
 
-  bool Exists(const char* file) const override;
-  Assimp::IOStream* Open(const char* file, const char* mode) override;
+  bool Exists(const char* name) const override;
+  Assimp::IOStream* Open(const char* name, const char* mode) override;
 
   /// Why the first file was refused; empty when none was.
   const std::string& refusal() const { return refusal_; }

@@ -104,8 +104,9 @@ class ObjParser {
     line = line.substr(0, line.find('#'));
     const std::string_view word = takeWord(line);
     if (word.empty()) return;
-    const auto row = std::find_if(std::begin(statements), std::end(statements),
-                                  [word](const Statement& s) { return s.word == word; });
+    const Statement* const row =
+        std::find_if(std::begin(statements), std::end(statements),
+                     [word](const Statement& s) { return s.word == word; });
     if (row == std::end(statements)) throw ReadError("there is no such statement in OBJ files");
     if (row->read != nullptr) (this->*row->read)(line);
   }
