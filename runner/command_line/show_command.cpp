@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <iostream>
 #include <memory>
 #include <new>
@@ -6,7 +7,9 @@
 #include "command_line/read_options.h"
 #include "command_line/report_options.h"
 #include "command_line/terminal.h"
+#include "command_line/usage_error.h"
 #include "execution/plug_in.h"
+#include "graph/graph_file.h"
 #include "readers/data_file.h"
 #include "text/path_text.h"
 
@@ -24,8 +27,9 @@ struct ShowOptions {
 bool showValues(const std::string& file, const ShowOptions& options,
                 const PlugIn::Translation& translation, RunContext& context) {
   bool complete = true;
+  const NpyForm form{.vectors = options.vectors, .widened = true};
   for (const DataValue& data :
-       readDataFile(filePath(file), {.vectors = options.vectors, .widened = true})) {
+       file == standardInput ? readStandardInputArray(form) : readDataFile(filePath(file), form)) {
     const std::string name = data.name.empty() ? file : file + "/" + data.name;
     if (!data.description.empty())
       context.logger->addMessage(vtlcmdSource, levelProgress, name + ": " + data.description);
@@ -51,6 +55,8 @@ bool show(const std::string& file, const ShowOptions& options,
 }
 
 ExitCode showAll(const ShowOptions& options) {
+  if (std::count(options.files.begin(), options.files.end(), standardInput) > 1)
+    throw UsageError("the standard input can be shown only once");
   options.read.apply();
   VtlCmdLogger logger(options.report.printLimit());
   Progress noProgress(std::cerr, ProgressForm::none, options.files.size());
@@ -74,7 +80,10 @@ void addShowCommand(CLI::App& app, CommandState& state) {
   const auto options = std::make_shared<ShowOptions>();
   CLI::App* command =
       app.add_subcommand("show", "Report what is in data files: .npy, .npz, .csv or a mesh");
-  command->add_option("FILE", options->files, "Data files")->required()->type_name("");
+  command
+      ->add_option("FILE", options->files, "Data files; '-' is a .npy file from the standard input")
+      ->required()
+      ->type_name("");
   command->add_flag("--vectors", options->vectors,
                     "Take a last dimension of 2 to 4 floats in .npy files as vectors");
   options->read.addTo(*command);
@@ -83,6 +92,7 @@ void addShowCommand(CLI::App& app, CommandState& state) {
   vtlcmd show temperatures.npy scan.ply
   vtlcmd show --vectors positions.npy
   vtlcmd show -l 3 names.npy
+  vtlcmd show - < temperatures.npy
 )");
   command->callback([options, &state] { state.exitCode = showAll(*options); });
 }

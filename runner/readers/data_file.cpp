@@ -4,6 +4,7 @@
 #include <stdexcept>
 
 #include "orvel_sdk/value_factory.h"
+#include "readers/file_text.h"
 #include "readers/foreign_file.h"
 #include "readers/input_file.h"
 #include "readers/read_error.h"
@@ -52,6 +53,17 @@ std::vector<DataValue> readArrays(const std::filesystem::path& file, NpyForm for
     return reader.send == nullptr || reader.givesMesh ? readArrayFile(file, form)
                                                       : readForeignFile(file, form);
   });
+}
+
+std::vector<DataValue> readStandardInputArray(NpyForm form) {
+  const std::string file = readStandardInput();
+  MemorySource input({reinterpret_cast<const unsigned char*>(file.data()), file.size()});
+  try {
+    NpyArray array = parseNpy(input, form);
+    return {{"", std::move(array.value), std::move(array.description)}};
+  } catch (const ReadError& error) {
+    throw ReadError("the standard input: " + std::string(error.what()));
+  }
 }
 
 ObjectPtr readMesh(const std::filesystem::path& file) {

@@ -38,6 +38,9 @@ std::vector<DataValue> readDataFile(const std::filesystem::path& file, NpyForm f
 /// an array file.
 std::vector<DataValue> readArrays(const std::filesystem::path& file, NpyForm form);
 
+/// The same for an array file that comes from the standard input.
+std::vector<DataValue> readStandardInputArray(NpyForm form);
+
 /// A mesh as an object with the component properties `points`, `faces` and `corners`. Its data
 /// properties are `position`, one a point; `face_size`, one a face; `corner_point`, the point of
 /// each corner; and as far as the file has them for all `normal`, `uv` and `color`, one a corner,
