@@ -66,6 +66,8 @@ TEST_F(OutputTargetsTest, NothingIsWrittenTwice) {
             "--report: './report.json' would be written twice");
   EXPECT_EQ(refusalOf({}, {"no_such.json", "./no_such.json"}),
             "--report: './no_such.json' would be written twice");
+  EXPECT_EQ(refusalOf({}, {"./no_such.json", "no_such.json"}),
+            "--report: 'no_such.json' would be written twice");
   EXPECT_EQ(refusalOf({}, {target, folder_ / "report.html"}), "accepted");
   EXPECT_EQ(refusalOf({}, {"-", "-"}), "--report: only one document fits the standard output");
 }
