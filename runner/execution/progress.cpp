@@ -1,6 +1,7 @@
 #include "execution/progress.h"
 
 #include <array>
+#include <cmath>
 #include <cstdio>
 #include <ostream>
 #include <utility>
@@ -28,7 +29,7 @@ std::string durationText(double seconds) {
   // More than a year is as good as for ever.
   constexpr double longest = 366.0 * 24 * 3600;
   if (!(seconds < longest)) return "over a year";
-  const auto whole = static_cast<long>(seconds + 0.5);
+  const long whole = std::lround(seconds);
   const std::string hours = whole < 3600 ? "" : std::to_string(whole / 3600) + ":";
   const char* format = hours.empty() ? "%ld:%02ld" : "%02ld:%02ld";
   return hours + formatted(format, whole / 60 % 60, whole % 60);
