@@ -3,6 +3,7 @@
 #include <new>
 
 #include "command_line/command_line.h"
+#include "execution/interrupt.h"
 #include "platform/process.h"
 #include "text/control_characters.h"
 
@@ -19,6 +20,7 @@ int main(int count, char** words) {
   }
   std::cout.flush();
   if (!std::cout) {
+    if (vtlcmd::runner::readerGone()) return static_cast<int>(ExitCode::readerGone);
     std::cerr << "vtlcmd: the standard output can't be written\n";
     if (code == ExitCode::success) code = ExitCode::runFailed;
   }

@@ -28,8 +28,10 @@ Exit codes:
   0    all well
   1    the run failed: a port got no value, or there was an error
   2    the command line is wrong
-  3    the graph or the plug-in can't be loaded; nothing was run
-  130  interrupted
+  3    the graph, the plug-in or a journal can't be loaded; nothing was run
+  75   the run failed for want of memory or room; another attempt may not
+  141  nobody reads the standard output any more
+  128 + number of the signal that interrupted: 129, 130 or 143
 
 Environment:
   NO_COLOR                     when set and not empty, --color auto means never
@@ -78,6 +80,7 @@ void addCommands(CLI::App& app, CommandState& state) {
   app.require_subcommand(1);
   app.set_version_flag("--version", versionText());
   addRunCommand(app, state);
+  addReportCommand(app, state);
   addPortsCommand(app);
   addTypesCommand(app);
   addNodesCommand(app);

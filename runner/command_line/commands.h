@@ -19,6 +19,7 @@ void addCommands(CLI::App& app, CommandState& state);
 
 // Each adds a subcommand whose callback does the work. App and state must outlive the parse.
 void addRunCommand(CLI::App& app, CommandState& state);
+void addReportCommand(CLI::App& app, CommandState& state);
 void addPortsCommand(CLI::App& app);
 void addTypesCommand(CLI::App& app);
 void addNodesCommand(CLI::App& app);

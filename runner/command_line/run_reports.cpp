@@ -1,51 +1,69 @@
 #include "command_line/run_reports.h"
 
 #include <algorithm>
-#include <stdexcept>
+#include <iostream>
 #include <system_error>
 
-#include "command_line/usage_error.h"
-#include "report/message_distribution.h"
+#include "command_line/output_targets.h"
+#include "report/run_report.h"
+#include "report/whole_file.h"
+#include "text/path_text.h"
+#include "text/system_reason.h"
 
 namespace vtlcmd::runner {
 namespace {
 
-std::string refusal(const ReportFile& file, const std::system_error& error) {
-  return "the report can't be written to " + file.target() + ": " +
-         error.code().default_error_condition().message();
+bool mayPass(const std::system_error& error) {
+  return error.code() == std::errc::no_space_on_device ||
+         error.code() == std::errc::not_enough_memory;
+}
+
+std::string refusal(const std::string& target) {
+  return "the report can't be written to " + target;
 }
 
 }  // namespace
 
-RunReports::RunReports(const std::vector<std::string>& targets)
-    : files_(targets.begin(), targets.end()) {}
+OutputError::OutputError(const std::string& what, const std::system_error& error)
+    : std::runtime_error(what + ": " + reasonOf(error)), isTransient_(mayPass(error)) {}
 
 bool RunReports::useStandardOutput() const {
-  return std::any_of(files_.begin(), files_.end(), [](const ReportFile& file) {
-    return file.target() == ReportFile::standardOutput;
-  });
+  return std::find(targets_.begin(), targets_.end(), OutputTargets::standardOutput) !=
+         targets_.end();
 }
 
-void RunReports::open() {
-  for (ReportFile& file : files_) {
-    try {
-      file.open();
-    } catch (const std::system_error& error) {
-      throw UsageError(refusal(file, error));
-    }
+std::optional<std::filesystem::path> RunReports::journalPlace() const {
+  for (const std::string& target : targets_) {
+    if (target == OutputTargets::standardOutput) continue;
+    std::filesystem::path file = filePath(target);
+    std::error_code ignored;
+    const std::filesystem::file_status status = std::filesystem::status(file, ignored);
+    if (exists(status) && !is_regular_file(status)) continue;
+    return file += ".journal";
   }
+  return std::nullopt;
 }
 
-void RunReports::write(VtlCmdLogger& logger, const std::vector<std::string>& portNames) {
-  if (files_.empty()) return;
-  distributeMessages(logger);
-  for (ReportFile& file : files_) {
+void RunReports::write(const JournalSource& source) const {
+  std::optional<OutputError> failure;
+  for (const std::string& target : targets_) {
     try {
-      file.write(logger, portNames);
+      write(target, source);
     } catch (const std::system_error& error) {
-      throw std::runtime_error(refusal(file, error));
+      if (!failure) failure.emplace(refusal(target), error);
     }
   }
+  if (failure) throw OutputError(*failure);
+}
+
+void RunReports::write(const std::string& target, const JournalSource& source) const {
+  // Of the standard output the program itself takes care at its end.
+  if (target == OutputTargets::standardOutput)
+    return writeReport(std::cout, source, {ReportFormat::json, withTimes_});
+  const std::filesystem::path path = filePath(target);
+  WholeFile file(path);
+  writeReport(file.stream(), source, {reportFormatOf(path), withTimes_});
+  file.commit();
 }
 
 }  // namespace vtlcmd::runner

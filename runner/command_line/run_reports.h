@@ -1,31 +1,53 @@
 #pragma once
 
-#include <list>
+#include <filesystem>
+#include <optional>
+#include <stdexcept>
 #include <string>
+#include <system_error>
+#include <utility>
 #include <vector>
 
-#include "logging/vtlcmd_logger.h"
-#include "report/report_file.h"
+#include "report/journal_survey.h"
 
 namespace vtlcmd::runner {
+
+/// A file of a run that can't be written, in words for the user.
+class OutputError : public std::runtime_error {
+ public:
+  /// `what` is what can't be done, like "the report can't be written to x".
+  OutputError(const std::string& what, const std::system_error& error);
+
+  /// Whether there may be room at another time.
+  bool isTransient() const noexcept { return isTransient_; }
+
+ private:
+  bool isTransient_;
+};
 
 /// The reports of a run that a user asks for.
 class RunReports {
  public:
   /// `targets` as `--report` has them.
-  explicit RunReports(const std::vector<std::string>& targets);
+  RunReports(std::vector<std::string> targets, bool withTimes)
+      : targets_(std::move(targets)), withTimes_(withTimes) {}
 
+  bool empty() const noexcept { return targets_.empty(); }
   bool useStandardOutput() const;
 
-  /// Makes sure that there is somewhere to write to. Throws UsageError.
-  void open();
+  /// Where the journal that the reports are made of stays until they are there: beside the first
+  /// one. Nothing when no report goes to a file that can have something beside it.
+  std::optional<std::filesystem::path> journalPlace() const;
 
-  /// Writes all of them, and hands out the logger's messages on the way, so this is done once.
-  /// Throws std::runtime_error.
-  void write(VtlCmdLogger& logger, const std::vector<std::string>& portNames);
+  /// Writes all of them. When one can't be written the others are all the same, then throws
+  /// OutputError.
+  void write(const JournalSource& source) const;
 
  private:
-  std::list<ReportFile> files_;
+  void write(const std::string& target, const JournalSource& source) const;
+
+  std::vector<std::string> targets_;
+  bool withTimes_;
 };
 
 }  // namespace vtlcmd::runner

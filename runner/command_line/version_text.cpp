@@ -3,15 +3,14 @@
 #include "build_facts.h"
 #include "readers/archive.h"
 #include "readers/mesh_import.h"
+#include "text/program_version.h"
 
 namespace vtlcmd::runner {
 
 std::string versionText() {
   using namespace build_facts;
-  const std::string dot = ".";
-  return "vtlcmd " + std::string(majorVersion) + dot + minorVersion + dot + patchVersion + dot +
-         fourthVersion + "\ndate         " + buildDate + "\nbuild        " + buildNumber +
-         "\ncommit       " + commit + "\nbranch       " + branch + "\nmesh reader  " +
+  return "vtlcmd " + programVersion() + "\ndate         " + buildDate + "\nbuild        " +
+         buildNumber + "\ncommit       " + commit + "\nbranch       " + branch + "\nmesh reader  " +
          meshReaderName() + "\narchives     " + archiveReaderName();
 }
 

@@ -1,8 +1,10 @@
 #include "execution/executor.h"
 
-#include <new>
+#include <exception>
 #include <utility>
 
+#include "execution/caught_failure.h"
+#include "execution/interrupt.h"
 #include "text/library_text.h"
 
 namespace vtlcmd::runner {
@@ -21,32 +23,24 @@ std::string sentenceAbout(const GraphNode& node, const std::string& text) {
 
 Executor::Executor(const Graph& graph, VtlCmdLogger& logger) : graph_(graph), logger_(logger) {}
 
-std::optional<std::vector<Orvel::Value>> Executor::run(
-    const std::vector<Orvel::Value>& portValues) const {
+Executor::Result Executor::run(const std::vector<Orvel::Value>& portValues) const {
   const CountingScope counting(logger_);
   Slots slots(portValues.begin(), portValues.end());
   slots.resize(graph_.ports.size() + graph_.nodes.size());
   for (const std::size_t index : graph_.order) {
+    if (frameAbandoned()) return {};
     const GraphNode& node = graph_.nodes[index];
-    const auto fail = [&](const std::string& text) {
-      logger_.addVantrelMessage(severityError, sentenceAbout(node, text));
-    };
     try {
       slots[graph_.slotOfNode(index)] = evaluate(node, slots);
-    } catch (const std::bad_alloc&) {
-      fail("there isn't enough memory for the result");
-      return std::nullopt;
-    } catch (const std::length_error&) {
-      fail("there isn't enough memory for the result");
-      return std::nullopt;
-    } catch (const std::exception& error) {
-      fail(error.what());
-      return std::nullopt;
+    } catch (const std::exception&) {
+      const CaughtFailure caught = caughtFailure();
+      logger_.addVantrelMessage(severityError, sentenceAbout(node, caught.text));
+      return {std::nullopt, caught.failure};
     }
   }
-  std::vector<Orvel::Value> values;
-  for (std::optional<Orvel::Value>& slot : slots) values.push_back(*std::move(slot));
-  return values;
+  Result result{std::vector<Orvel::Value>()};
+  for (std::optional<Orvel::Value>& slot : slots) result.values->push_back(*std::move(slot));
+  return result;
 }
 
 Orvel::Value Executor::evaluate(const GraphNode& node, const Slots& slots) const {

@@ -3,6 +3,7 @@
 #include <optional>
 #include <vector>
 
+#include "execution/frame_record.h"
 #include "graph/graph.h"
 #include "logging/vtlcmd_logger.h"
 
@@ -15,8 +16,14 @@ class Executor {
   /// Graph and logger must outlive the executor.
   Executor(const Graph& graph, VtlCmdLogger& logger);
 
-  /// The values by slot, from those of the ports. Nothing when a node failed: the run ends there.
-  std::optional<std::vector<Orvel::Value>> run(const std::vector<Orvel::Value>& portValues) const;
+  struct Result {
+    /// By slot; empty when a node failed or the frame is abandoned: the run ends there.
+    std::optional<std::vector<Orvel::Value>> values;
+    Failure failure = Failure::none;
+  };
+
+  /// Evaluates all nodes from the values of the ports.
+  Result run(const std::vector<Orvel::Value>& portValues) const;
 
  private:
   using Slots = std::vector<std::optional<Orvel::Value>>;

@@ -2,9 +2,20 @@
 
 namespace vtlcmd::runner {
 
-/// From now on the first interrupt of the process is only remembered; a second one ends it.
-void rememberInterrupt();
+/// From now on what asks the process to end (an interrupt, a termination, a hang-up; on Windows
+/// the events of the console) is only remembered, unless whoever started the process had it
+/// ignored. The second one asks to abandon the frame too; the third ends the process at once. The
+/// first one says on a terminal that it waits for the frame. A closed standard output is
+/// remembered, and writing to it then fails.
+void rememberInterrupts();
 
-bool interruptRequested() noexcept;
+/// The number of the first signal that asked for an end; 0 when none did.
+int interruptSignal() noexcept;
+
+/// Whether the current frame isn't to be waited for.
+bool frameAbandoned() noexcept;
+
+/// Whether something was written that nobody reads any more.
+bool readerGone() noexcept;
 
 }  // namespace vtlcmd::runner

@@ -19,23 +19,30 @@ MessagePrinter::MessagePrinter(const VtlCmdLogger& logger, std::int16_t verbosit
 
 void MessagePrinter::printNew() {
   for (; printed_ < logger_.messages.size(); ++printed_) print(logger_.messages[printed_]);
-  sinks_.report.stream.flush();
-  sinks_.problems.stream.flush();
-  progress_.show();
+  flush();
 }
 
 void MessagePrinter::print(const LogMessage& message) {
   if (!VtlCmdLogger::levelAdmits(verbosity_, std::uint32_t{message.level} - 1)) return;
   const bool isProblem = message.level <= levelWarning;
+  const char* color = !isProblem || !sinks_.colored   ? ""
+                      : message.level == levelWarning ? yellow
+                                                      : red;
+  printLine(VtlCmdLogger::makeMessagePrefix(message.source, message.level) + message.text,
+            isProblem, color);
+}
+
+void MessagePrinter::printLine(const std::string& text, bool isProblem, const char* color) {
   const TextSink& sink = isProblem ? sinks_.problems : sinks_.report;
-  std::string line = VtlCmdLogger::makeMessagePrefix(message.source, message.level) + message.text;
-  if (sink.isTerminal) {
-    progress_.hide();
-    line = withoutControls(line);
-  }
-  if (isProblem && sinks_.colored)
-    line = (message.level == levelWarning ? yellow : red) + line + plain;
-  sink.stream << line << '\n';
+  if (sink.isTerminal) progress_.hide();
+  sink.stream << color << (sink.isTerminal ? withoutControls(text) : text)
+              << (*color == '\0' ? "" : plain) << '\n';
+}
+
+void MessagePrinter::flush() {
+  sinks_.report.stream.flush();
+  sinks_.problems.stream.flush();
+  progress_.show();
 }
 
 }  // namespace vtlcmd::runner

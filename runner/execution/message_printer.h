@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <iosfwd>
+#include <string>
 
 #include "execution/progress.h"
 #include "logging/vtlcmd_logger.h"
@@ -34,9 +35,13 @@ class MessagePrinter {
   /// Prints the messages since the last call and flushes.
   void printNew();
 
- private:
+  /// Prints a message, if the verbosity admits it. What is printed is flushed by `flush`.
   void print(const LogMessage& message);
+  /// Prints a line where problems go, or where the report goes. `color` is a terminal's code.
+  void printLine(const std::string& text, bool isProblem, const char* color = "");
+  void flush();
 
+ private:
   const VtlCmdLogger& logger_;
   std::int16_t verbosity_;
   Sinks sinks_;

@@ -1,13 +1,16 @@
 #include "execution/session.h"
 
 #include <algorithm>
+#include <chrono>
 #include <exception>
 
+#include "execution/caught_failure.h"
 #include "execution/interrupt.h"
+#include "execution/message_distribution.h"
 #include "orvel_sdk/any_bridge.h"
 #include "text/library_text.h"
-#include "text/path_text.h"
 #include "text/shortest_text.h"
+#include "values/exact_value.h"
 
 namespace vtlcmd::runner {
 
@@ -27,62 +30,75 @@ Session::Session(const Graph& graph, const PlugIn::Translation& translation,
   }
 }
 
-RunOutcome Session::run(const std::function<void(std::size_t)>& beforeFrame,
-                        const std::function<void()>& afterFrame) {
+RunOutcome Session::run(const RunObserver& observer) {
   const GroupScope group(logger_, graph_.name);
   logger_.setLoaded(true);
-  bool succeeded = true;
+  RunOutcome outcome;
   for (std::size_t i = 0; i < settings_.frames.size(); ++i) {
-    beforeFrame(i);
-    const EntryScope entry(logger_, describe(i));
-    succeeded &= runFrame(settings_.frames[i]);
-    afterFrame();
-    if (interruptRequested()) {
-      logger_.setInterrupted(true);
-      return RunOutcome::interrupted;
-    }
+    if (interruptSignal() != 0) return outcome;
+    observer.beforeFrame(i);
+    const FrameRecord record = recordFrame(i);
+    outcome.failure = std::max(outcome.failure, record.failure);
+    const bool goesOn = observer.afterFrame(record);
+    logger_.messages.clear();
+    if (!goesOn) return outcome;
   }
-  logger_.setFinished(true);
-  return succeeded ? RunOutcome::succeeded : RunOutcome::failed;
+  outcome.finished = true;
+  return outcome;
 }
 
+/// What all frames share isn't repeated for each.
 RunDescription Session::describe(std::size_t frameIndex) const {
   RunDescription description;
-  description.graphName = graph_.name;
-  description.graphFile = fileText(settings_.graphFile);
-  description.arguments = settings_.arguments;
   description.frameIndex = static_cast<std::uint32_t>(frameIndex);
   description.frameCount = static_cast<std::uint32_t>(settings_.frames.size());
-  description.inputCount = graph_.ports.size();
-  description.outputCount = graph_.outputs.size();
-  description.inputValues = settings_.inputValues;
-  description.jobValues = settings_.jobValues;
-  description.properties.emplace("frames_per_second",
-                                 libraryText(shortestText(settings_.framesPerSecond)));
   description.printLimit = logger_.printLimit;
   description.frameText = shortestText(settings_.frames[frameIndex]);
   description.verbosity = settings_.verbosity;
   description.throughAny = settings_.outputForm == OutputForm::any ? 1 : 0;
-  description.sceneFile = settings_.sceneFile;
-  description.secondaryPath = settings_.secondaryPath;
   return description;
 }
 
-bool Session::runFrame(double frame) {
-  const std::size_t firstMessage = logger_.messages.size();
-  context_.frame = frame;
+FrameRecord Session::recordFrame(std::size_t frameIndex) {
+  const auto start = std::chrono::steady_clock::now();
+  const EntryScope entry(logger_, describe(frameIndex));
+  context_.frame = settings_.frames[frameIndex];
   context_.time = context_.frame * context_.frameLength;
+  const std::uint64_t errorsBefore = logger_.errorCount;
+  const std::uint64_t warningsBefore = logger_.warningCount;
+  FrameRecord record = runFrame();
+  record.errors = logger_.errorCount - errorsBefore;
+  record.warnings = logger_.warningCount - warningsBefore;
+  distributeMessages(logger_);
+  record.entry = std::move(logger_.currentEntry());
+  logger_.currentGroup()->entries.clear();
+  record.seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+  return record;
+}
+
+FrameRecord Session::runFrame() {
+  FrameRecord record;
+  failure_ = Failure::none;
   const std::optional<std::vector<Orvel::Value>> inputs = setInputs();
+  record.inputMessages = logger_.messages.size();
   logger_.setInputsSet(inputs.has_value());
   if (inputs) {
-    const std::optional<std::vector<Orvel::Value>> values = executor_.run(*inputs);
-    logger_.setExecuted(values.has_value());
-    if (values) reportOutputs(*values);
-    logger_.setOutputsReported(values.has_value());
+    const Executor::Result result = executor_.run(*inputs);
+    failure_ = result.failure;
+    logger_.setExecuted(result.values.has_value());
+    logger_.setInterrupted(!result.values && result.failure == Failure::none);
+    if (result.values) reportOutputs(*result.values, record);
   }
-  logger_.setWithoutErrors(!hasMessageUpTo(levelError, firstMessage));
-  const bool tolerable = !settings_.strict || !hasMessageUpTo(levelWarning, firstMessage);
-  return tolerable && logger_.currentEntry().succeeded();
+  logger_.setWithoutErrors(!hasMessageUpTo(levelError));
+  record.failure = failureOfFrame();
+  return record;
+}
+
+Failure Session::failureOfFrame() const {
+  const bool isTolerable = !settings_.strict || !hasMessageUpTo(levelWarning);
+  if (isTolerable && logger_.currentEntry().succeeded()) return Failure::none;
+  if (logger_.currentEntry().interrupted) return Failure::transient;
+  return failure_ == Failure::none ? Failure::permanent : failure_;
 }
 
 /// Every port gets its turn, so that the user reads of all bad texts at once.
@@ -106,8 +122,8 @@ std::optional<Orvel::Value> Session::setInput(std::size_t index) {
   try {
     if (translation_.setInputValue(port.type, value, &data))
       return Orvel::fromAny(port.type, value);
-  } catch (const std::exception& error) {
-    logger_.addMessage(vtlcmdSource, levelError, "Setting " + who + " failed: " + error.what());
+  } catch (const std::exception&) {
+    noteFailure("Setting " + who + " failed: ");
   }
   if (logger_.messages.size() == messagesBefore)
     logger_.addMessage(vtlcmdSource, levelError, "The plug-in gave no value to " + who + ".");
@@ -115,22 +131,33 @@ std::optional<Orvel::Value> Session::setInput(std::size_t index) {
 }
 
 /// An output that the plug-in has no report for leaves a warning and doesn't stop the others.
-void Session::reportOutputs(const std::vector<Orvel::Value>& values) {
+void Session::reportOutputs(const std::vector<Orvel::Value>& values, FrameRecord& record) {
+  bool complete = true;
   for (const GraphOutput& output : graph_.outputs) {
+    const Orvel::Value& value = values[output.source];
     try {
-      reportOutput(translation_, output.name, values[output.source], settings_.outputForm,
-                   context_);
-    } catch (const std::exception& error) {
-      logger_.addMessage(
-          vtlcmdSource, levelError,
-          "Reporting output port " + inQuotes(output.name) + " failed: " + error.what());
+      const bool isReported =
+          reportOutput(translation_, output.name, value, settings_.outputForm, context_);
+      complete &= isReported;
+      if (isReported && settings_.recordValues)
+        record.values[output.name] = exactValue(graph_.typeOfSlot(output.source), value);
+    } catch (const std::exception&) {
+      complete = false;
+      noteFailure("Reporting output port " + inQuotes(output.name) + " failed: ");
     }
   }
+  logger_.setOutputsReported(complete);
 }
 
-bool Session::hasMessageUpTo(LogLevel level, std::size_t firstMessage) const {
-  return std::any_of(logger_.messages.begin() + static_cast<std::ptrdiff_t>(firstMessage),
-                     logger_.messages.end(), [level](const LogMessage& message) {
+void Session::noteFailure(const std::string& what) {
+  const CaughtFailure caught = caughtFailure();
+  logger_.addMessage(vtlcmdSource, levelError, what + caught.text);
+  failure_ = std::max(failure_, caught.failure);
+}
+
+bool Session::hasMessageUpTo(LogLevel level) const {
+  return std::any_of(logger_.messages.begin(), logger_.messages.end(),
+                     [level](const LogMessage& message) {
                        return message.level >= levelCritical && message.level <= level;
                      });
 }

@@ -9,6 +9,7 @@
 
 #include "execution/executor.h"
 #include "execution/frame_list.h"
+#include "execution/frame_record.h"
 #include "execution/output_reporting.h"
 #include "execution/plug_in.h"
 #include "graph/graph.h"
@@ -24,8 +25,12 @@ struct RunSettings {
   std::vector<std::string> arguments;
   PortValueMap inputValues;
   PortValueMap jobValues;
+  /// Those that are known before the run.
+  std::vector<std::filesystem::path> filesRead;
   /// Not empty.
   FrameList frames;
+  /// As the user gave them.
+  std::string framesText;
   double framesPerSecond = 24;
   HostPath sceneFile;
   HostPath secondaryPath;
@@ -33,11 +38,27 @@ struct RunSettings {
   OutputForm outputForm = OutputForm::value;
   /// A warning fails the run too.
   bool strict = false;
+  /// The records of frames have the outputs' exact values.
+  bool recordValues = false;
 };
 
-enum class RunOutcome { succeeded, failed, interrupted };
+/// What whoever starts a run is told of it.
+struct RunObserver {
+  /// With the frame's index.
+  std::function<void(std::size_t)> beforeFrame;
+  /// With the finished frame; the logger holds its messages until the return. False ends the run.
+  std::function<bool(const FrameRecord&)> afterFrame;
+};
 
-/// Runs a graph once a frame, in one group with one entry a frame.
+struct RunOutcome {
+  /// All frames ran: nothing ended the run before.
+  bool finished = false;
+  /// The worst of all frames; a failure that would come again is worse than one that may not.
+  Failure failure = Failure::none;
+};
+
+/// Runs a graph once a frame, in one group with one entry a frame. What the logger holds of a frame
+/// is gone when the next one begins.
 class Session {
  public:
   /// Everything handed over must outlive the session.
@@ -45,9 +66,8 @@ class Session {
           VtlCmdLogger& logger);
 
   /// Runs the frames in order; a failed frame doesn't keep the others from running, an interrupt
-  /// does. Calls `beforeFrame` with the frame's index and `afterFrame`.
-  RunOutcome run(const std::function<void(std::size_t)>& beforeFrame,
-                 const std::function<void()>& afterFrame);
+  /// does.
+  RunOutcome run(const RunObserver& observer);
 
  private:
   struct Port {
@@ -57,11 +77,15 @@ class Session {
   };
 
   RunDescription describe(std::size_t frameIndex) const;
-  bool runFrame(double frame);
+  FrameRecord recordFrame(std::size_t frameIndex);
+  FrameRecord runFrame();
   std::optional<std::vector<Orvel::Value>> setInputs();
   std::optional<Orvel::Value> setInput(std::size_t index);
-  void reportOutputs(const std::vector<Orvel::Value>& values);
-  bool hasMessageUpTo(LogLevel level, std::size_t firstMessage) const;
+  void reportOutputs(const std::vector<Orvel::Value>& values, FrameRecord& record);
+  /// Tells of the exception that is being handled.
+  void noteFailure(const std::string& what);
+  Failure failureOfFrame() const;
+  bool hasMessageUpTo(LogLevel level) const;
 
   const Graph& graph_;
   const PlugIn::Translation& translation_;
@@ -70,6 +94,8 @@ class Session {
   Executor executor_;
   RunContext context_;
   std::vector<Port> ports_;
+  /// The worst of what was caught in the current frame.
+  Failure failure_ = Failure::none;
 };
 
 }  // namespace vtlcmd::runner

@@ -209,7 +209,9 @@ class GraphBuilder {
 
 Graph parseGraph(std::string_view text) {
   const nlohmann::json document = parseJson(text);
-  return GraphBuilder(JsonPlace(document)).build();
+  Graph graph = GraphBuilder(JsonPlace(document)).build();
+  graph.text = text;
+  return graph;
 }
 
 }  // namespace vtlcmd::runner

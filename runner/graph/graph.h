@@ -45,6 +45,8 @@ struct GraphOutput {
 /// the place of a value during a run: that of each port, in order, then that of each node.
 struct Graph {
   std::string name;
+  /// What it was read from.
+  std::string text;
   /// Inputs, then Job ports.
   std::vector<GraphPort> ports;
   std::vector<GraphNode> nodes;

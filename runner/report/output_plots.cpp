@@ -1,64 +1,95 @@
 #include "report/output_plots.h"
 
 #include <algorithm>
-#include <charconv>
-
-#include "report/text_numbers.h"
+#include <array>
+#include <utility>
 
 namespace vtlcmd::runner {
 namespace {
 
-/// The frame's number as the entry tells it.
-double frameNumber(const ReportEntry& entry) {
-  double number = entry.frameIndex;
-  const std::string& text = entry.frameText;
-  std::from_chars(text.data(), text.data() + text.size(), number);
-  return number;
-}
+using Json = nlohmann::ordered_json;
 
-/// The item of a name, which is most often at the place where it was in the frame before.
-template <typename T>
-T& findOrAdd(std::vector<T>& items, std::string T::*name, const std::string& wanted,
-             std::size_t place) {
-  if (place < items.size() && items[place].*name == wanted) return items[place];
-  const auto found =
-      std::find_if(items.begin(), items.end(), [&](const T& item) { return item.*name == wanted; });
-  if (found != items.end()) return *found;
-  items.emplace_back().*name = wanted;
-  return items.back();
-}
+/// More points than this can't be told apart at the picture's size.
+constexpr std::uint64_t mostPoints = 1000;
 
-void addNumbers(std::vector<LinePlot>& plots, const OutputReport& report, std::size_t frameIndex,
-                std::size_t frameCount) {
-  const std::vector<NumberGroup> groups = numbersIn(report.typeName, report.valueText);
-  for (std::size_t i = 0; i < groups.size(); ++i) {
-    LinePlot& plot = findOrAdd(plots, &LinePlot::title, groups[i].title, i);
-    for (std::size_t j = 0; j < groups[i].numbers.size(); ++j) {
-      const NamedNumber& number = groups[i].numbers[j];
-      PlotSeries& series = findOrAdd(plot.series, &PlotSeries::name, number.name, j);
-      series.values.resize(frameCount);
-      series.values[frameIndex] = number.number;
+constexpr std::array componentNames{"x", "y", "z", "w"};
+
+/// What an array's exact value calls its statistics, and what the report text calls them.
+constexpr std::array<std::pair<const char*, const char*>, 3> statistics{
+    {{"min", "min"}, {"max", "max"}, {"average", "avg"}}};
+
+/// The plots of one output in one frame.
+class FramePlots {
+ public:
+  FramePlots(std::vector<LinePlot>& plots, std::uint64_t stretch, double frame)
+      : plots_(plots), stretch_(stretch), frame_(frame) {}
+
+  void addOutput(const Json& value) {
+    if (value.is_object() && !value.contains("sizes")) {
+      for (const auto& [name, property] : value.items()) addValue(name, property);
+    } else {
+      addValue("", value);
     }
   }
-}
+
+ private:
+  void addValue(const std::string& title, const Json& value) {
+    if (value.is_object()) {
+      if (value.contains("count")) addNumber(title, "count", value["count"]);
+      for (const auto& [key, name] : statistics) {
+        if (value.contains(key)) addStatistic(title, name, value[key]);
+      }
+    } else if (value.is_array()) {
+      for (std::size_t i = 0; i < std::min(value.size(), componentNames.size()); ++i)
+        addNumber(title, componentNames[i], value[i]);
+    } else {
+      addNumber(title, "value", value);
+    }
+  }
+
+  /// Each component of vectors has a plot of its own.
+  void addStatistic(const std::string& title, const char* name, const Json& value) {
+    if (!value.is_array()) return addNumber(title, name, value);
+    for (std::size_t i = 0; i < std::min(value.size(), componentNames.size()); ++i)
+      addNumber(title + (title.empty() ? "" : " ") + componentNames[i], name, value[i]);
+  }
+
+  /// Texts, those of numbers that aren't finite too, and truths leave gaps.
+  void addNumber(const std::string& title, const std::string& name, const Json& number) {
+    if (!number.is_number()) return;
+    findOrAdd(findOrAdd(plots_, &LinePlot::title, title).series, &PlotSeries::name, name)
+        .add({stretch_, frame_, number.get<double>()});
+  }
+
+  template <typename T>
+  static T& findOrAdd(std::vector<T>& items, std::string T::*name, const std::string& wanted) {
+    const auto found = std::find_if(items.begin(), items.end(),
+                                    [&](const T& item) { return item.*name == wanted; });
+    if (found != items.end()) return *found;
+    items.emplace_back().*name = wanted;
+    return items.back();
+  }
+
+  std::vector<LinePlot>& plots_;
+  std::uint64_t stretch_;
+  double frame_;
+};
 
 }  // namespace
 
-std::map<std::string, std::vector<LinePlot>> plotOutputs(const ReportGroup& group) {
-  std::map<std::string, std::vector<LinePlot>> outputs;
-  const std::size_t frameCount = group.entries.size();
-  if (frameCount < 2) return outputs;
-  std::vector<double> frames;
-  for (std::size_t i = 0; i < frameCount; ++i) {
-    frames.push_back(frameNumber(group.entries[i]));
-    for (const auto& [name, report] : group.entries[i].outputs)
-      addNumbers(outputs[name], report, i, frameCount);
+OutputPlots::OutputPlots(std::uint64_t frameCount)
+    : stretch_(frameCount <= mostPoints ? 1 : (2 * frameCount + mostPoints - 1) / mostPoints) {}
+
+void OutputPlots::add(std::uint64_t index, double frame, const Json& outputs) {
+  frames_.add(frame);
+  for (const auto& [name, output] : outputs.items()) {
+    if (!output.contains("value")) continue;
+    std::vector<LinePlot> plots;
+    const auto known = outputs_.find(name);
+    std::vector<LinePlot>& target = known == outputs_.end() ? plots : known->second;
+    FramePlots(target, index / stretch_, frame).addOutput(output["value"]);
+    if (!plots.empty()) outputs_.emplace(name, std::move(plots));
   }
-  std::erase_if(outputs, [](const auto& output) { return output.second.empty(); });
-  for (auto& [name, plots] : outputs) {
-    for (LinePlot& plot : plots) plot.frames = frames;
-  }
-  return outputs;
 }
 
 }  // namespace vtlcmd::runner

@@ -178,7 +178,7 @@ def check_memory_limit():
         "outputs": [{"name": "ones", "from": "ones"}]}))
     limited = "run", "fill.json", "--memory-limit", "100M", "-s"
     code, output, errors = run(*limited, "count=20000000")
-    check("too much memory", (code, output), (1, ""))
+    check("too much memory", (code, output), (75, ""))
     check("too much memory",
           "Node 'ones' (fill): there isn't enough memory for the result" in errors, True)
     check("enough memory", run(*limited, "count=10000000")[0], 0)

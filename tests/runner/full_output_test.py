@@ -1,16 +1,62 @@
-"""A standard output that takes nothing makes the program fail and say so."""
+"""Output that can't be written makes the program fail and say so, in one line."""
 
 import argparse
+import json
+import os
+import pathlib
+import resource
 import subprocess
 import sys
+import tempfile
 
 parser = argparse.ArgumentParser(description=__doc__)
 parser.add_argument("--program", required=True, nargs="+", help="the words that start it")
+parser.add_argument("--folder", required=True)
 arguments = parser.parse_args()
 
+MANY_FRAMES = ["run", "examples/animated.json", "-f", "1-900000"]
+problems = []
+
+
+def expect(what, found, wanted):
+    if found != wanted:
+        problems.append(f"{what}: {found!r:.500}, not {wanted!r}")
+
+
+def outcome(*words, **options):
+    run = subprocess.run([*arguments.program, *words], cwd=arguments.folder, text=True,
+                         stderr=subprocess.PIPE, **{"stdout": subprocess.DEVNULL, **options})
+    return run.returncode, run.stderr
+
+
+FULL = (1, "vtlcmd: the standard output can't be written\n")
 with open("/dev/full", "wb") as full:
-    run = subprocess.run([*arguments.program, "nodes"], stdout=full, stderr=subprocess.PIPE, text=True)
-expected = (1, "vtlcmd: the standard output can't be written\n")
-if (run.returncode, run.stderr) != expected:
-    print(run.returncode, run.stderr)
-    sys.exit(1)
+    expect("nodes", outcome("nodes", stdout=full), FULL)
+    # A run of so many frames would take minutes: it ends at the next frame.
+    expect("run", outcome(*MANY_FRAMES, stdout=full), FULL)
+    expect("report", outcome("report", "tests/runner/data/cut_off.journal", "-o", "-", stdout=full),
+           (1, "vtlcmd: tests/runner/data/cut_off.journal: 1 of 3 frames are missing\n" + FULL[1]))
+
+with tempfile.TemporaryDirectory() as name:
+    folder = pathlib.Path(name)
+    expect("a report where no room is",
+           outcome("run", "examples/animated.json", "--report", "/dev/full")[0], 75)
+
+    def limit():
+        resource.setrlimit(resource.RLIMIT_FSIZE, (100_000, 100_000))
+
+    journal = folder / "run.json.journal"
+    code, errors = outcome(*MANY_FRAMES, "--report", folder / "run.json", preexec_fn=limit)
+    expect("the journal's limit", (code, errors.splitlines()[0]),
+           (1, f"vtlcmd: the journal can't be written to {journal}: File too large"))
+    expect("the journal is kept", journal.exists(), True)
+    # What fits a journal need not fit the report that is made of it.
+    if (folder / "run.json").exists():
+        report = json.loads((folder / "run.json").read_text())
+        expect("the report of what there is", report["outcome"], "cut off")
+    expect("nothing else is left", [file for file in os.listdir(folder) if file.endswith(".part")], [])
+    expect("a report of it can be made",
+           outcome("report", journal, "-o", folder / "again.json")[0], 1)
+
+print("\n".join(problems))
+sys.exit(1 if problems else 0)

@@ -1,43 +1,197 @@
-"""An interrupt ends a run after the frame that it meets: exit code 130 and whole reports."""
+"""What ends a run before its last frame leaves it whole: the exit code, the report and the journal."""
 
 import argparse
 import json
+import os
 import pathlib
+import pty
+import random
 import signal
 import subprocess
 import sys
 import tempfile
+import zlib
 
 parser = argparse.ArgumentParser(description=__doc__)
 parser.add_argument("--program", required=True, nargs="+", help="the words that start it")
 parser.add_argument("--folder", required=True)
+parser.add_argument("--kills", type=int, default=20, help="how many runs to kill")
 arguments = parser.parse_args()
 
-with tempfile.TemporaryDirectory() as folder:
-    report_file = pathlib.Path(folder) / "report.json"
-    run = subprocess.Popen(
-        [*arguments.program, "run", "examples/animated.json", "-f", "1-900000",
-         "--report", report_file],
-        cwd=arguments.folder, stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True)
+FRAMES = 900_000
+MANY_FRAMES = ["run", "examples/animated.json", "-f", f"1-{FRAMES}"]
+# One frame of many nodes, each of which takes some time and little memory.
+LONG_FRAME = {
+    "nodes": [{"name": "file", "op": "constant", "type": "string", "value": "mesh.obj"},
+              {"name": "one", "op": "constant", "type": "int", "value": 1},
+              {"name": "mesh", "op": "read_mesh", "in": {"path": "file"}},
+              *({"name": f"n{i}", "op": "scatter", "in": {"mesh": "mesh", "count": "one", "seed": "one"}}
+                for i in range(20_000))],
+    "outputs": [{"name": "last", "from": "n19999"}],
+}
+MESH = "v 0 0 0\nv 1 0 0\nv 0 1 0\n" + "f 1 2 3\n" * 50_000
+FILES = ["long.json", "mesh.obj"]
+
+problems = []
+
+
+def expect(what, found, wanted=True):
+    if found != wanted:
+        problems.append(f"{what}: {found!r:.300}, not {wanted!r}")
+
+
+def default_signals():
+    """Whoever runs the tests may have them ignored, as nohup does."""
+    for number in (signal.SIGINT, signal.SIGTERM, signal.SIGHUP):
+        signal.signal(number, signal.SIG_DFL)
+
+
+def start(*words, **streams):
+    return subprocess.Popen([*arguments.program, *words], cwd=arguments.folder, text=True,
+                            preexec_fn=default_signals,
+                            **{"stdout": subprocess.PIPE, "stderr": subprocess.PIPE, **streams})
+
+
+def journal_lines(path):
+    """The objects of a journal; a torn last line is left out, a damaged one fails."""
+    lines = path.read_bytes().split(b"\n")
+    objects = []
+    for line in lines[:-1]:
+        body = line[len(b'{"crc32":"01234567",'):]
+        assert b'"%08x"' % zlib.crc32(body) == line[9:19], line[:100]
+        objects.append(json.loads(line))
+    return objects
+
+
+def ends_after_the_frame(folder, number):
+    report_file = folder / "report.json"
+    run = start(*MANY_FRAMES, "--report", report_file)
     first = run.stdout.readline()
-    run.send_signal(signal.SIGINT)
+    run.send_signal(number)
     lines = (first + run.stdout.read()).splitlines()
     errors = run.stderr.read()
     run.wait(timeout=60)
+    name = signal.Signals(number).name
+    expect(f"{name}: the exit code", run.returncode, 128 + number)
+    expect(f"{name}: standard error", errors, "")
     report = json.loads(report_file.read_text())
+    frames = report["frames"]
+    expect(f"{name}: not all frames ran", 0 < len(frames) < FRAMES)
+    expect(f"{name}: three lines a frame were printed", len(lines), 3 * len(frames))
+    expect(f"{name}: the report's outcome", (report["outcome"], report["exit_code"]),
+           ("interrupted", 128 + number))
+    expect(f"{name}: every frame succeeded", all(frame["succeeded"] for frame in frames))
+    expect(f"{name}: missing frames", report["totals"]["missing"], FRAMES - len(frames))
+    expect(f"{name}: what is left", sorted(os.listdir(folder)), [*FILES, "report.json"])
+    report_file.unlink()
 
-group = report["groups"][0]
-interrupted = [entry["interrupted"] for entry in group["entries"]]
-frames = len(interrupted)
-checks = {
-    "the exit code is 130": run.returncode == 130,
-    "nothing is on standard error": errors == "",
-    "not all frames ran": 0 < frames < 900_000,
-    "two lines a frame were printed": len(lines) == 2 * frames and "'position'" in lines[-1],
-    "the report says that the run isn't finished": group["finished"] is False,
-    "the last entry alone is interrupted": interrupted == [False] * (frames - 1) + [True],
-    "every entry succeeded": all(entry["succeeded"] for entry in group["entries"]),
-}
-failed = [name for name, holds in checks.items() if not holds]
-print("\n".join(failed))
-sys.exit(1 if failed else 0)
+
+def wait_for_frame(path):
+    """Until the journal says that a frame has begun."""
+    while not path.exists() or b'"start"' not in path.read_bytes():
+        pass
+
+
+def second_abandons_the_frame(folder):
+    report_file = folder / "report.json"
+    run = start("run", folder / "long.json", "--report", report_file)
+    wait_for_frame(folder / "report.json.journal")
+    run.send_signal(signal.SIGINT)
+    run.send_signal(signal.SIGTERM)
+    run.communicate(timeout=100)
+    report = json.loads(report_file.read_text())
+    expect("abandoned: the frame", [frame["interrupted"] for frame in report["frames"]], [True])
+    # Which of two signals at once is met first is the system's affair.
+    expect("abandoned: the exit code", run.returncode in (130, 143))
+    expect("abandoned: the report's exit code", report["exit_code"], run.returncode)
+    expect("abandoned: what is left", sorted(os.listdir(folder)), [*FILES, "report.json"])
+    report_file.unlink()
+
+
+def third_ends_at_once(folder):
+    journal = folder / "run.journal"
+    run = start("run", folder / "long.json", "--journal", journal)
+    wait_for_frame(journal)
+    # Stopped, it meets all three in one.
+    for number in (signal.SIGSTOP, signal.SIGINT, signal.SIGTERM, signal.SIGHUP, signal.SIGCONT):
+        run.send_signal(number)
+    run.communicate(timeout=100)
+    expect("third: ended by a signal", run.returncode < 0)
+    expect("third: the journal", [next(iter(set(line) - {"crc32", "times"}))
+                                  for line in journal_lines(journal)], ["run", "start"])
+    journal.unlink()
+
+
+def terminal_says_that_it_waits():
+    master, slave = pty.openpty()
+    run = start(*MANY_FRAMES, "--no-progress", stderr=slave)
+    run.stdout.readline()
+    run.send_signal(signal.SIGINT)
+    run.communicate(timeout=60)
+    os.close(slave)
+    text = os.read(master, 1000).decode()
+    os.close(master)
+    expect("terminal: the notice", "ending after this frame" in text)
+
+
+def reader_that_goes(folder):
+    report_file = folder / "report.json"
+    run = start(*MANY_FRAMES, "--report", report_file)
+    run.stdout.readline()
+    run.stdout.close()
+    expect("reader: standard error", run.stderr.read(), "")
+    expect("reader: the exit code", run.wait(timeout=60), 141)
+    report = json.loads(report_file.read_text())
+    expect("reader: the report", (report["outcome"], report["exit_code"]), ("stopped", 141))
+    expect("reader: what is left", sorted(os.listdir(folder)), [*FILES, "report.json"])
+    report_file.unlink()
+    run = start(*MANY_FRAMES)
+    run.stdout.readline()
+    run.stdout.close()
+    expect("reader without report", (run.stderr.read(), run.wait(timeout=60)), ("", 141))
+
+
+def kill_at(folder, lines):
+    """Kills a run that has printed so many lines; every frame among them must be in its journal."""
+    report_file = folder / "report.json"
+    journal = folder / "report.json.journal"
+    run = start(*MANY_FRAMES, "--report", report_file)
+    printed = [run.stdout.readline() for _ in range(lines)]
+    run.kill()
+    printed += run.stdout.read().splitlines(keepends=True)
+    run.communicate()
+    finished = sum("'position'" in line and line.endswith("\n") for line in printed)
+    expect("killed: what is left", sorted(os.listdir(folder)), [*FILES, "report.json.journal"])
+    kept = sum("frame" in line for line in journal_lines(journal))
+    expect(f"killed after {lines} lines: every finished frame is kept", kept >= finished)
+    again = start(*MANY_FRAMES, "--report", report_file)
+    expect("killed: the next run refuses", (again.communicate()[1].splitlines()[0], again.returncode),
+           (f"vtlcmd: {journal} holds the journal of another run: 'vtlcmd report {journal} -o "
+            f"{report_file}' makes a report of it, --restart begins it anew", 2))
+    made = start("report", journal, "-o", report_file)
+    expect("killed: frames are missing", (made.communicate()[1], made.returncode),
+           (f"vtlcmd: {journal}: {FRAMES - kept} of {FRAMES} frames are missing\n", 1))
+    report = json.loads(report_file.read_text())
+    expect("killed: the report", (report["outcome"], len(report["frames"])), ("cut off", kept))
+    restarted = start("run", "examples/animated.json", "--report", report_file, "--restart")
+    restarted.communicate()
+    expect("killed: --restart", (restarted.returncode, os.path.exists(journal)), (0, False))
+    report_file.unlink()
+
+
+with tempfile.TemporaryDirectory() as name:
+    folder = pathlib.Path(name)
+    (folder / "long.json").write_text(json.dumps(LONG_FRAME))
+    (folder / "mesh.obj").write_text(MESH)
+    for number in (signal.SIGINT, signal.SIGTERM, signal.SIGHUP):
+        ends_after_the_frame(folder, number)
+    second_abandons_the_frame(folder)
+    third_ends_at_once(folder)
+    terminal_says_that_it_waits()
+    reader_that_goes(folder)
+    moments = random.Random(20260131)
+    for _ in range(arguments.kills):
+        kill_at(folder, moments.randrange(1, 2000))
+
+print("\n".join(problems))
+sys.exit(1 if problems else 0)

@@ -33,16 +33,16 @@ struct GraphResult {
 inline GraphResult runGraph(std::string_view text) {
   const Graph graph = parseGraph(text);
   VtlCmdLogger logger(10);
-  const auto values = Executor(graph, logger).run({});
+  const Executor::Result run = Executor(graph, logger).run({});
   GraphResult result;
   for (const LogMessage& message : logger.messages) {
     EXPECT_EQ(message.source, vantrelSource);
     result.messages.push_back(std::string(VtlCmdLogger::levelNames[message.level]) + ": " +
                               message.text);
   }
-  if (!values) return result;
+  if (!run.values) return result;
   for (const GraphOutput& output : graph.outputs)
-    result.outputs.emplace(output.name, (*values)[output.source]);
+    result.outputs.emplace(output.name, (*run.values)[output.source]);
   return result;
 }
 

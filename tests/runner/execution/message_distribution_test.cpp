@@ -1,4 +1,4 @@
-#include "report/message_distribution.h"
+#include "execution/message_distribution.h"
 
 #include <gtest/gtest.h>
 

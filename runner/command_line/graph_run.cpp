@@ -1,0 +1,230 @@
+#include "command_line/graph_run.h"
+
+#include <iostream>
+#include <system_error>
+#include <utility>
+
+#include "command_line/journal_place.h"
+#include "command_line/output_targets.h"
+#include "command_line/port_kinds.h"
+#include "command_line/terminal.h"
+#include "execution/frame_printer.h"
+#include "execution/interrupt.h"
+#include "execution/progress.h"
+#include "graph/graph_file.h"
+#include "journal/run_journal.h"
+#include "journal/run_line.h"
+#include "text/path_text.h"
+#include "text/shortest_text.h"
+
+namespace vtlcmd::runner {
+namespace {
+
+/// What the run will complain of in every frame is told once, with a way out.
+void tellUnsettablePorts(const LoadedRun& loaded) {
+  for (const std::string& line : unsettablePorts(loaded.graph, loaded.texts))
+    std::cerr << "vtlcmd: " << line << '\n';
+}
+
+/// One run of a graph, from its first frame to its last.
+class GraphRun {
+ public:
+  GraphRun(const LoadedRun& loaded, const RunOptions& options, bool documentOnOutput,
+           RunJournal* journal)
+      : loaded_(loaded),
+        report_(documentOnOutput ? standardErrors() : standardOutput()),
+        logger_(options.report.printLimit()),
+        progress_(std::cerr, progressForm(options.progress), loaded.settings.frames.size()),
+        printer_(logger_, static_cast<std::int16_t>(loaded.settings.verbosity),
+                 options.report.sinks(report_), progress_, loaded.settings.frames.size() > 1),
+        journal_(journal) {}
+
+  /// Leaves the end of the journal to be written. Throws std::system_error when the journal can't
+  /// be written.
+  RunEnd run() {
+    Session session(loaded_.graph, loaded_.plugIn->translation(), loaded_.settings, logger_);
+    const RunOutcome outcome =
+        session.run({[this](std::size_t index) { beforeFrame(index); },
+                     [this](const FrameRecord& record) { return afterFrame(record); }});
+    progress_.hide();
+    printer_.printCounts();
+    if (loaded_.settings.verbosity >= levelVerbose) printCounts();
+    if (journalError_) throw std::system_error(*journalError_);
+    return endOf(outcome);
+  }
+
+ private:
+  void beforeFrame(std::size_t index) {
+    const std::string frame = shortestText(loaded_.settings.frames[index]);
+    if (journal_ != nullptr) journal_->startFrame(index, frame);
+    progress_.beginFrame(index, frame);
+  }
+
+  /// The frame is in the journal before anyone reads of it.
+  bool afterFrame(const FrameRecord& record) {
+    try {
+      if (journal_ != nullptr) journal_->addFrame(record);
+    } catch (const std::system_error& error) {
+      journalError_ = error;
+    }
+    printer_.print(record);
+    return report_.stream.good() && !journalError_;
+  }
+
+  /// Closes a run with what the graph system complained of: "2 errors, 1 warning".
+  void printCounts() const {
+    const char* separator = "";
+    const auto print = [&](std::uint64_t count, const char* noun) {
+      if (count == 0) return;
+      std::cerr << separator << count << ' ' << noun << (count == 1 ? "" : "s");
+      separator = ", ";
+    };
+    print(logger_.errorCount, "error");
+    print(logger_.warningCount, "warning");
+    if (*separator != '\0') std::cerr << '\n';
+  }
+
+  RunEnd endOf(const RunOutcome& outcome) const {
+    if (!report_.stream.good())
+      return end("stopped", readerGone() ? ExitCode::readerGone : ExitCode::runFailed);
+    if (interruptSignal() != 0) return end("interrupted", interruptedBy(interruptSignal()));
+    switch (outcome.failure) {
+      case Failure::none:
+        return end("succeeded", ExitCode::success);
+      case Failure::transient:
+        return end("failed", ExitCode::tryAgain);
+      case Failure::permanent:
+        break;
+    }
+    return end("failed", ExitCode::runFailed);
+  }
+
+  static RunEnd end(const char* outcome, ExitCode code) {
+    return {outcome, static_cast<int>(code), {}};
+  }
+
+  const LoadedRun& loaded_;
+  TextSink report_;
+  VtlCmdLogger logger_;
+  Progress progress_;
+  FramePrinter printer_;
+  /// Null when nobody wants one.
+  RunJournal* journal_;
+  std::optional<std::system_error> journalError_;
+};
+
+OutputError journalError(const std::filesystem::path& file, const std::system_error& error) {
+  return {"the journal can't be written to " + fileText(file), error};
+}
+
+/// What the program gives back when output failed too: a failure of the run itself counts more.
+ExitCode worst(ExitCode run, const OutputError& error) {
+  if (run != ExitCode::success && run != ExitCode::tryAgain) return run;
+  return error.isTransient() ? ExitCode::tryAgain : ExitCode::runFailed;
+}
+
+/// A run with a journal and the reports of it.
+class RecordedRun {
+ public:
+  RecordedRun(const LoadedRun& loaded, const RunOptions& options, const RunReports& reports,
+              JournalFile file)
+      : loaded_(loaded),
+        options_(options),
+        reports_(reports),
+        journal_(std::move(file),
+                 runContent(loaded.graph, loaded.settings, loaded.plugInFile,
+                            options.report.printLimit()),
+                 runTimes(loaded.settings.arguments)) {}
+
+  ExitCode run() {
+    runFrames();
+    writeReports();
+    const bool isComplete = !hasOutputError_;
+    if (isComplete && !options_.journal) journal_.file().remove();
+    if (!isComplete) {
+      std::cerr << "vtlcmd: the frames that ran are in " << fileText(journal_.file().path())
+                << '\n';
+    }
+    return code_;
+  }
+
+ private:
+  void runFrames() {
+    try {
+      GraphRun run(loaded_, options_, reports_.useStandardOutput(), &journal_);
+      const RunEnd end = run.run();
+      code_ = static_cast<ExitCode>(end.exitCode);
+      journal_.end(end);
+    } catch (const std::system_error& error) {
+      note(journalError(journal_.file().path(), error));
+    }
+  }
+
+  void writeReports() {
+    try {
+      reports_.write({journal_.file().lines(), fileText(journal_.file().path())});
+    } catch (const OutputError& error) {
+      note(error);
+    }
+  }
+
+  void note(const OutputError& error) {
+    std::cerr << "vtlcmd: " << error.what() << '\n';
+    code_ = worst(code_, error);
+    hasOutputError_ = true;
+  }
+
+  const LoadedRun& loaded_;
+  const RunOptions& options_;
+  const RunReports& reports_;
+  RunJournal journal_;
+  ExitCode code_ = ExitCode::success;
+  bool hasOutputError_ = false;
+};
+
+}  // namespace
+
+LoadedRun loadRun(const RunOptions& options, const std::vector<std::string>& arguments) {
+  refuseSharedInput(options.graph, options.files);
+  LoadedRun run;
+  run.graph = loadGraph(options.graph);
+  const PortTexts texts = textsFrom(options, run.graph);
+  run.texts = texts.byPort();
+  lookUpTextsInWorkingDirectory(run.graph, run.texts);
+  run.settings = settingsFrom(options, texts, arguments);
+  run.settings.filesRead = filesReadBy(run.graph, run.texts);
+  std::vector<std::filesystem::path> filesRead = run.settings.filesRead;
+  filesRead.insert(filesRead.end(), texts.files().begin(), texts.files().end());
+  refuseTargets(options, std::move(filesRead));
+  run.plugInFile = options.report.plugInFile();
+  run.plugIn = std::make_unique<PlugIn>(run.plugInFile);
+  return run;
+}
+
+void refuseTargets(const RunOptions& options, std::vector<std::filesystem::path> filesRead) {
+  filesRead.push_back(filePath(options.graph));
+  filesRead.push_back(options.report.plugInFile());
+  OutputTargets targets(std::move(filesRead));
+  for (const std::string& report : options.reports) targets.add("--report", report);
+  if (options.journal) targets.add("--journal", *options.journal);
+}
+
+ExitCode runGraph(const LoadedRun& loaded, const RunOptions& options, const RunReports& reports) {
+  if (loaded.settings.verbosity >= levelWarning) tellUnsettablePorts(loaded);
+  std::optional<JournalFile> file = openJournal(options, reports);
+  rememberInterrupts();
+  if (file) return RecordedRun(loaded, options, reports, *std::move(file)).run();
+  return static_cast<ExitCode>(GraphRun(loaded, options, false, nullptr).run().exitCode);
+}
+
+void reportLoadFailure(const RunOptions& options, const std::vector<std::string>& arguments,
+                       const RunReports& reports, const std::string& text) {
+  RunJournal journal(JournalFile::temporary(), unloadedRunContent(filePath(options.graph)),
+                     runTimes(arguments));
+  journal.end({"not loaded",
+               static_cast<int>(ExitCode::notLoaded),
+               {{vtlcmdSource, {{levelCritical, {text}}}}}});
+  reports.write({journal.file().lines(), "the journal"});
+  journal.file().remove();
+}
+}  // namespace vtlcmd::runner

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "command_line/exit_code.h"
+#include "command_line/run_options.h"
+#include "command_line/run_reports.h"
+#include "execution/plug_in.h"
+#include "graph/path_sources.h"
+
+namespace vtlcmd::runner {
+
+/// What a run needs, found and checked.
+struct LoadedRun {
+  Graph graph;
+  TextsByPort texts;
+  RunSettings settings;
+  std::filesystem::path plugInFile;
+  std::unique_ptr<PlugIn> plugIn;
+};
+
+/// Throws UsageError and LoadError.
+LoadedRun loadRun(const RunOptions& options, const std::vector<std::string>& arguments);
+
+/// Whatever a run writes must leave what it reads as it is. Throws UsageError.
+void refuseTargets(const RunOptions& options, std::vector<std::filesystem::path> filesRead);
+
+/// Runs a graph: prints what comes, keeps the journal and makes the reports of it. Says on standard
+/// error what went wrong with these. Throws UsageError for files that can't be written.
+ExitCode runGraph(const LoadedRun& loaded, const RunOptions& options, const RunReports& reports);
+
+/// The reports of a run that never began. Throws OutputError.
+void reportLoadFailure(const RunOptions& options, const std::vector<std::string>& arguments,
+                       const RunReports& reports, const std::string& text);
+
+}  // namespace vtlcmd::runner

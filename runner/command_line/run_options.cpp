@@ -1,0 +1,94 @@
+#include "command_line/run_options.h"
+
+#include "command_line/option_values.h"
+#include "command_line/port_texts.h"
+#include "text/path_text.h"
+
+namespace vtlcmd::runner {
+
+void addRunOptions(CLI::App& command, RunOptions& options) {
+  const auto addList = [&](const char* name, std::vector<std::string>& list, const char* help) {
+    return command.add_option(name, list, help)->allow_extra_args(false);
+  };
+  command.add_option("GRAPH", options.graph, "Graph file; '-' is the standard input")
+      ->required()
+      ->type_name("");
+  addList("-s,--set", options.inputs, "Text for an input port, handed on as it stands")
+      ->type_name("PORT=TEXT");
+  addList("-j,--set-job", options.jobs, "Text for a Job port")->type_name("PORT=TEXT");
+  addList("--set-file", options.files,
+          "Text for a port from a file, without its last line end; '-' is the standard input")
+      ->type_name("PORT=PATH");
+  command
+      .add_option("-f,--frames", options.frames,
+                  "Frames to run: 1 or 1-10 or 1-10x2 (or 1-10:2) or 1,5,9; fractions are fine")
+      ->type_name("FRAMES")
+      ->capture_default_str();
+  command
+      .add_option("--fps", options.framesPerSecond,
+                  "Frames a second, like 24 or 24000/1001; a frame's time is its number times the "
+                  "length of a frame")
+      ->type_name("NUMBER")
+      ->capture_default_str();
+  command
+      .add_option(
+          "--scene", options.scene,
+          "Scene file that the graph is told; on every platform //shots/scene.vs is a server "
+          "and its share, without a file name")
+      ->type_name("PATH");
+  command.add_option("--secondary", options.secondary, "Secondary path that the graph is told")
+      ->type_name("PATH");
+  command.add_flag("--strict", options.strict, "Fail on a warning too");
+  addList("--report", options.reports,
+          "Write a report of the run: a page for people to a file named *.html, else a JSON "
+          "document; '-' is the standard output, and the text then goes to standard error")
+      ->type_name("FILE");
+  command.add_flag("--no-times", options.noTimes,
+                   "Leave out of reports what another run of the same would tell differently");
+  command
+      .add_option("--journal", options.journal,
+                  "Keep a journal of the run, a line a frame, that outlives the process; 'vtlcmd "
+                  "report' makes reports of it")
+      ->type_name("FILE");
+  command.add_flag("--restart", options.restart,
+                   "Begin the journal anew where one is there already");
+  CLI::Option* progress = command.add_flag_callback(
+      "--progress", [&options] { options.progress = true; },
+      "Tell on standard error how far the run is, even off a terminal");
+  command
+      .add_flag_callback(
+          "--no-progress", [&options] { options.progress = false; },
+          "Never tell how far the run is")
+      ->excludes(progress);
+  options.read.addTo(command);
+  options.report.addTo(command);
+}
+
+PortTexts textsFrom(const RunOptions& options, const Graph& graph) {
+  PortTexts texts(graph);
+  for (const std::string& assignment : options.files) texts.setFromFile(assignment);
+  for (const std::string& assignment : options.inputs) texts.setInput(assignment);
+  for (const std::string& assignment : options.jobs) texts.setJob(assignment);
+  return texts;
+}
+
+RunSettings settingsFrom(const RunOptions& options, const PortTexts& texts,
+                         std::vector<std::string> arguments) {
+  RunSettings settings;
+  settings.graphFile = filePath(options.graph);
+  settings.arguments = std::move(arguments);
+  settings.inputValues = texts.inputs();
+  settings.jobValues = texts.jobs();
+  settings.frames = parseFrames(options.frames);
+  settings.framesText = options.frames;
+  settings.framesPerSecond = parseFramesPerSecond(options.framesPerSecond);
+  settings.sceneFile = parsePath("--scene", options.scene);
+  settings.secondaryPath = parsePath("--secondary", options.secondary);
+  settings.verbosity = options.report.verbosity();
+  settings.outputForm = options.report.outputForm();
+  settings.strict = options.strict;
+  settings.recordValues = !options.reports.empty() || options.journal.has_value();
+  return settings;
+}
+
+}  // namespace vtlcmd::runner

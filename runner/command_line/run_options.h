@@ -1,0 +1,47 @@
+#pragma once
+
+#include <CLI/App.hpp>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "command_line/port_texts.h"
+#include "command_line/read_options.h"
+#include "command_line/report_options.h"
+#include "execution/session.h"
+#include "graph/graph.h"
+
+namespace vtlcmd::runner {
+
+/// What the command line of `run` says, as it stands there.
+struct RunOptions {
+  std::string graph;
+  std::vector<std::string> inputs;
+  std::vector<std::string> jobs;
+  std::vector<std::string> files;
+  std::string frames = "1";
+  std::string framesPerSecond = "24";
+  std::string scene;
+  std::string secondary;
+  bool strict = false;
+  std::vector<std::string> reports;
+  bool noTimes = false;
+  std::optional<std::string> journal;
+  bool restart = false;
+  /// Nothing: on a terminal.
+  std::optional<bool> progress;
+  ReadOptions read;
+  ReportOptions report;
+};
+
+/// Adds them to the command; they must outlive the parse.
+void addRunOptions(CLI::App& command, RunOptions& options);
+
+/// The texts that the options give to the graph's ports. Throws UsageError.
+PortTexts textsFrom(const RunOptions& options, const Graph& graph);
+
+/// Throws UsageError.
+RunSettings settingsFrom(const RunOptions& options, const PortTexts& texts,
+                         std::vector<std::string> arguments);
+
+}  // namespace vtlcmd::runner

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <map>
+#include <string>
+
+#include "logging/run_report.h"
+
+namespace vtlcmd::runner {
+
+/// Whether another attempt at the same frame may go better. The larger is the worse.
+enum class Failure {
+  none,
+  /// Of the machine rather than of the graph: memory, disk, an interrupt.
+  transient,
+  /// The same again would fail again.
+  permanent,
+};
+
+/// What is known of a frame that has run.
+struct FrameRecord {
+  /// With its messages handed out.
+  ReportEntry entry;
+  Failure failure = Failure::none;
+  /// Of the graph system.
+  std::uint64_t errors = 0;
+  std::uint64_t warnings = 0;
+  /// How many of the frame's messages came while inputs were set; they are the first ones.
+  std::size_t inputMessages = 0;
+  double seconds = 0;
+  /// By output, its exact value as JSON; empty when nobody wants to know.
+  std::map<std::string, std::string> values;
+
+  bool succeeded() const noexcept { return failure == Failure::none; }
+};
+
+}  // namespace vtlcmd::runner

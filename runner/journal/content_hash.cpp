@@ -1,0 +1,25 @@
+#include "journal/content_hash.h"
+
+#include <fstream>
+#include <system_error>
+#include <vector>
+
+#include "journal/sha256.h"
+
+namespace vtlcmd::runner {
+
+std::optional<std::string> contentHash(const std::filesystem::path& file) {
+  std::error_code ignored;
+  // Reading from a pipe or a device would take something away, or never end.
+  if (!std::filesystem::is_regular_file(file, ignored)) return std::nullopt;
+  std::ifstream stream(file, std::ios::binary);
+  Sha256 hash;
+  std::vector<char> block(std::size_t{1} << 16U);
+  while (stream.read(block.data(), static_cast<std::streamsize>(block.size())) ||
+         stream.gcount() > 0)
+    hash.add({block.data(), static_cast<std::size_t>(stream.gcount())});
+  if (!stream.eof()) return std::nullopt;
+  return hash.finish();
+}
+
+}  // namespace vtlcmd::runner

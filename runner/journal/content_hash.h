@@ -1,0 +1,13 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+
+namespace vtlcmd::runner {
+
+/// The SHA-256 of a regular file's content, in 64 hexadecimal digits. Nothing for what can't be
+/// read.
+std::optional<std::string> contentHash(const std::filesystem::path& file);
+
+}  // namespace vtlcmd::runner

@@ -1,0 +1,51 @@
+#include "journal/journal_file.h"
+
+#include <cerrno>
+#include <random>
+#include <system_error>
+
+namespace vtlcmd::runner {
+namespace {
+
+[[noreturn]] void throwLast() {
+  throw std::system_error(errno != 0 ? errno : EIO, std::generic_category());
+}
+
+}  // namespace
+
+JournalFile::JournalFile(const std::filesystem::path& file) : file_(file) {
+  errno = 0;
+  stream_.open(file, std::ios::in | std::ios::out | std::ios::binary | std::ios::trunc);
+  if (!stream_) throwLast();
+}
+
+JournalFile JournalFile::temporary() {
+  std::random_device random;
+  const std::string name =
+      "vtlcmd-" + std::to_string(random()) + "-" + std::to_string(random()) + ".journal";
+  JournalFile file(std::filesystem::temp_directory_path() / name);
+  // An open file needs no name, except on Windows, where this fails.
+  std::error_code ignored;
+  std::filesystem::remove(file.file_, ignored);
+  return file;
+}
+
+void JournalFile::append(const std::string& line) {
+  errno = 0;
+  stream_ << line << std::flush;
+  if (!stream_) throwLast();
+}
+
+std::istream& JournalFile::lines() {
+  stream_.clear();
+  stream_.seekg(0);
+  return stream_;
+}
+
+void JournalFile::remove() noexcept {
+  stream_.close();
+  std::error_code ignored;
+  std::filesystem::remove(file_, ignored);
+}
+
+}  // namespace vtlcmd::runner

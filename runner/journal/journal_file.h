@@ -1,0 +1,38 @@
+#pragma once
+
+#include <filesystem>
+#include <fstream>
+#include <iosfwd>
+#include <string>
+
+namespace vtlcmd::runner {
+
+/// A journal that is being written. Each line is handed to the system whole before `append`
+/// returns, so that it outlives the process.
+class JournalFile {
+ public:
+  /// Begins an empty file in the place of what is there. Throws std::system_error.
+  explicit JournalFile(const std::filesystem::path& file);
+  /// A file of nobody else's in the folder for temporary ones, where the platform allows it without
+  /// a name. Throws std::system_error.
+  static JournalFile temporary();
+  JournalFile(JournalFile&&) = default;
+
+  /// Throws std::system_error; from then on the file takes no lines, since the last one may be
+  /// torn.
+  void append(const std::string& line);
+
+  /// The lines from the first one on. Nothing may be appended while they are read.
+  std::istream& lines();
+
+  /// Ends the file and its lines. Called once.
+  void remove() noexcept;
+
+  const std::filesystem::path& path() const noexcept { return file_; }
+
+ private:
+  std::filesystem::path file_;
+  std::fstream stream_;
+};
+
+}  // namespace vtlcmd::runner

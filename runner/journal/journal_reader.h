@@ -1,0 +1,46 @@
+#pragma once
+
+#include <cstddef>
+#include <iosfwd>
+#include <nlohmann/json.hpp>
+#include <string>
+
+#include "journal/journal_lines.h"
+#include "text/load_error.h"
+
+namespace vtlcmd::runner {
+
+/// A journal that can't be read, in words for the user that name it.
+class JournalError : public LoadError {
+ public:
+  using LoadError::LoadError;
+};
+
+/// Reads a journal line by line. A last line that was cut off is as if it weren't there; any other
+/// line that isn't what was written is an error.
+class JournalReader {
+ public:
+  /// The stream must outlive this; `name` is what errors call the journal. Throws JournalError when
+  /// it is no journal.
+  JournalReader(std::istream& stream, std::string name);
+
+  /// Goes to the next line. False at the end. Throws JournalError.
+  bool next();
+
+  /// The current line, valid until the next one. A JSON object of it is parsed by the second one,
+  /// which throws JournalError.
+  const JournalLine& line() const noexcept { return line_; }
+  nlohmann::ordered_json parse(std::string_view object) const;
+
+  /// Throws JournalError about the current line.
+  [[noreturn]] void fail() const;
+
+ private:
+  std::istream& stream_;
+  std::string name_;
+  std::string text_;
+  std::size_t number_ = 0;
+  JournalLine line_;
+};
+
+}  // namespace vtlcmd::runner

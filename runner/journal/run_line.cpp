@@ -1,0 +1,109 @@
+#include "journal/run_line.h"
+
+#include <nlohmann/json.hpp>
+
+#include "journal/content_hash.h"
+#include "journal/journal_lines.h"
+#include "journal/process_identity.h"
+#include "journal/sha256.h"
+#include "journal/time_text.h"
+#include "text/library_text.h"
+#include "text/path_text.h"
+#include "text/program_version.h"
+
+namespace vtlcmd::runner {
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+std::string textOf(const Json& json) {
+  return json.dump(-1, ' ', false, Json::error_handler_t::replace);
+}
+
+std::string hashOfText(std::string_view text) {
+  Sha256 hash;
+  hash.add(text);
+  return hash.finish();
+}
+
+Json hashOfFile(const std::filesystem::path& file) {
+  const std::optional<std::string> hash = contentHash(file);
+  return hash ? Json(*hash) : Json(nullptr);
+}
+
+Json filesOf(const RunSettings& settings) {
+  Json files = Json::object();
+  for (const std::filesystem::path& file : settings.filesRead)
+    files[fileText(file)] = hashOfFile(file);
+  return files;
+}
+
+Json textsOf(const Graph& graph, const PortValueMap& texts) {
+  Json document = Json::object();
+  for (const GraphPort& port : graph.ports) {
+    if (const PortValueEntry* entry = texts.find(libraryText(port.name)))
+      document[port.name] = standardText(entry->text);
+  }
+  return document;
+}
+
+Json portsOf(const Graph& graph) {
+  Json ports = Json::array();
+  for (const GraphPort& port : graph.ports)
+    ports.push_back({{"name", port.name}, {"type", nameOf(port.type)}, {"job", port.isJob}});
+  return ports;
+}
+
+Json outputsOf(const Graph& graph) {
+  Json outputs = Json::array();
+  for (const GraphOutput& output : graph.outputs)
+    outputs.push_back({{"name", output.name}, {"type", nameOf(graph.typeOfSlot(output.source))}});
+  return outputs;
+}
+
+}  // namespace
+
+std::string runContent(const Graph& graph, const RunSettings& settings,
+                       const std::filesystem::path& plugIn, std::uint32_t printLimit) {
+  const Json options{{"frames_per_second", settings.framesPerSecond},
+                     {"scene_file", utf8Path(settings.sceneFile)},
+                     {"secondary_path", utf8Path(settings.secondaryPath)},
+                     {"print_limit", printLimit},
+                     {"through", settings.outputForm == OutputForm::any ? "any" : "value"},
+                     {"strict", settings.strict}};
+  const Json key{{"graph", hashOfText(graph.text)},
+                 {"plug_in", hashOfFile(plugIn)},
+                 {"files", filesOf(settings)},
+                 {"input_texts", textsOf(graph, settings.inputValues)},
+                 {"job_texts", textsOf(graph, settings.jobValues)},
+                 {"settings", options}};
+  return textOf({{"form", journalForm},
+                 {"program", programVersion()},
+                 {"graph", graph.name},
+                 {"graph_file", fileText(settings.graphFile)},
+                 {"loaded", true},
+                 {"ports", portsOf(graph)},
+                 {"outputs", outputsOf(graph)},
+                 {"frames", settings.framesText},
+                 {"frame_count", settings.frames.size()},
+                 {"key", key}});
+}
+
+std::string unloadedRunContent(const std::filesystem::path& graphFile) {
+  return textOf({{"form", journalForm},
+                 {"program", programVersion()},
+                 {"graph", fileText(graphFile)},
+                 {"graph_file", fileText(graphFile)},
+                 {"loaded", false},
+                 {"frame_count", 0}});
+}
+
+std::string runTimes(const std::vector<std::string>& arguments) {
+  return textOf({{"arguments", arguments},
+                 {"host", hostName()},
+                 {"process", processNumber()},
+                 {"attempt", 1},
+                 {"started", timeText(std::chrono::system_clock::now())}});
+}
+
+}  // namespace vtlcmd::runner

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <iosfwd>
+
+#include "report/journal_survey.h"
+
+namespace vtlcmd::runner {
+
+/// Writes the report of a journal as one JSON document, a line a frame. The block "times" is left
+/// out when the survey has none. Throws JournalError.
+void writeJsonReport(std::ostream& stream, const JournalSource& source,
+                     const JournalSurvey& survey);
+
+}  // namespace vtlcmd::runner

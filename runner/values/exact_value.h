@@ -1,0 +1,17 @@
+#pragma once
+
+#include <string>
+
+#include "host/imports/orvel_values.h"
+#include "values/value_type.h"
+
+namespace vtlcmd::runner {
+
+/// The JSON text of a value of a registered type with all its bits: numbers, truths and texts as
+/// they are, vectors as arrays of their components, an object as its properties by name ("count" of
+/// a component property, the array of a data property) or null. An array as its "sizes", the number
+/// of elements a level, null where a level is ragged or has none; arrays that the plug-in
+/// summarises have "min", "max" and "average" by its arithmetic too, unless they are empty.
+std::string exactValue(const ValueType& type, const Orvel::Value& value);
+
+}  // namespace vtlcmd::runner
