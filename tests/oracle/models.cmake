@@ -1,0 +1,18 @@
+# The independent models of texts and statistics, for the oracles here and for the validator.
+set(oracle_sources
+  big_integer.cpp
+  element_generator.cpp
+  exact_decimal.cpp
+  number_grammar.cpp
+  number_texts.cpp
+  parse_model.cpp
+  soft_float.cpp
+  statistics_model.cpp
+  text_generator.cpp
+  text_model.cpp)
+list(TRANSFORM oracle_sources PREPEND ${CMAKE_CURRENT_LIST_DIR}/)
+add_library(oracle_models STATIC ${oracle_sources})
+# Millions of comparisons.
+target_compile_options(oracle_models PRIVATE $<IF:$<CONFIG:Release>,-O2,-O1>)
+target_include_directories(oracle_models PUBLIC ${CMAKE_CURRENT_LIST_DIR})
+target_link_libraries(oracle_models PRIVATE project_options)

@@ -1,0 +1,145 @@
+#include "checks/outcome.h"
+#include "checks/subjects.h"
+#include "checks/type_names.h"
+#include "host/port_host.h"
+#include "orvel_sdk/any_bridge.h"
+#include "orvel_sdk/type_factory.h"
+#include "orvel_sdk/value_factory.h"
+#include "values/samples.h"
+#include "vantrel_geometry/geometry_builder.h"
+#include "vantrel_object/object_builder.h"
+
+namespace vtlcmd::validator {
+namespace {
+
+using Vantrel::Geometry::setComponentProperty;
+using Vantrel::Geometry::setDataProperty;
+
+Orvel::String text(const char* characters) { return characters; }
+
+/// Reported in both forms and as an array's element.
+void expectReport(Session& session, const ObjectPtr& object, const std::string& report) {
+  PortHost host(session, 1);
+  expect(host.reportAny(makeAny(object)), "the Any is reported");
+  expectText("line of the Any", host.lastText(), "Output port 'port': (Object) " + report);
+  expect(host.reportValue(Orvel::makeValue(object)), "the value is reported");
+  expectText("line of the value", host.lastText(), "Output port 'port': (Object) " + report);
+  expect(host.reportAny(makeAny(arrayOf<ObjectPtr>({object}))), "the array is reported");
+  expectText("line of the array", host.lastText(),
+             "Output port 'port': (array<Object>) \n(1 out of 1 Object)[\n" + report + " ]\n");
+}
+
+void nullObject(Session& session) {
+  expectReport(session, {}, "{\n  No object produced, verify your inputs.\n}");
+}
+
+void emptyObject(Session& session) { expectReport(session, Vantrel::createObject(), "{\n}"); }
+
+const std::string idBlock = "  id: (3 int)\n  {\n     min: 1\n     max: 6\n     avg: 3\n  }\n";
+
+void wholeObject(Session& session) {
+  const auto object = Vantrel::createObject();
+  setDataProperty(*object, text("id"), makeAny(arrayOf<std::int32_t>({1, 2, 6})));
+  setDataProperty(*object, text("label"), makeAny(arrayOf<Orvel::String>({"a"})));
+  setComponentProperty(*object, text("pieces"), 3);
+  expectReport(
+      session, ObjectPtr(object.pointer, nullptr),
+      "{\n  pieces: count: 3\n" + idBlock + "  label: {non supported Data Geo Property}\n}");
+}
+
+void componentsInOrder(Session& session) {
+  const auto object = Vantrel::createObject();
+  setComponentProperty(*object, text("z"), 4294967295U);
+  setComponentProperty(*object, text("a"), 0);
+  expectReport(session, ObjectPtr(object.pointer, nullptr),
+               "{\n  z: count: 4294967295\n  a: count: 0\n}");
+}
+
+void unknownDataIsPassedOver(Session& session) {
+  const auto object = Vantrel::createObject();
+  setDataProperty(*object, text("none"), {});
+  setDataProperty(*object, text("scalar"), makeAny<std::int32_t>(1));
+  setDataProperty(*object, text("nested"), makeAny(nestedArray<std::int32_t, 2>(1)));
+  setDataProperty(*object, text("objects"), makeAny(arrayOf<ObjectPtr>({{}})));
+  setDataProperty(*object, text("id"), makeAny(arrayOf<std::int32_t>({1, 2, 6})));
+  expectReport(session, ObjectPtr(object.pointer, nullptr), "{\n" + idBlock + "}");
+}
+
+void plainPropertiesAreNotShown(Session& session) {
+  const auto object = Vantrel::createObject();
+  Vantrel::setProperty(*object, text("count"), makeAny(arrayOf<std::int32_t>({1})));
+  expectReport(session, ObjectPtr(object.pointer, nullptr), "{\n}");
+}
+
+void otherValueReadsAsNull(Session& session) {
+  PortHost host(session);
+  expect(host.setInput(Orvel::typeOf<ObjectPtr>(), false, makeAny<std::int32_t>(1)),
+         "the answer is true");
+  expectText("line", host.lastText(),
+             "Set input port 'port': (Object) {\n  No object produced, verify your inputs.\n}");
+}
+
+/// An empty array of the element type as a data property.
+template <typename T>
+void emptyDataProperty(Session& session, const std::string& name, bool hasStatistics) {
+  const auto object = Vantrel::createObject();
+  setDataProperty(*object, text("p"), makeAny(arrayOf<T>({})));
+  const std::string head = std::is_same_v<T, bool> ? " (0 " : "(0 ";
+  expectReport(session, ObjectPtr(object.pointer, nullptr),
+               hasStatistics ? "{\n  p: " + head + name + ")\n  {\nempty array...  }\n}"
+                             : "{\n  p: {non supported Data Geo Property}\n}");
+}
+
+template <typename T>
+void addFor(CheckList& checks, const std::string& type, ArrayClass arrayClass) {
+  const bool hasStatistics = arrayClass == ArrayClass::summarised;
+  checks.push_back({"object-data-" + nameOfType(type),
+                    "A data property of " + type +
+                        (hasStatistics ? " has statistics." : " is told to be unsupported."),
+                    [=](Session& session) { emptyDataProperty<T>(session, type, hasStatistics); }});
+}
+
+template <typename T>
+void wrappingProperty(Session& session, std::vector<T> elements, const std::string& block) {
+  const auto object = Vantrel::createObject();
+  setDataProperty(*object, text("p"), makeAny(arrayOf<T>(elements)));
+  expectReport(session, ObjectPtr(object.pointer, nullptr), "{\n  p: " + block + "\n}");
+}
+
+}  // namespace
+
+void addObjectChecks(CheckList& checks) {
+  checks.push_back({"object-null", "A null object says that none was produced.", nullObject});
+  checks.push_back({"object-empty", "An object without properties is two braces.", emptyObject});
+  checks.push_back(
+      {"object-whole", "Components come first, then data, in the library's order.", wholeObject});
+  checks.push_back(
+      {"object-components", "Components keep the library's order.", componentsInOrder});
+  checks.push_back({"object-unknown-data", "Data of no known array type is passed over.",
+                    unknownDataIsPassedOver});
+  checks.push_back({"object-plain-properties", "What is no geometry property isn't shown.",
+                    plainPropertiesAreNotShown});
+  checks.push_back({"object-other-value", "Another type's value reads as a null object.",
+                    otherValueReadsAsNull});
+  checks.push_back(
+      {"object-short-wraps", "The 16-bit sum of a short property wraps.", [](Session& session) {
+         wrappingProperty<std::int16_t>(session, {32767, 1},
+                                        "(2 short)\n  {\n     min: 1\n     max: "
+                                        "32767\n     avg: -16384\n  }");
+       }});
+  checks.push_back(
+      {"object-ushort-wraps", "The 16-bit sum of a ushort property wraps.", [](Session& session) {
+         wrappingProperty<std::uint16_t>(session, {65535, 1},
+                                         "(2 ushort)\n  {\n     min: 1\n     max: "
+                                         "65535\n     avg: 0\n  }");
+       }});
+  forEachRow(registeredTypes, [&](const auto& row) {
+    using T = TypeOf<decltype(row)>;
+    if constexpr (!std::is_same_v<T, ObjectPtr>) addFor<T>(checks, row.name, row.arrayClass);
+  });
+  forEachRow(reportOnlyTypes, [&](const auto& row) {
+    addFor<TypeOf<decltype(row)>>(checks, row.name, row.arrayClass);
+  });
+}
+
+}  // namespace vtlcmd::validator

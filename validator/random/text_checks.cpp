@@ -1,0 +1,98 @@
+#include <algorithm>
+#include <array>
+#include <bit>
+#include <type_traits>
+
+#include "checks/outcome.h"
+#include "checks/subjects.h"
+#include "checks/type_names.h"
+#include "host/port_host.h"
+#include "orvel_sdk/type_factory.h"
+#include "text_generator.h"
+#include "text_model.h"
+#include "values/samples.h"
+
+namespace vtlcmd::validator {
+namespace {
+
+constexpr int textCount = 500;
+
+template <typename T>
+constexpr bool isVector = false;
+template <typename Component, std::size_t Count>
+constexpr bool isVector<Math::Vector<Component, Count>> = true;
+
+/// What the model says of a text for a port of T.
+template <typename T>
+oracle::TextAnswer<T> answerOf(const std::string& text, const std::string& prefix) {
+  if constexpr (isVector<T>) {
+    const auto model = oracle::vectorModel<typename T::ComponentType>(text, T::componentCount,
+                                                                      valueType<T>().name, prefix);
+    if (!model.value) return {std::nullopt, model.messages};
+    T vector;
+    std::copy(model.value->begin(), model.value->end(), vector.components.begin());
+    return {vector, {}};
+  } else {
+    return oracle::scalarModel<T>(text, prefix);
+  }
+}
+
+template <typename T>
+bool sameBits(const T& a, const T& b) {
+  using Bytes = std::array<std::byte, sizeof(T)>;
+  return std::bit_cast<Bytes>(a) == std::bit_cast<Bytes>(b);
+}
+
+template <typename T>
+void compare(Session& session, const std::string& text) {
+  PortHost host(session);
+  host.giveText(Orvel::String(Orvel::StringView{text.data(), text.size()}));
+  const auto wanted =
+      answerOf<T>(text, std::string("Input port 'port' (") + valueType<T>().name + "): ");
+  const bool answer = host.setInput(Orvel::typeOf<T>());
+  expect(answer == wanted.value.has_value(), "the answer to '" + text + "' is the model's");
+  if (!answer) {
+    std::vector<std::string> lines;
+    for (const std::string& message : wanted.messages) lines.push_back("error " + message);
+    expectLines("messages", host.messages(), lines);
+    return;
+  }
+  const T* held = anyCast<T>(&host.value);
+  expect(held != nullptr && sameBits(*held, *wanted.value),
+         "the value of '" + text + "' is the model's, to the bit");
+}
+
+template <typename T>
+void textsAgree(Session& session, oracle::TextFamily family) {
+  oracle::TextGenerator texts(session.seed(), family);
+  for (int i = 0; i < textCount; ++i) {
+    const std::string text = texts.next();
+    try {
+      compare<T>(session, text);
+    } catch (const Failed& reason) {
+      throw Failed("text " + std::to_string(i) + " of seed " + std::to_string(session.seed()) +
+                   ": " + reason.what());
+    }
+  }
+}
+
+}  // namespace
+
+void addRandomTextChecks(CheckList& checks) {
+  forEachRegistered([&](const auto& row) {
+    using T = TypeOf<decltype(row)>;
+    if constexpr (std::is_arithmetic_v<T> || isVector<T>) {
+      const std::string type = row.name;
+      checks.push_back(
+          {"random-text-" + nameOfType(type),
+           "A " + type + " port answers random texts as an exact model does.",
+           [](Session& session) { textsAgree<T>(session, oracle::TextFamily::mixed); }});
+      checks.push_back(
+          {"random-hard-text-" + nameOfType(type),
+           "A " + type + " port answers texts at the limits as an exact model does.",
+           [](Session& session) { textsAgree<T>(session, oracle::TextFamily::hardNumbers); }});
+    }
+  });
+}
+
+}  // namespace vtlcmd::validator
