@@ -16,12 +16,11 @@ constexpr Orvel::Internal::TypeInfo rank4Tag = makeTag(intSpelling, 0, 4);
 constexpr Orvel::Internal::TypeInfo uniqueTag{intSpelling, 1, 1, 0, 0, 0};
 constexpr Orvel::Internal::TypeInfo countedTag = makeTag(ownSpelling, 0, 0);
 
-Counts lives{0, 0};
+Counts lives{0};
 
 struct Counted {
   Counted() = default;
-  Counted(const Counted&) noexcept { ++lives.copied; }
-  Counted(Counted&&) noexcept { ++lives.copied; }
+  Counted(const Counted&) = default;
   Counted& operator=(const Counted&) = delete;
   ~Counted() { ++lives.ended; }
 };

@@ -24,9 +24,8 @@ FOREIGN_MODULE_API Any onesOf(std::uint64_t count, std::uint32_t rank);
 /// An `int` under a tag that equals itself alone.
 FOREIGN_MODULE_API Any uniqueInt(std::int32_t value);
 
-/// How often a value of `counted` has been copied and ended.
+/// How often a value of `counted` has been ended.
 struct Counts {
-  int copied;
   int ended;
 };
 /// A value of the module's own type, which nobody registered.
