@@ -34,6 +34,11 @@ class PortValueMap {
   std::size_t size() const noexcept { return nodes_.size(); }
   bool empty() const noexcept { return nodes_.empty(); }
 
+  /// 0 until the first `insert`.
+  std::size_t bucketCount() const noexcept { return buckets_.size(); }
+  /// Of a terminated name; only of a map with buckets.
+  std::size_t bucketOf(const char* name) const noexcept;
+
  private:
   static constexpr std::size_t noNode = static_cast<std::size_t>(-1);
 
@@ -43,7 +48,6 @@ class PortValueMap {
     std::size_t next;
   };
 
-  std::size_t bucketOf(const char* name) const noexcept;
   std::size_t findNode(const Orvel::String& name) const noexcept;
   void rehash(std::size_t bucketCount);
 

@@ -11,6 +11,7 @@ TEST(PortValueMap, HashIsFnv1a) {
   EXPECT_EQ(PortValueMap::hash(""), 0xcbf29ce484222325);
   EXPECT_EQ(PortValueMap::hash("a"), 0xaf63dc4c8601ec8c);
   EXPECT_EQ(PortValueMap::hash("foobar"), 0x85944171f73967e8);
+  EXPECT_EQ(PortValueMap::hash("chongo was here!\n"), 0x46810940eff5f915);
 }
 
 TEST(PortValueMap, HashTakesHighBytesUnsigned) {
@@ -46,6 +47,7 @@ TEST(PortValueMap, LaterEntryReplacesTheEarlier) {
   map.insert("count", {"", "1"});
   map.insert("count", {"", "2"});
   EXPECT_EQ(map.size(), 1U);
+  ASSERT_NE(map.find("count"), nullptr);
   EXPECT_STREQ(map.find("count")->text.c_str(), "2");
 }
 
@@ -62,8 +64,36 @@ TEST(PortValueMap, CopiesStandAlone) {
   PortValueMap copy = map;
   map.insert("count", {"", "2"});
   map.insert("other", {"", "3"});
+  ASSERT_NE(copy.find("count"), nullptr);
   EXPECT_STREQ(copy.find("count")->text.c_str(), "1");
   EXPECT_EQ(copy.find("other"), nullptr);
+}
+
+TEST(PortValueMap, BucketIsTheHashMasked) {
+  PortValueMap map;
+  EXPECT_EQ(map.bucketCount(), 0U);
+  for (std::size_t count = 1; count <= 17; ++count) {
+    map.insert(("port" + std::to_string(count)).c_str(), {});
+    EXPECT_EQ(map.bucketCount(), count <= 8 ? 8U : count <= 16 ? 16U : 32U);
+  }
+  EXPECT_EQ(map.bucketOf("foobar"), 0x85944171f73967e8 & 31);
+  EXPECT_EQ(map.bucketOf("chongo was here!\n"), 0x46810940eff5f915 & 31);
+}
+
+TEST(PortValueMap, NamesAreToldApartBehindANulByte) {
+  const Orvel::String names[] = {Orvel::String("a"), Orvel::String(Orvel::StringView{"a\0b", 3}),
+                                 Orvel::String(Orvel::StringView{"a\0c", 3}),
+                                 Orvel::String(Orvel::StringView{"a\0", 2})};
+  PortValueMap map;
+  for (std::size_t i = 0; i < 3; ++i) map.insert(names[i], {"", std::to_string(i).c_str()});
+  EXPECT_EQ(map.size(), 3U);
+  for (std::size_t i = 0; i < 3; ++i) {
+    const PortValueEntry* entry = map.find(names[i]);
+    ASSERT_NE(entry, nullptr);
+    EXPECT_EQ(entry->text.c_str(), std::to_string(i));
+  }
+  EXPECT_EQ(map.find(names[3]), nullptr);
+  EXPECT_EQ(map.bucketOf(names[1].c_str()), map.bucketOf("a"));
 }
 
 }  // namespace

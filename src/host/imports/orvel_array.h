@@ -1,9 +1,11 @@
 #pragma once
 
+#include <concepts>
 #include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <new>
+#include <type_traits>
 #include <utility>
 
 #include "host/imports/api.h"
@@ -48,11 +50,19 @@ class Array {
   }
   ~Array() { release(); }
 
-  /// Grows by doubling, from 0 to 1 first.
-  void append(T element) {
+  /// Grows by doubling, from 0 to 1 first; then the size, and the element is made of `source` in
+  /// its place. `source` lies outside the array. When the library has no memory, or making the
+  /// element throws, the array holds the elements that it held.
+  template <std::convertible_to<T> Source = T>
+  void append(Source&& source) {
     if (size == capacity) moveTo(capacity == 0 ? 1 : capacity + capacity);
-    ::new (static_cast<void*>(data + size)) T(std::move(element));
-    ++size;
+    T* place = data + size++;
+    try {
+      ::new (static_cast<void*>(place)) T(std::forward<Source>(source));
+    } catch (...) {
+      --size;
+      throw;
+    }
   }
 
   const T& operator[](std::uint64_t index) const noexcept { return data[index]; }
@@ -67,6 +77,7 @@ class Array {
   static constexpr Internal::UntypedTypeRep typeRep() noexcept { return {sizeof(T), alignof(T)}; }
 
   void moveTo(std::uint64_t newCapacity) {
+    static_assert(std::is_nothrow_move_constructible_v<T>, "growth can't be taken back");
     T* block = static_cast<T*>(typeRep().allocate(newCapacity));
     std::uninitialized_move_n(data, size, block);
     release();

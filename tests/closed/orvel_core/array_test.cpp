@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 #include <memory>
+#include <stdexcept>
 #include <utility>
 
 #include "host/imports/orvel_array.h"
@@ -40,12 +41,62 @@ TEST(Array, HoldsMoveOnlyElementsAndEndsEachOnce) {
   EXPECT_EQ(ends, 5);
 }
 
-TEST(Array, AppendsItsOwnElement) {
-  Array<String> array;
-  array.append("first");
-  array.append(array[0]);
-  EXPECT_TRUE(array[0] == "first");
-  EXPECT_TRUE(array[1] == "first");
+/// Looks at the array that it is made in, and throws instead of being made when told to.
+class Watching {
+ public:
+  struct State {
+    Array<Watching>* array = nullptr;
+    std::uint64_t sizeWhenMade = 0;
+    const void* placeWhenMade = nullptr;
+    int copies = 0;
+    int ends = 0;
+    bool refuses = false;
+  };
+
+  explicit Watching(State& state) : state_(&state) {}
+  Watching(const Watching& other) : state_(other.state_) {
+    if (state_->refuses) throw std::runtime_error("no copy");
+    state_->sizeWhenMade = state_->array->size;
+    state_->placeWhenMade = this;
+    ++state_->copies;
+  }
+  Watching(Watching&& other) noexcept : state_(other.state_) {}
+  Watching& operator=(const Watching&) = delete;
+  ~Watching() { ++state_->ends; }
+
+ private:
+  State* state_;
+};
+
+TEST(Array, CountsTheElementThenMakesItInPlaceByOneCopy) {
+  Watching::State state;
+  const Watching source(state);
+  Array<Watching> array;
+  state.array = &array;
+  for (std::uint64_t count = 1; count <= 5; ++count) {
+    const int before = state.copies;
+    array.append(source);
+    EXPECT_EQ(state.copies, before + 1);
+    EXPECT_EQ(state.sizeWhenMade, count);
+    EXPECT_EQ(state.placeWhenMade, array.data + count - 1);
+  }
+  EXPECT_EQ(state.ends, 0 + 1 + 2 + 4) << "the moved elements of three smaller blocks";
+}
+
+TEST(Array, KeepsItsElementsWhenMakingOneThrows) {
+  Watching::State state;
+  const Watching source(state);
+  {
+    Array<Watching> array;
+    state.array = &array;
+    array.append(source);
+    state.refuses = true;
+    EXPECT_THROW(array.append(source), std::runtime_error);
+    EXPECT_EQ(array.size, 1U);
+    EXPECT_EQ(array.capacity, 2U) << "it grew first";
+    EXPECT_EQ(state.ends, 1) << "the element in the smaller block";
+  }
+  EXPECT_EQ(state.ends, 2);
 }
 
 TEST(Array, MovedFromIsEmpty) {
