@@ -3,6 +3,8 @@
 #include <array>
 #include <cfenv>
 #include <charconv>
+#include <cmath>
+#include <concepts>
 #include <locale>
 #include <sstream>
 #include <type_traits>
@@ -33,6 +35,15 @@ std::string streamText(Number number) {
   return stream.str();
 }
 
+/// Streams of some platforms write the sign of a NaN and others don't; std::to_chars always does.
+template <TextNumber Number>
+bool isNan(Number number) {
+  if constexpr (std::floating_point<Number>)
+    return std::isnan(number);
+  else
+    return false;
+}
+
 }  // namespace
 
 // std::to_chars gives a stream's bytes at a small part of its cost, but knows one locale and rounds
@@ -44,7 +55,7 @@ TextBuilder::TextBuilder(std::size_t room)
 
 template <TextNumber Number>
 TextBuilder& TextBuilder::operator<<(Number number) {
-  if (!plainNumbers_) return *this << streamText(number);
+  if (!plainNumbers_ || isNan(number)) return *this << streamText(number);
   Digits digits;
   const char* end = writeDigits(digits, number);
   text_.append(digits.data(), static_cast<std::size_t>(end - digits.data()));

@@ -3,6 +3,7 @@
 #include <cfenv>
 #include <gtest/gtest.h>
 #include <limits>
+#include <sstream>
 #include <string>
 
 #include "support/built_text.h"
@@ -49,6 +50,13 @@ TEST(TextBuilder, FloatingNumbersReadWithSixDigits) {
   EXPECT_EQ(read(-1.2345678e-300), "-1.23457e-300");
   EXPECT_EQ(read(-0.0), "-0");
   EXPECT_EQ(read(-std::numeric_limits<float>::infinity()), "-inf");
+  EXPECT_EQ(read(std::numeric_limits<double>::quiet_NaN()), "nan");
+}
+
+TEST(TextBuilder, SignOfNanReadsAsThePlatformsStreamsWriteIt) {
+  std::ostringstream stream;
+  stream << -std::numeric_limits<float>::quiet_NaN();
+  EXPECT_EQ(read(-std::numeric_limits<float>::quiet_NaN()), stream.str());
 }
 
 TEST(TextBuilder, GlobalLocaleOfTheTextsBeginApplies) {
