@@ -1,5 +1,6 @@
 #pragma once
 
+#include <concepts>
 #include <optional>
 #include <string>
 
@@ -14,19 +15,24 @@ namespace vtlcmd {
 template <typename T>
 concept Scalar = Number<T> || std::same_as<T, bool>;
 
+/// What a message starts with: a text, or what becomes one when a message is needed.
+template <typename T>
+concept MessagePrefix = std::constructible_from<std::string, const T&>;
+
 /// Adds the message about a piece of text that is no value: the prefix, the text as it stands, and
 /// the ending of the type's row.
 template <Registered T>
-void addParseError(VtlCmdLogger* logger, const std::string& prefix, const char* text) {
-  logger->addMessage(vtlcmdSource, levelError,
-                     joined({prefix, "Unable to convert '", text, valueType<T>().parseErrorEnd}));
+void addParseError(VtlCmdLogger* logger, const MessagePrefix auto& prefix, const char* text) {
+  logger->addMessage(
+      vtlcmdSource, levelError,
+      joined({std::string(prefix), "Unable to convert '", text, valueType<T>().parseErrorEnd}));
 }
 
 /// The value of a whole text, or nothing and exactly one message that starts with `prefix`.
 /// A number may have white space around it; a bool is one of two words and tolerates none.
 template <Scalar T>
 std::optional<T> fromString(const Orvel::String& text, VtlCmdLogger* logger,
-                            const std::string& prefix) {
+                            const MessagePrefix auto& prefix) {
   if constexpr (std::same_as<T, bool>) {
     if (text == "true") return true;
     if (text == "false") return false;

@@ -15,9 +15,10 @@ const char* wordOf(const InputPort& port) { return port.isJobPort ? "Job" : "inp
 
 }  // namespace
 
-std::string InputPort::prefix() const {
+PortPrefix::operator std::string() const {
   // The plain port's word has a capital here and in no other line.
-  return joined({isJobPort ? "Job" : "Input", " port '", name, "' (", typeName, "): "});
+  return joined(
+      {port.isJobPort ? "Job" : "Input", " port '", port.name, "' (", port.typeName, "): "});
 }
 
 void InputPort::addNoValueLine(VtlCmdLogger& logger) const {

@@ -2,6 +2,7 @@
 
 #include <concepts>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "host/store.h"
@@ -22,7 +23,7 @@ concept VectorType = Registered<T> && requires {
 
 template <Scalar T>
 void setFromString(Any& value, const Orvel::String& text, VtlCmdLogger* logger,
-                   const std::string& prefix) {
+                   const MessagePrefix auto& prefix) {
   if (const std::optional<T> parsed = fromString<T>(text, logger, prefix)) {
     store(value, makeAny(*parsed));
   } else {
@@ -34,12 +35,13 @@ void setFromString(Any& value, const Orvel::String& text, VtlCmdLogger* logger,
 /// otherwise every bad piece gets its own.
 template <VectorType T>
 void setFromString(Any& value, const Orvel::String& text, VtlCmdLogger* logger,
-                   const std::string& prefix) {
+                   const MessagePrefix auto& prefix) {
   const std::vector<std::string> pieces = splitString(text.c_str(), ',');
   if (pieces.size() != valueType<T>().components) {
-    logger->addMessage(vtlcmdSource, levelError,
-                       joined({prefix, "Cannot extract ", valueType<T>().name, " value from '",
-                               text.c_str(), "': invalid number of vector components"}));
+    logger->addMessage(
+        vtlcmdSource, levelError,
+        joined({std::string(prefix), "Cannot extract ", valueType<T>().name, " value from '",
+                text.c_str(), "': invalid number of vector components"}));
     value = Any{};
     return;
   }
@@ -63,16 +65,18 @@ void setFromString(Any& value, const Orvel::String& text, VtlCmdLogger* logger,
 }
 
 template <std::same_as<Orvel::String> T>
-void setFromString(Any& value, const Orvel::String& text, VtlCmdLogger*, const std::string&) {
-  store(value, makeAny(*fromString<T>(text)));
+void setFromString(Any& value, const Orvel::String& text, VtlCmdLogger*,
+                   const MessagePrefix auto&) {
+  store(value, makeAny(std::move(*fromString<T>(text))));
 }
 
 /// An object can't be written as text: always refused.
 template <std::same_as<ObjectPtr> T>
 void setFromString(Any& value, const Orvel::String&, VtlCmdLogger* logger,
-                   const std::string& prefix) {
-  logger->addMessage(vtlcmdSource, levelError,
-                     joined({prefix, "UNSUPPORTED: setFromString() for ", valueType<T>().name}));
+                   const MessagePrefix auto& prefix) {
+  logger->addMessage(
+      vtlcmdSource, levelError,
+      joined({std::string(prefix), "UNSUPPORTED: setFromString() for ", valueType<T>().name}));
   value = Any{};
 }
 

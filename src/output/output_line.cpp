@@ -18,7 +18,7 @@ OutputLine::OutputLine(const Orvel::String& portName, const char* typeWord, VtlC
       text_(usualRoom + std::string_view(portName_).size() + std::string_view(typeWord).size()) {
   text_ << "Output port '" << portName_ << "': (" << typeWord_
         << (showsValue_ ? ") " : " output suppressed)");
-  valueStart_ = text_.text().size();
+  valueStart_ = text_.size();
 }
 
 void OutputLine::report() {

@@ -1,31 +1,27 @@
 #include "text/text_builder.h"
 
-#include <array>
+#include <algorithm>
 #include <cfenv>
 #include <charconv>
 #include <cmath>
 #include <concepts>
 #include <locale>
 #include <sstream>
-#include <type_traits>
 
 namespace vtlcmd {
 namespace {
 
 constexpr int streamPrecision = 6;
+/// The longest numbers are 64-bit integers.
+constexpr std::size_t longestNumber = 20;
 
-/// The longest are 64-bit integers, of twenty characters.
-using Digits = std::array<char, 24>;
-
-char* writeDigits(Digits& digits, double number) {
-  return std::to_chars(digits.begin(), digits.end(), number, std::chars_format::general,
-                       streamPrecision)
-      .ptr;
+char* writeNumber(char* first, char* last, double number) {
+  return std::to_chars(first, last, number, std::chars_format::general, streamPrecision).ptr;
 }
 
 template <std::integral Integer>
-char* writeDigits(Digits& digits, Integer number) {
-  return std::to_chars(digits.begin(), digits.end(), +number).ptr;
+char* writeNumber(char* first, char* last, Integer number) {
+  return std::to_chars(first, last, +number).ptr;
 }
 
 template <typename Number>
@@ -44,21 +40,24 @@ bool isNan(Number number) {
     return false;
 }
 
-}  // namespace
-
 // std::to_chars gives a stream's bytes at a small part of its cost, but knows one locale and rounds
 // to nearest alone.
-TextBuilder::TextBuilder(std::size_t room)
-    : plainNumbers_(std::locale() == std::locale::classic() && std::fegetround() == FE_TONEAREST) {
-  text_.reserve(room);
+bool numbersArePlain() {
+  return std::locale() == std::locale::classic() && std::fegetround() == FE_TONEAREST;
+}
+
+}  // namespace
+
+void TextBuilder::grow(std::size_t size) {
+  buffer_.resize(std::max(2 * buffer_.size(), size_ + size));
 }
 
 template <TextNumber Number>
 TextBuilder& TextBuilder::operator<<(Number number) {
-  if (!plainNumbers_ || isNan(number)) return *this << streamText(number);
-  Digits digits;
-  const char* end = writeDigits(digits, number);
-  text_.append(digits.data(), static_cast<std::size_t>(end - digits.data()));
+  if (!plainNumbers_) plainNumbers_ = numbersArePlain();
+  if (!*plainNumbers_ || isNan(number)) return *this << streamText(number);
+  char* first = roomFor(longestNumber);
+  size_ += static_cast<std::size_t>(writeNumber(first, first + longestNumber, number) - first);
   return *this;
 }
 

@@ -3,6 +3,7 @@
 #include <concepts>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -20,27 +21,42 @@ concept TextNumber = OneOf<T, bool, std::int16_t, std::uint16_t, std::int32_t, s
 ///
 /// Numbers read as a stream in its default state writes them: decimal integers, bools as 1 and 0,
 /// floats and doubles alike in the general format at precision 6. The global C++ locale, which we
-/// never set, and the rounding mode apply as they are when the text is begun.
+/// never set, and the rounding mode apply as they are at the first number.
 ///
 /// For one text on one thread. Allocation failure leaves as std::bad_alloc.
 class TextBuilder {
  public:
   /// `room`: characters that the text is expected to have; more only cost time.
-  explicit TextBuilder(std::size_t room);
+  explicit TextBuilder(std::size_t room) : buffer_(room, '\0') {}
 
   TextBuilder& operator<<(std::string_view piece) {
-    text_.append(piece);
+    size_ += piece.copy(roomFor(piece.size()), piece.size());
     return *this;
   }
   template <TextNumber Number>
   TextBuilder& operator<<(Number number);
 
-  const std::string& text() const noexcept { return text_; }
+  /// Characters written so far.
+  std::size_t size() const noexcept { return size_; }
+  /// The text so far, valid until more is written.
+  const std::string& text() {
+    buffer_.resize(size_);
+    return buffer_;
+  }
 
  private:
-  std::string text_;
-  /// Whether numbers have the form that needs no stream.
-  bool plainNumbers_;
+  /// Where the next `size` characters go.
+  char* roomFor(std::size_t size) {
+    if (buffer_.size() - size_ < size) grow(size);
+    return buffer_.data() + size_;
+  }
+  void grow(std::size_t size);
+
+  /// The text and what room there is behind it.
+  std::string buffer_;
+  std::size_t size_ = 0;
+  /// Whether numbers have the form that needs no stream; unknown before the first.
+  std::optional<bool> plainNumbers_;
 };
 
 }  // namespace vtlcmd
