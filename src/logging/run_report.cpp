@@ -5,6 +5,24 @@
 #include "logging/vtlcmd_logger.h"
 
 namespace vtlcmd {
+namespace {
+
+/// Adds a port's report or replaces it where it stands. Nothing has changed when memory fails.
+void setReport(std::map<std::string, OutputReport>& outputs, const char* name, const char* typeName,
+               const char* valueText, bool valueShown) {
+  const auto found = outputs.find(name);
+  if (found == outputs.end()) {
+    outputs.emplace(name, OutputReport{typeName, valueText, valueShown});
+    return;
+  }
+  OutputReport& report = found->second;
+  std::string ownTypeName = typeName;
+  report.valueText = valueText;
+  report.typeName = std::move(ownTypeName);
+  report.valueShown = valueShown;
+}
+
+}  // namespace
 
 void VtlCmdLogger::beginGroup(const std::string& name) {
   std::string ownName = name;
@@ -51,11 +69,11 @@ MessagesBySource& VtlCmdLogger::messagesFor(std::uint64_t groupIndex,
 
 void VtlCmdLogger::reportOutputValue(const char* name, const char* typeName,
                                      const char* valueText) {
-  currentEntry().outputs[name] = {typeName, valueText, true};
+  setReport(currentEntry().outputs, name, typeName, valueText, true);
 }
 
 void VtlCmdLogger::reportOutputSuppressed(const char* name, const char* typeName) {
-  currentEntry().outputs[name] = {typeName, "", false};
+  setReport(currentEntry().outputs, name, typeName, "", false);
 }
 
 void VtlCmdLogger::setLoaded(bool value) noexcept {
