@@ -31,20 +31,7 @@ std::string streamText(Number number) {
   return stream.str();
 }
 
-/// Streams of some platforms write the sign of a NaN and others don't; std::to_chars always does.
-template <TextNumber Number>
-bool isNan(Number number) {
-  if constexpr (std::floating_point<Number>)
-    return std::isnan(number);
-  else
-    return false;
-}
-
-// std::to_chars gives a stream's bytes at a small part of its cost, but knows one locale and rounds
-// to nearest alone.
-bool numbersArePlain() {
-  return std::locale() == std::locale::classic() && std::fegetround() == FE_TONEAREST;
-}
+const std::locale& classicLocale = std::locale::classic();
 
 }  // namespace
 
@@ -52,10 +39,18 @@ void TextBuilder::grow(std::size_t size) {
   buffer_.resize(std::max(2 * buffer_.size(), size_ + size));
 }
 
+// std::to_chars gives a stream's bytes at a small part of its cost, but knows one locale and rounds
+// to nearest alone.
 template <TextNumber Number>
 TextBuilder& TextBuilder::operator<<(Number number) {
-  if (!plainNumbers_) plainNumbers_ = numbersArePlain();
-  if (!*plainNumbers_ || isNan(number)) return *this << streamText(number);
+  if (!localeIsClassic_) localeIsClassic_ = std::locale() == classicLocale;
+  bool isPlain = *localeIsClassic_;
+  if constexpr (std::floating_point<Number>) {
+    // Streams of some platforms write the sign of a NaN and others don't; std::to_chars always
+    // does.
+    isPlain &= std::fegetround() == FE_TONEAREST && !std::isnan(number);
+  }
+  if (!isPlain) return *this << streamText(number);
   char* first = roomFor(longestNumber);
   size_ += static_cast<std::size_t>(writeNumber(first, first + longestNumber, number) - first);
   return *this;

@@ -21,7 +21,7 @@ concept TextNumber = OneOf<T, bool, std::int16_t, std::uint16_t, std::int32_t, s
 ///
 /// Numbers read as a stream in its default state writes them: decimal integers, bools as 1 and 0,
 /// floats and doubles alike in the general format at precision 6. The global C++ locale, which we
-/// never set, and the rounding mode apply as they are at the first number.
+/// never set, applies as it is at the first number, the rounding mode at each.
 ///
 /// For one text on one thread. Allocation failure leaves as std::bad_alloc.
 class TextBuilder {
@@ -55,8 +55,8 @@ class TextBuilder {
   /// The text and what room there is behind it.
   std::string buffer_;
   std::size_t size_ = 0;
-  /// Whether numbers have the form that needs no stream; unknown before the first.
-  std::optional<bool> plainNumbers_;
+  /// Unknown before the first number.
+  std::optional<bool> localeIsClassic_;
 };
 
 }  // namespace vtlcmd

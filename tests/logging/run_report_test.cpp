@@ -115,6 +115,20 @@ TEST_F(RunReport, LaterReportReplacesTheEarlierWhole) {
   EXPECT_EQ(logger.fallbackEntry.outputs.size(), 1U);
 }
 
+TEST_F(RunReport, ReportMayBeMadeOfThePartsOfTheOneItReplaces) {
+  const std::string longType(40, 't');
+  const std::string longValue(60, 'v');
+  logger.reportOutputValue("result", longType.c_str(), longValue.c_str());
+  const OutputReport& report = logger.fallbackEntry.outputs.at("result");
+  logger.reportOutputValue(logger.fallbackEntry.outputs.begin()->first.c_str(),
+                           report.valueText.c_str(), report.typeName.c_str());
+  EXPECT_EQ(report.typeName, longValue);
+  EXPECT_EQ(report.valueText, longType);
+  logger.reportOutputValue("result", report.valueText.c_str() + 10, report.valueText.c_str() + 30);
+  EXPECT_EQ(report.typeName, std::string(30, 't'));
+  EXPECT_EQ(report.valueText, std::string(10, 't'));
+}
+
 TEST_F(RunReport, OutputsStandInByteOrderOfTheirNames) {
   for (const char* name : {"b", "a\xff", "ab", "a", "B"}) {
     logger.reportOutputValue(name, "int", "1");

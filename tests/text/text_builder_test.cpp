@@ -33,6 +33,28 @@ TEST(TextBuilder, PiecesFollowEachOther) {
   EXPECT_EQ(text.text(), "(3 out of " + std::string(100, 'x') + ")");
 }
 
+TEST(TextBuilder, TextSoFarCanBeReadBetweenPieces) {
+  TextBuilder text(0);
+  std::string expected;
+  for (int i = 0; i < 100; ++i) {
+    text << "piece " << i << ";";
+    expected += "piece " + std::to_string(i) + ";";
+    EXPECT_EQ(text.size(), expected.size());
+    if (i % 7 == 0) {
+      EXPECT_EQ(text.text(), expected);
+    }
+  }
+  EXPECT_EQ(text.text(), expected);
+}
+
+TEST(TextBuilder, LongestNumbersFitBehindAFullText) {
+  for (std::size_t room = 0; room < 64; ++room) {
+    TextBuilder text(room);
+    text << std::string(room, 'x') << std::numeric_limits<std::uint64_t>::max();
+    EXPECT_EQ(text.text(), std::string(room, 'x') + "18446744073709551615");
+  }
+}
+
 TEST(TextBuilder, IntegersReadInFullAndBoolsAsDigits) {
   EXPECT_EQ(read(true), "1");
   EXPECT_EQ(read(false), "0");
@@ -59,18 +81,23 @@ TEST(TextBuilder, SignOfNanReadsAsThePlatformsStreamsWriteIt) {
   EXPECT_EQ(read(-std::numeric_limits<float>::quiet_NaN()), stream.str());
 }
 
-TEST(TextBuilder, GlobalLocaleOfTheTextsBeginApplies) {
+TEST(TextBuilder, GlobalLocaleOfTheFirstNumberApplies) {
   TextBuilder before(0);
+  before << 1.5 << " ";
+  TextBuilder unasked(0);
+  unasked << "= ";
   {
     const testing::GroupingLocale locale;
-    before << 1.5;
+    before << 2.5;
+    unasked << 2.5 << " " << 1234567;
     EXPECT_EQ(read(std::uint64_t{1234567}), "1.234.567");
     EXPECT_EQ(read(std::int16_t{-12345}), "-12.345");
     EXPECT_EQ(read(2.5), "2,5");
     EXPECT_EQ(read(123456.0F), "123.456");
     EXPECT_EQ(read(true), "1");
   }
-  EXPECT_EQ(before.text(), "1.5");
+  EXPECT_EQ(before.text(), "1.5 2.5");
+  EXPECT_EQ(unasked.text(), "= 2,5 1.234.567");
   EXPECT_EQ(read(1234567), "1234567");
 }
 
