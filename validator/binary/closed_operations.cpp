@@ -6,8 +6,8 @@
 namespace vtlcmd::validator {
 namespace {
 
-/// In byte order.
-constexpr std::array<std::string_view, 70> operations{
+/// Ordered by class.
+constexpr std::array<std::string_view, 73> operations{
     // clang-format off
     "Orvel::ArrayType::ArrayType(Orvel::Type const&)",
     "Orvel::ArrayType::getElementType() const",
@@ -16,6 +16,7 @@ constexpr std::array<std::string_view, 70> operations{
     "Orvel::ArrayValue::getElement(unsigned long)",
     "Orvel::ArrayValue::size() const",
     "Orvel::ArrayValue::~ArrayValue()",
+    "Orvel::BidirectionalIterator<Orvel::StructType::Member>::BidirectionalIterator(Orvel::BidirectionalIterator<Orvel::StructType::Member> const&)",
     "Orvel::BidirectionalIterator<Orvel::StructType::Member>::~BidirectionalIterator()",
     "Orvel::ForwardIterator<Orvel::StructType::Member>::operator++(int)",
     "Orvel::ForwardIterator<Orvel::StructType::Member>::~ForwardIterator()",
@@ -32,7 +33,9 @@ constexpr std::array<std::string_view, 70> operations{
     "Orvel::String::c_str() const",
     "Orvel::String::compare(Orvel::String const&) const",
     "Orvel::String::internal_string_view() const",
+    "Orvel::String::operator=(Orvel::String const&)",
     "Orvel::String::operator=(Orvel::String&&)",
+    "Orvel::String::operator=(char const*)",
     "Orvel::String::operator==(Orvel::String const&) const",
     "Orvel::String::operator==(char const*) const",
     "Orvel::String::~String()",

@@ -1,0 +1,4 @@
+#include "orvel_sdk/type_factory.h"
+
+/// Kept by the linker, as it may have effects.
+static const auto names = Orvel::knownTypeNames();
