@@ -3,7 +3,7 @@
 #include <new>
 
 #include "command_line/command_line.h"
-#include "execution/interrupt.h"
+#include "platform/interrupt.h"
 #include "platform/process.h"
 #include "text/control_characters.h"
 

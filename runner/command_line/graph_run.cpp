@@ -9,11 +9,11 @@
 #include "command_line/port_kinds.h"
 #include "command_line/terminal.h"
 #include "execution/frame_printer.h"
-#include "execution/interrupt.h"
 #include "execution/progress.h"
 #include "graph/graph_file.h"
 #include "journal/run_journal.h"
 #include "journal/run_line.h"
+#include "platform/interrupt.h"
 #include "text/path_text.h"
 #include "text/shortest_text.h"
 

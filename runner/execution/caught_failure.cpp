@@ -4,20 +4,20 @@
 #include <new>
 #include <stdexcept>
 
+#include "readers/read_error.h"
+
 namespace vtlcmd::runner {
-namespace {
 
-constexpr const char* noMemory = "there isn't enough memory for the result";
-
-}  // namespace
-
-CaughtFailure caughtFailure() {
+CaughtFailure caughtFailure(const std::string& frame) {
+  const std::string noMemory = "there isn't enough memory for the result of frame " + frame;
   try {
     throw;
   } catch (const std::bad_alloc&) {
     return {noMemory, Failure::transient};
   } catch (const std::length_error&) {
     return {noMemory, Failure::permanent};
+  } catch (const ReadError& error) {
+    return {error.what(), error.isTransient() ? Failure::transient : Failure::permanent};
   } catch (const std::exception& error) {
     return {error.what(), Failure::permanent};
   }

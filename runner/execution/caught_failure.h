@@ -12,7 +12,8 @@ struct CaughtFailure {
   Failure failure;
 };
 
-/// What the exception that is being handled means for a frame. For handlers only.
-CaughtFailure caughtFailure();
+/// What the exception that is being handled means for a frame, whose number as the user knows it is
+/// `frame`. For handlers only.
+CaughtFailure caughtFailure(const std::string& frame);
 
 }  // namespace vtlcmd::runner

@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "execution/caught_failure.h"
-#include "execution/interrupt.h"
+#include "platform/interrupt.h"
 #include "text/library_text.h"
 
 namespace vtlcmd::runner {
@@ -32,8 +32,10 @@ Executor::Result Executor::run(const std::vector<Orvel::Value>& portValues) cons
     const GraphNode& node = graph_.nodes[index];
     try {
       slots[graph_.slotOfNode(index)] = evaluate(node, slots);
+    } catch (const FrameAbandoned&) {
+      return {};
     } catch (const std::exception&) {
-      const CaughtFailure caught = caughtFailure();
+      const CaughtFailure caught = caughtFailure(logger_.currentEntry().frameText);
       logger_.addVantrelMessage(severityError, sentenceAbout(node, caught.text));
       return {std::nullopt, caught.failure};
     }

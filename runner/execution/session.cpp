@@ -5,9 +5,9 @@
 #include <exception>
 
 #include "execution/caught_failure.h"
-#include "execution/interrupt.h"
 #include "execution/message_distribution.h"
 #include "orvel_sdk/any_bridge.h"
+#include "platform/interrupt.h"
 #include "text/library_text.h"
 #include "text/shortest_text.h"
 #include "values/exact_value.h"
@@ -150,7 +150,7 @@ void Session::reportOutputs(const std::vector<Orvel::Value>& values, FrameRecord
 }
 
 void Session::noteFailure(const std::string& what) {
-  const CaughtFailure caught = caughtFailure();
+  const CaughtFailure caught = caughtFailure(logger_.currentEntry().frameText);
   logger_.addMessage(vtlcmdSource, levelError, what + caught.text);
   failure_ = std::max(failure_, caught.failure);
 }

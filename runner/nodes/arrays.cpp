@@ -68,7 +68,10 @@ Orvel::Value element(const NodeCall& call) {
 void appendElements(std::vector<Orvel::Value>& elements, const Orvel::Value& array,
                     std::uint64_t start, std::uint64_t count) {
   Orvel::ArrayValue source(array);
-  for (std::uint64_t i = 0; i < count; ++i) elements.push_back(source.getElement(start + i));
+  for (std::uint64_t i = 0; i < count; ++i) {
+    if (i % elementsBetweenPolls == 0) throwIfAbandoned();
+    elements.push_back(source.getElement(start + i));
+  }
 }
 
 Orvel::Value slice(const NodeCall& call) {

@@ -14,7 +14,7 @@ namespace vtlcmd::runner {
 
 /// How a process ended.
 struct ProcessEnd {
-  enum class Kind { exited, tookTooMuchTime, crashed };
+  enum class Kind { exited, tookTooMuchTime, killed, crashed };
   Kind kind;
   /// Of one that exited.
   int exitCode = 0;

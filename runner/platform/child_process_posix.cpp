@@ -86,6 +86,7 @@ ProcessEnd endFrom(int status) {
   if (WIFEXITED(status)) return {ProcessEnd::Kind::exited, WEXITSTATUS(status)};
   const int signal = WTERMSIG(status);
   if (signal == SIGXCPU) return {ProcessEnd::Kind::tookTooMuchTime};
+  if (signal == SIGKILL) return {ProcessEnd::Kind::killed};
   // Only this thread asks for the text.
   return {ProcessEnd::Kind::crashed, 0, ::strsignal(signal)};  // NOLINT(concurrency-mt-unsafe)
 }
@@ -130,7 +131,7 @@ std::optional<std::size_t> ChildProcess::read(std::span<unsigned char> bytes,
     const auto left = duration_cast<milliseconds>(deadline - steady_clock::now()).count();
     if (left <= 0) return std::nullopt;
     pollfd waiting{handles_->output.number, POLLIN, 0};
-    // An interrupt of this process isn't the child's; what the run makes of it comes later.
+    // An interrupt of this process isn't the child's.
     if (::poll(&waiting, 1, static_cast<int>(std::min<decltype(left)>(left, 1'000'000))) <= 0)
       continue;
     const ssize_t count = ::read(handles_->output.number, bytes.data(), bytes.size());

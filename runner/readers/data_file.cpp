@@ -21,7 +21,7 @@ auto naming(const std::filesystem::path& file, Function&& function) {
     requireRegularFile(file);
     return function();
   } catch (const ReadError& error) {
-    throw ReadError(fileText(file) + ": " + error.what());
+    throw ReadError(fileText(file) + ": " + error.what(), error.isTransient());
   }
 }
 

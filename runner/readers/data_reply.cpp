@@ -39,7 +39,7 @@ class Payload final : public ByteSource {
  public:
   Payload(ByteSource& source, std::uint64_t size) : source_(source), left_(size) {
     if (size > source.remaining())
-      throw ReadError("it holds more than may be read (--read-memory)");
+      throw ReadError("it holds more than may be read (--read-memory)", true);
   }
 
   std::size_t read(std::span<unsigned char> bytes) override {
@@ -60,7 +60,8 @@ NpyArray parseArray(const std::string& name, ByteSource& payload, NpyForm form) 
   try {
     return parseNpy(payload, form);
   } catch (const ReadError& error) {
-    throw ReadError(name.empty() ? error.what() : inQuotes(name) + " in it: " + error.what());
+    throw ReadError(name.empty() ? error.what() : inQuotes(name) + " in it: " + error.what(),
+                    error.isTransient());
   }
 }
 

@@ -8,6 +8,7 @@
 #include <system_error>
 
 #include "platform/child_process.h"
+#include "platform/interrupt.h"
 #include "platform/memory_limit.h"
 #include "readers/data_message.h"
 #include "readers/data_reply.h"
@@ -21,8 +22,12 @@
 namespace vtlcmd::runner {
 namespace {
 
+/// How long an interrupt waits to be noticed.
+constexpr std::chrono::milliseconds pollTime{100};
+
 ReadError tooMuchMemory(std::uint64_t limit) {
-  return ReadError("reading it takes more than " + sizeText(limit) + " of memory (--read-memory)");
+  return ReadError("reading it takes more than " + sizeText(limit) + " of memory (--read-memory)",
+                   true);
 }
 
 std::string secondsText(std::chrono::seconds time) {
@@ -45,10 +50,15 @@ class ReaderOutput final : public ByteSource {
     if (bytes.size() > left_) throw tooMuchMemory(limits_.memory);
     left_ -= bytes.size();
     for (std::span<unsigned char> rest = bytes; !rest.empty();) {
-      const std::optional<std::size_t> count = process_.read(rest, deadline_);
-      if (!count)
-        throw ReadError("reading it takes longer than " + secondsText(limits_.wallTime) +
-                        " (--read-time)");
+      throwIfAbandoned();
+      const auto now = std::chrono::steady_clock::now();
+      if (now >= deadline_)
+        throw ReadError(
+            "reading it takes longer than " + secondsText(limits_.wallTime) + " (--read-time)",
+            true);
+      const std::optional<std::size_t> count =
+          process_.read(rest, std::min(deadline_, now + pollTime));
+      if (!count) continue;
       if (*count == 0) throwEnd();
       rest = rest.subspan(*count);
     }
@@ -64,7 +74,10 @@ class ReaderOutput final : public ByteSource {
     switch (end.kind) {
       case ProcessEnd::Kind::tookTooMuchTime:
         throw ReadError("reading it takes more than " + secondsText(limits_.processorTime) +
-                        " of processor time (--read-cpu)");
+                            " of processor time (--read-cpu)",
+                        true);
+      case ProcessEnd::Kind::killed:
+        throw ReadError("its reader was killed", true);
       case ProcessEnd::Kind::crashed:
         throw ReadError("its reader crashed: " + end.crash);
       case ProcessEnd::Kind::exited:
@@ -92,7 +105,9 @@ std::vector<DataValue> readForeignFile(const std::filesystem::path& file, NpyFor
     ReaderOutput output(file, limits);
     return parseReply(output, form);
   } catch (const std::system_error& error) {
-    throw ReadError("its reader can't be started: " + error.code().message());
+    const bool isTransient = error.code() == std::errc::resource_unavailable_try_again ||
+                             error.code() == std::errc::not_enough_memory;
+    throw ReadError("its reader can't be started: " + error.code().message(), isTransient);
   }
 }
 

@@ -5,6 +5,7 @@
 #include <string>
 #include <system_error>
 
+#include "platform/interrupt.h"
 #include "readers/read_error.h"
 
 namespace vtlcmd::runner {
@@ -53,6 +54,7 @@ InputFile::InputFile(const std::filesystem::path& file) {
 }
 
 std::size_t InputFile::read(std::span<unsigned char> bytes) {
+  throwIfAbandoned();
   const auto wanted =
       static_cast<std::streamsize>(std::min<std::uint64_t>(bytes.size(), remaining()));
   errno = 0;

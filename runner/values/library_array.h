@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <limits>
 #include <new>
@@ -9,6 +10,7 @@
 #include "host/imports/orvel_ptr.h"
 #include "orvel_core/make_ptr.h"
 #include "orvel_sdk/value_factory.h"
+#include "platform/interrupt.h"
 
 namespace vtlcmd::runner {
 
@@ -24,11 +26,18 @@ Orvel::Array<T> arrayWithRoom(std::uint64_t count) {
   return array;
 }
 
-/// An array whose element i is `function(i)`.
+/// So many elements are made in far less than a tenth of a second.
+inline constexpr std::uint64_t elementsBetweenPolls = 1U << 16U;
+
+/// An array whose element i is `function(i)`. Throws FrameAbandoned.
 template <typename T, typename Function>
 Orvel::Array<T> generateArray(std::uint64_t count, Function&& function) {
   Orvel::Array<T> array = arrayWithRoom<T>(count);
-  for (std::uint64_t i = 0; i < count; ++i) array.append(function(i));
+  for (std::uint64_t start = 0; start < count; start += elementsBetweenPolls) {
+    throwIfAbandoned();
+    const std::uint64_t end = start + std::min(elementsBetweenPolls, count - start);
+    for (std::uint64_t i = start; i < end; ++i) array.append(function(i));
+  }
   return array;
 }
 

@@ -168,6 +168,13 @@ def check_nodes():
     check("a node's file", (code, "Node 'mesh' (read_mesh): " in errors,
                             "deep.gltf: its reader crashed: Segmentation fault" in errors),
           (1, True, True))
+    write("shared.json", json.dumps({
+        "nodes": [{"name": "path", "op": "constant", "type": "string", "value": "shared.gltf"},
+                  {"name": "mesh", "op": "read_mesh", "in": {"path": "path"}}],
+        "outputs": [{"name": "mesh", "from": "mesh"}]}))
+    for limit in ("--read-memory", "100M"), ("--read-cpu", "1"), ("--read-time", "1"):
+        code, _, errors = run("run", "shared.json", *limit)
+        check(f"a limit may be met once and not again: {limit}", (code, limit[0] in errors), (75, True))
 
 
 def check_memory_limit():
@@ -180,7 +187,7 @@ def check_memory_limit():
     code, output, errors = run(*limited, "count=20000000")
     check("too much memory", (code, output), (75, ""))
     check("too much memory",
-          "Node 'ones' (fill): there isn't enough memory for the result" in errors, True)
+          "Node 'ones' (fill): there isn't enough memory for the result of frame 1.\n" in errors, True)
     check("enough memory", run(*limited, "count=10000000")[0], 0)
     for size in "", "0", "much", "-1G":
         check("sizes", run("run", "fill.json", "--memory-limit", size)[0], 2)

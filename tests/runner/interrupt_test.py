@@ -30,7 +30,21 @@ LONG_FRAME = {
     "outputs": [{"name": "last", "from": "n19999"}],
 }
 MESH = "v 0 0 0\nv 1 0 0\nv 0 1 0\n" + "f 1 2 3\n" * 50_000
-FILES = ["long.json", "mesh.obj"]
+# A scene whose nodes share children so deep that its reader never ends.
+ENDLESS = {
+    "asset": {"version": "2.0"}, "scene": 0, "scenes": [{"nodes": [0]}],
+    "nodes": [*({"children": [i + 1, i + 1]} for i in range(40)), {"mesh": 0}],
+    "meshes": [{"primitives": [{"attributes": {"POSITION": 0}}]}],
+    "accessors": [{"bufferView": 0, "componentType": 5126, "count": 3, "type": "VEC3"}],
+    "bufferViews": [{"buffer": 0, "byteLength": 36}],
+    "buffers": [{"byteLength": 36, "uri": "data:application/octet-stream;base64," + "A" * 48}],
+}
+READER = {
+    "nodes": [{"name": "file", "op": "constant", "type": "string", "value": "endless.gltf"},
+              {"name": "mesh", "op": "read_mesh", "in": {"path": "file"}}],
+    "outputs": [{"name": "mesh", "from": "mesh"}],
+}
+FILES = ["endless.gltf", "long.json", "mesh.obj", "reader.json"]
 
 problems = []
 
@@ -92,10 +106,20 @@ def wait_for_frame(path):
         pass
 
 
-def second_abandons_the_frame(folder):
+def wait_for_child(process):
+    children = pathlib.Path(f"/proc/{process.pid}/task/{process.pid}/children")
+    while process.poll() is None:
+        if words := children.read_text().split():
+            return int(words[0])
+    return None
+
+
+def second_abandons_the_frame(folder, graph, has_child=False):
     report_file = folder / "report.json"
-    run = start("run", folder / "long.json", "--report", report_file)
+    run = start("run", folder / graph, "--report", report_file)
     wait_for_frame(folder / "report.json.journal")
+    child = wait_for_child(run) if has_child else None
+    expect("abandoned: a reader runs", child is not None, has_child)
     run.send_signal(signal.SIGINT)
     run.send_signal(signal.SIGTERM)
     run.communicate(timeout=100)
@@ -103,6 +127,8 @@ def second_abandons_the_frame(folder):
     expect("abandoned: the frame", [frame["interrupted"] for frame in report["frames"]], [True])
     # Which of two signals at once is met first is the system's affair.
     expect("abandoned: the exit code", run.returncode in (130, 143))
+    if child:
+        expect("abandoned: the reader has ended", os.path.exists(f"/proc/{child}"), False)
     expect("abandoned: the report's exit code", report["exit_code"], run.returncode)
     expect("abandoned: what is left", sorted(os.listdir(folder)), [*FILES, "report.json"])
     report_file.unlink()
@@ -183,9 +209,13 @@ with tempfile.TemporaryDirectory() as name:
     folder = pathlib.Path(name)
     (folder / "long.json").write_text(json.dumps(LONG_FRAME))
     (folder / "mesh.obj").write_text(MESH)
+    (folder / "endless.gltf").write_text(json.dumps(ENDLESS))
+    (folder / "reader.json").write_text(json.dumps(READER))
     for number in (signal.SIGINT, signal.SIGTERM, signal.SIGHUP):
         ends_after_the_frame(folder, number)
-    second_abandons_the_frame(folder)
+    second_abandons_the_frame(folder, "long.json")
+    if "Assimp" in subprocess.check_output([*arguments.program, "--version"], text=True):
+        second_abandons_the_frame(folder, "reader.json", has_child=True)
     third_ends_at_once(folder)
     terminal_says_that_it_waits()
     reader_that_goes(folder)

@@ -23,8 +23,10 @@ TEST(Range, CountsInTheTypeOfItsCount) {
 }
 
 TEST(Range, TooLongForMemory) {
-  EXPECT_EQ(runOperation("range", {{"count", constant("ulong", "18446744073709551615")}}).messages,
-            (Messages{"error: Node 'node' (range): there isn't enough memory for the result."}));
+  EXPECT_EQ(
+      runOperation("range", {{"count", constant("ulong", "18446744073709551615")}}).messages,
+      (Messages{
+          "error: Node 'node' (range): there isn't enough memory for the result of frame ."}));
 }
 
 TEST(Random, IsTheSameEverywhere) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <exception>
+
 namespace vtlcmd::runner {
 
 /// From now on what asks the process to end (an interrupt, a termination, a hang-up; on Windows
@@ -14,6 +16,15 @@ int interruptSignal() noexcept;
 
 /// Whether the current frame isn't to be waited for.
 bool frameAbandoned() noexcept;
+
+/// Leaves what takes long in a frame that is abandoned.
+class FrameAbandoned : public std::exception {
+ public:
+  const char* what() const noexcept override;
+};
+
+/// To be called about every tenth of a second by what may take longer. Throws FrameAbandoned.
+void throwIfAbandoned();
 
 /// Whether something was written that nobody reads any more.
 bool readerGone() noexcept;

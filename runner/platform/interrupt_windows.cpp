@@ -3,7 +3,7 @@
 #include <string_view>
 #include <windows.h>
 
-#include "execution/interrupt.h"
+#include "platform/interrupt.h"
 
 namespace vtlcmd::runner {
 namespace {

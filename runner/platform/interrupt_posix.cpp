@@ -5,7 +5,7 @@
 #include <string_view>
 #include <unistd.h>
 
-#include "execution/interrupt.h"
+#include "platform/interrupt.h"
 
 namespace vtlcmd::runner {
 namespace {
