@@ -15,7 +15,6 @@
 #include "journal/run_line.h"
 #include "platform/interrupt.h"
 #include "text/path_text.h"
-#include "text/shortest_text.h"
 
 namespace vtlcmd::runner {
 namespace {
@@ -43,19 +42,18 @@ class GraphRun {
   /// be written.
   RunEnd run() {
     Session session(loaded_.graph, loaded_.plugIn->translation(), loaded_.settings, logger_);
-    const RunOutcome outcome =
-        session.run({[this](std::size_t index) { beforeFrame(index); },
-                     [this](const FrameRecord& record) { return afterFrame(record); }});
-    progress_.hide();
+    const RunOutcome outcome = session.run(
+        {[this](std::size_t index, const std::string& frame) { beforeFrame(index, frame); },
+         [this](const FrameRecord& record) { return afterFrame(record); }});
     printer_.printCounts();
+    progress_.hide();
     if (loaded_.settings.verbosity >= levelVerbose) printCounts();
     if (journalError_) throw std::system_error(*journalError_);
     return endOf(outcome);
   }
 
  private:
-  void beforeFrame(std::size_t index) {
-    const std::string frame = shortestText(loaded_.settings.frames[index]);
+  void beforeFrame(std::size_t index, const std::string& frame) {
     if (journal_ != nullptr) journal_->startFrame(index, frame);
     progress_.beginFrame(index, frame);
   }

@@ -87,7 +87,7 @@ RunSettings settingsFrom(const RunOptions& options, const PortTexts& texts,
   settings.verbosity = options.report.verbosity();
   settings.outputForm = options.report.outputForm();
   settings.strict = options.strict;
-  settings.recordValues = !options.reports.empty() || options.journal.has_value();
+  settings.recordFrames = !options.reports.empty() || options.journal.has_value();
   return settings;
 }
 

@@ -11,6 +11,7 @@
 #include "execution/plug_in.h"
 #include "graph/graph_file.h"
 #include "readers/data_file.h"
+#include "text/library_text.h"
 #include "text/path_text.h"
 
 namespace vtlcmd::runner {
@@ -33,7 +34,8 @@ bool showValues(const std::string& file, const ShowOptions& options,
     const std::string name = data.name.empty() ? file : file + "/" + data.name;
     if (!data.description.empty())
       context.logger->addMessage(vtlcmdSource, levelProgress, name + ": " + data.description);
-    complete &= reportOutput(translation, name, data.value, options.report.outputForm(), context);
+    complete &= reportOutput(translation, libraryText(name), data.value,
+                             options.report.outputForm(), context);
   }
   return complete;
 }

@@ -21,17 +21,27 @@ std::string sentenceAbout(const GraphNode& node, const std::string& text) {
 
 }  // namespace
 
-Executor::Executor(const Graph& graph, VtlCmdLogger& logger) : graph_(graph), logger_(logger) {}
+Executor::Executor(const Graph& graph, VtlCmdLogger& logger) : graph_(graph), logger_(logger) {
+  types_.reserve(graph.nodes.size());
+  for (const GraphNode& node : graph.nodes) {
+    ArgumentTypes& types = types_.emplace_back(node.sources.size());
+    for (std::size_t i = 0; i < node.sources.size(); ++i) {
+      for (const std::size_t slot : node.sources[i]) types[i].push_back(graph.typeOfSlot(slot));
+    }
+  }
+}
 
 Executor::Result Executor::run(const std::vector<Orvel::Value>& portValues) const {
   const CountingScope counting(logger_);
-  Slots slots(portValues.begin(), portValues.end());
+  Slots slots;
+  slots.reserve(graph_.ports.size() + graph_.nodes.size());
+  slots.assign(portValues.begin(), portValues.end());
   slots.resize(graph_.ports.size() + graph_.nodes.size());
   for (const std::size_t index : graph_.order) {
     if (frameAbandoned()) return {};
     const GraphNode& node = graph_.nodes[index];
     try {
-      slots[graph_.slotOfNode(index)] = evaluate(node, slots);
+      slots[graph_.slotOfNode(index)] = evaluate(node, types_[index], slots);
     } catch (const FrameAbandoned&) {
       return {};
     } catch (const std::exception&) {
@@ -41,18 +51,17 @@ Executor::Result Executor::run(const std::vector<Orvel::Value>& portValues) cons
     }
   }
   Result result{std::vector<Orvel::Value>()};
+  result.values->reserve(slots.size());
   for (std::optional<Orvel::Value>& slot : slots) result.values->push_back(*std::move(slot));
   return result;
 }
 
-Orvel::Value Executor::evaluate(const GraphNode& node, const Slots& slots) const {
-  std::vector<std::vector<ValueType>> types(node.sources.size());
+Orvel::Value Executor::evaluate(const GraphNode& node, const ArgumentTypes& types,
+                                const Slots& slots) const {
   std::vector<std::vector<Orvel::Value>> arguments(node.sources.size());
   for (std::size_t i = 0; i < node.sources.size(); ++i) {
-    for (const std::size_t slot : node.sources[i]) {
-      types[i].push_back(graph_.typeOfSlot(slot));
-      arguments[i].push_back(*slots[slot]);
-    }
+    arguments[i].reserve(node.sources[i].size());
+    for (const std::size_t slot : node.sources[i]) arguments[i].push_back(*slots[slot]);
   }
   const NodeTypes nodeTypes{types, std::nullopt};
   const std::function<void(const std::string&)> warn = [&](const std::string& text) {

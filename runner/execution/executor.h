@@ -28,10 +28,16 @@ class Executor {
  private:
   using Slots = std::vector<std::optional<Orvel::Value>>;
 
-  Orvel::Value evaluate(const GraphNode& node, const Slots& slots) const;
+  /// By parameter, the types of its sources.
+  using ArgumentTypes = std::vector<std::vector<ValueType>>;
+
+  Orvel::Value evaluate(const GraphNode& node, const ArgumentTypes& types,
+                        const Slots& slots) const;
 
   const Graph& graph_;
   VtlCmdLogger& logger_;
+  /// By node.
+  std::vector<ArgumentTypes> types_;
 };
 
 }  // namespace vtlcmd::runner

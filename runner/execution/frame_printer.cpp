@@ -19,8 +19,6 @@ FramePrinter::FramePrinter(const VtlCmdLogger& logger, std::int16_t verbosity,
       hasSeveralFrames_(hasSeveralFrames) {}
 
 void FramePrinter::print(const FrameRecord& frame) {
-  const std::string head = VtlCmdLogger::makeMessagePrefix(vtlcmdSource, levelProgress) + "Frame " +
-                           frame.entry.frameText + ":";
   // Of the report and of problems.
   std::array<bool, 2> hasHead{};
   for (std::size_t i = 0; i < logger_.messages.size(); ++i) {
@@ -29,7 +27,10 @@ void FramePrinter::print(const FrameRecord& frame) {
     if (i < frame.inputMessages && isRepetition(message)) continue;
     const bool isProblem = message.level <= levelWarning;
     bool& isHeaded = hasHead[isProblem ? 1 : 0];
-    if (hasSeveralFrames_ && !isHeaded) printer_.printLine(head, isProblem);
+    if (hasSeveralFrames_ && !isHeaded) {
+      printer_.printLine(VtlCmdLogger::makeMessagePrefix(vtlcmdSource, levelProgress),
+                         "Frame " + frame.entry.frameText + ":", isProblem);
+    }
     isHeaded = true;
     printer_.print(message);
   }
@@ -43,6 +44,7 @@ void FramePrinter::printCounts() {
     printer_.print({source, level, "In " + std::to_string(count) + " frames: " + text,
                     VtlCmdLogger::noCurrent, VtlCmdLogger::noCurrent});
   }
+  printer_.flush();
 }
 
 bool FramePrinter::isRepetition(const LogMessage& message) {

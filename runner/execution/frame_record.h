@@ -20,7 +20,7 @@ enum class Failure {
 
 /// What is known of a frame that has run.
 struct FrameRecord {
-  /// With its messages handed out.
+  /// With its messages handed out, when a report wants to know.
   ReportEntry entry;
   Failure failure = Failure::none;
   /// Of the graph system.
@@ -29,7 +29,7 @@ struct FrameRecord {
   /// How many of the frame's messages came while inputs were set; they are the first ones.
   std::size_t inputMessages = 0;
   double seconds = 0;
-  /// By output, its exact value as JSON; empty when nobody wants to know.
+  /// By output, its exact value as JSON; empty when no report wants to know.
   std::map<std::string, std::string> values;
 
   bool succeeded() const noexcept { return failure == Failure::none; }

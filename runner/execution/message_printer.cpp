@@ -28,21 +28,36 @@ void MessagePrinter::print(const LogMessage& message) {
   const char* color = !isProblem || !sinks_.colored   ? ""
                       : message.level == levelWarning ? yellow
                                                       : red;
-  printLine(VtlCmdLogger::makeMessagePrefix(message.source, message.level) + message.text,
-            isProblem, color);
+  printLine(VtlCmdLogger::makeMessagePrefix(message.source, message.level), message.text, isProblem,
+            color);
 }
 
-void MessagePrinter::printLine(const std::string& text, bool isProblem, const char* color) {
-  const TextSink& sink = isProblem ? sinks_.problems : sinks_.report;
-  if (sink.isTerminal) progress_.hide();
-  sink.stream << color << (sink.isTerminal ? withoutControls(text) : text)
-              << (*color == '\0' ? "" : plain) << '\n';
+void MessagePrinter::printLine(std::string_view prefix, std::string_view text, bool isProblem,
+                               const char* color) {
+  if (isProblem != pendingIsProblem_) writePending();
+  pendingIsProblem_ = isProblem;
+  pending_.append(color).append(prefix);
+  if (sinkOf(isProblem).isTerminal) {
+    pending_ += withoutControls(text);
+  } else {
+    pending_ += text;
+  }
+  pending_.append(*color == '\0' ? "" : plain) += '\n';
 }
 
 void MessagePrinter::flush() {
+  writePending();
   sinks_.report.stream.flush();
   sinks_.problems.stream.flush();
   progress_.show();
+}
+
+void MessagePrinter::writePending() {
+  if (pending_.empty()) return;
+  const TextSink& sink = sinkOf(pendingIsProblem_);
+  if (sink.isTerminal) progress_.hide();
+  sink.stream << pending_;
+  pending_.clear();
 }
 
 }  // namespace vtlcmd::runner

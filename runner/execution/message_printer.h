@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <iosfwd>
 #include <string>
+#include <string_view>
 
 #include "execution/progress.h"
 #include "logging/vtlcmd_logger.h"
@@ -35,18 +36,29 @@ class MessagePrinter {
   /// Prints the messages since the last call and flushes.
   void printNew();
 
-  /// Prints a message, if the verbosity admits it. What is printed is flushed by `flush`.
+  /// Prints a message, if the verbosity admits it. What is printed comes out with `flush` at the
+  /// latest: neighbouring lines of one sink go out in one write.
   void print(const LogMessage& message);
-  /// Prints a line where problems go, or where the report goes. `color` is a terminal's code.
-  void printLine(const std::string& text, bool isProblem, const char* color = "");
+  /// Prints prefix and text as a line where problems go, or where the report goes. `color` is a
+  /// terminal's code.
+  void printLine(std::string_view prefix, std::string_view text, bool isProblem,
+                 const char* color = "");
   void flush();
 
  private:
+  const TextSink& sinkOf(bool isProblem) const {
+    return isProblem ? sinks_.problems : sinks_.report;
+  }
+  void writePending();
+
   const VtlCmdLogger& logger_;
   std::int16_t verbosity_;
   Sinks sinks_;
   Progress& progress_;
   std::size_t printed_ = 0;
+  /// Lines that wait, all for the same sink.
+  std::string pending_;
+  bool pendingIsProblem_ = false;
 };
 
 }  // namespace vtlcmd::runner

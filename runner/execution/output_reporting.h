@@ -1,7 +1,5 @@
 #pragma once
 
-#include <string>
-
 #include "execution/plug_in.h"
 #include "host/host_records.h"
 #include "host/imports/orvel_values.h"
@@ -13,7 +11,7 @@ enum class OutputForm { value, any };
 
 /// Has the plug-in report an output port's value. False when it doesn't know the type; then the
 /// context's logger holds a warning, the plug-in's or ours.
-bool reportOutput(const PlugIn::Translation& translation, const std::string& portName,
+bool reportOutput(const PlugIn::Translation& translation, const Orvel::String& portName,
                   const Orvel::Value& value, OutputForm form, RunContext& context);
 
 }  // namespace vtlcmd::runner

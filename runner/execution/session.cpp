@@ -13,6 +13,14 @@
 #include "values/exact_value.h"
 
 namespace vtlcmd::runner {
+namespace {
+
+std::string describe(const GraphPort& port) {
+  return std::string(port.isJob ? "Job" : "input") + " port " + inQuotes(port.name) + " [" +
+         nameOf(port.type) + "]";
+}
+
+}  // namespace
 
 Session::Session(const Graph& graph, const PlugIn::Translation& translation,
                  const RunSettings& settings, VtlCmdLogger& logger)
@@ -28,6 +36,11 @@ Session::Session(const Graph& graph, const PlugIn::Translation& translation,
     ports_.push_back({libraryText(port.name), libraryTypeOf(port.type),
                       port.defaultValue ? Orvel::toAny(*port.defaultValue) : Any()});
   }
+  for (const GraphOutput& output : graph.outputs) outputNames_.push_back(libraryText(output.name));
+  description_.frameCount = static_cast<std::uint32_t>(settings.frames.size());
+  description_.printLimit = logger.printLimit;
+  description_.verbosity = settings.verbosity;
+  description_.throughAny = settings.outputForm == OutputForm::any ? 1 : 0;
 }
 
 RunOutcome Session::run(const RunObserver& observer) {
@@ -36,8 +49,9 @@ RunOutcome Session::run(const RunObserver& observer) {
   RunOutcome outcome;
   for (std::size_t i = 0; i < settings_.frames.size(); ++i) {
     if (interruptSignal() != 0) return outcome;
-    observer.beforeFrame(i);
-    const FrameRecord record = recordFrame(i);
+    describeFrame(i);
+    observer.beforeFrame(i, description_.frameText);
+    const FrameRecord record = recordFrame();
     outcome.failure = std::max(outcome.failure, record.failure);
     const bool goesOn = observer.afterFrame(record);
     logger_.messages.clear();
@@ -47,29 +61,22 @@ RunOutcome Session::run(const RunObserver& observer) {
   return outcome;
 }
 
-/// What all frames share isn't repeated for each.
-RunDescription Session::describe(std::size_t frameIndex) const {
-  RunDescription description;
-  description.frameIndex = static_cast<std::uint32_t>(frameIndex);
-  description.frameCount = static_cast<std::uint32_t>(settings_.frames.size());
-  description.printLimit = logger_.printLimit;
-  description.frameText = shortestText(settings_.frames[frameIndex]);
-  description.verbosity = settings_.verbosity;
-  description.throughAny = settings_.outputForm == OutputForm::any ? 1 : 0;
-  return description;
-}
-
-FrameRecord Session::recordFrame(std::size_t frameIndex) {
-  const auto start = std::chrono::steady_clock::now();
-  const EntryScope entry(logger_, describe(frameIndex));
+void Session::describeFrame(std::size_t frameIndex) {
   context_.frame = settings_.frames[frameIndex];
   context_.time = context_.frame * context_.frameLength;
+  description_.frameIndex = static_cast<std::uint32_t>(frameIndex);
+  description_.frameText = shortestText(context_.frame);
+}
+
+FrameRecord Session::recordFrame() {
+  const auto start = std::chrono::steady_clock::now();
+  const EntryScope entry(logger_, description_);
   const std::uint64_t errorsBefore = logger_.errorCount;
   const std::uint64_t warningsBefore = logger_.warningCount;
   FrameRecord record = runFrame();
   record.errors = logger_.errorCount - errorsBefore;
   record.warnings = logger_.warningCount - warningsBefore;
-  distributeMessages(logger_);
+  if (settings_.recordFrames) distributeMessages(logger_);
   record.entry = std::move(logger_.currentEntry());
   logger_.currentGroup()->entries.clear();
   record.seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
@@ -104,6 +111,7 @@ Failure Session::failureOfFrame() const {
 /// Every port gets its turn, so that the user reads of all bad texts at once.
 std::optional<std::vector<Orvel::Value>> Session::setInputs() {
   std::vector<Orvel::Value> values;
+  values.reserve(ports_.size());
   for (std::size_t i = 0; i < ports_.size(); ++i) {
     if (std::optional<Orvel::Value> value = setInput(i)) values.push_back(*std::move(value));
   }
@@ -115,31 +123,31 @@ std::optional<Orvel::Value> Session::setInput(std::size_t index) {
   const Port& port = ports_[index];
   const GraphPort& declared = graph_.ports[index];
   const std::size_t messagesBefore = logger_.messages.size();
-  const std::string who = std::string(declared.isJob ? "Job" : "input") + " port " +
-                          inQuotes(declared.name) + " [" + nameOf(declared.type) + "]";
   InputValueData data{nullptr, &port.name, declared.isJob, port.defaultValue, &context_};
   Any value;
   try {
     if (translation_.setInputValue(port.type, value, &data))
       return Orvel::fromAny(port.type, value);
   } catch (const std::exception&) {
-    noteFailure("Setting " + who + " failed: ");
+    noteFailure("Setting " + describe(declared) + " failed: ");
   }
   if (logger_.messages.size() == messagesBefore)
-    logger_.addMessage(vtlcmdSource, levelError, "The plug-in gave no value to " + who + ".");
+    logger_.addMessage(vtlcmdSource, levelError,
+                       "The plug-in gave no value to " + describe(declared) + ".");
   return std::nullopt;
 }
 
 /// An output that the plug-in has no report for leaves a warning and doesn't stop the others.
 void Session::reportOutputs(const std::vector<Orvel::Value>& values, FrameRecord& record) {
   bool complete = true;
-  for (const GraphOutput& output : graph_.outputs) {
+  for (std::size_t i = 0; i < outputNames_.size(); ++i) {
+    const GraphOutput& output = graph_.outputs[i];
     const Orvel::Value& value = values[output.source];
     try {
       const bool isReported =
-          reportOutput(translation_, output.name, value, settings_.outputForm, context_);
+          reportOutput(translation_, outputNames_[i], value, settings_.outputForm, context_);
       complete &= isReported;
-      if (isReported && settings_.recordValues)
+      if (isReported && settings_.recordFrames)
         record.values[output.name] = exactValue(graph_.typeOfSlot(output.source), value);
     } catch (const std::exception&) {
       complete = false;

@@ -38,14 +38,14 @@ struct RunSettings {
   OutputForm outputForm = OutputForm::value;
   /// A warning fails the run too.
   bool strict = false;
-  /// The records of frames have the outputs' exact values.
-  bool recordValues = false;
+  /// The records of frames have their messages and the outputs' exact values, for reports.
+  bool recordFrames = false;
 };
 
 /// What whoever starts a run is told of it.
 struct RunObserver {
-  /// With the frame's index.
-  std::function<void(std::size_t)> beforeFrame;
+  /// With the frame's index, and its number as the user knows it.
+  std::function<void(std::size_t, const std::string&)> beforeFrame;
   /// With the finished frame; the logger holds its messages until the return. False ends the run.
   std::function<bool(const FrameRecord&)> afterFrame;
 };
@@ -76,8 +76,8 @@ class Session {
     Any defaultValue;
   };
 
-  RunDescription describe(std::size_t frameIndex) const;
-  FrameRecord recordFrame(std::size_t frameIndex);
+  void describeFrame(std::size_t frameIndex);
+  FrameRecord recordFrame();
   FrameRecord runFrame();
   std::optional<std::vector<Orvel::Value>> setInputs();
   std::optional<Orvel::Value> setInput(std::size_t index);
@@ -93,7 +93,11 @@ class Session {
   VtlCmdLogger& logger_;
   Executor executor_;
   RunContext context_;
+  /// Of the current frame; what all frames share isn't repeated for each.
+  RunDescription description_;
   std::vector<Port> ports_;
+  /// By output.
+  std::vector<Orvel::String> outputNames_;
   /// The worst of what was caught in the current frame.
   Failure failure_ = Failure::none;
 };

@@ -30,6 +30,23 @@ TEST(JsonDocument, RepeatedKeysAreRefusedWhereTheyStand) {
             "$[2].b[0].a: the key 'a' stands twice in one object");
 }
 
+TEST(JsonDocument, EveryKindOfValueIsKept) {
+  EXPECT_EQ(
+      parseJson(R"({"b": [null, true, -1, 2, 0.5, "x", [], {}], "a": [[1], {"c": 2}]})").dump(),
+      R"({"a":[[1],{"c":2}],"b":[null,true,-1,2,0.5,"x",[],{}]})");
+  EXPECT_EQ(parseJson("7").dump(), "7");
+}
+
+TEST(JsonDocument, TextsThatAreNoJsonAreRefusedWithLineAndColumn) {
+  EXPECT_EQ(
+      refusalOf("{\"a\": [1,\n 2"),
+      "line 2, column 3: syntax error while parsing array - unexpected end of input; expected "
+      "']'");
+  EXPECT_EQ(refusalOf("[1] 2"),
+            "line 1, column 5: syntax error while parsing value - unexpected number literal; "
+            "expected end of input");
+}
+
 TEST(JsonDocument, NumbersOutOfRangeAreRefusedWhereTheyStand) {
   EXPECT_EQ(refusalOf(R"({"a": [{}, [], "x", 1e999]})"), "$.a[3]: number overflow parsing '1e999'");
   EXPECT_EQ(refusalOf("-1e999"), "$: number overflow parsing '-1e999'");
@@ -39,6 +56,8 @@ TEST(JsonDocument, NulCharactersAreRefusedWhereTheyStand) {
   using namespace std::string_view_literals;
   EXPECT_EQ(refusalOf(R"({"a": ["x\u0000y"]})"), "$.a[0]: a text can't hold a NUL character");
   EXPECT_EQ(refusalOf(R"([{"x\u0000y": 1}])"), "$[0]: a text can't hold a NUL character");
+  EXPECT_EQ(refusalOf(R"([1, {"a": {}, "x\u0000y": 1}])"),
+            "$[1]: a text can't hold a NUL character");
   EXPECT_EQ(refusalOf("[1]\n\0[2]"sv), "line 2, column 1: a NUL character can't stand here");
   EXPECT_EQ(refusalOf("[\"\0\"]"sv), "line 1, column 3: a NUL character can't stand here");
 }

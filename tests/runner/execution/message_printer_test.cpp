@@ -1,0 +1,66 @@
+#include "execution/message_printer.h"
+
+#include <gtest/gtest.h>
+#include <ostream>
+#include <streambuf>
+#include <string>
+#include <vector>
+
+namespace vtlcmd::runner {
+namespace {
+
+/// Notes each write to a stream.
+class WriteLog : public std::streambuf {
+ public:
+  WriteLog(std::string name, std::vector<std::string>& writes)
+      : name_(std::move(name)), writes_(writes) {}
+
+ private:
+  std::streamsize xsputn(const char* text, std::streamsize size) override {
+    writes_.push_back(name_ + ": " + std::string(text, static_cast<std::size_t>(size)));
+    return size;
+  }
+
+  std::string name_;
+  std::vector<std::string>& writes_;
+};
+
+class MessagePrinterTest : public testing::Test {
+ protected:
+  std::vector<std::string> writes_;
+  WriteLog reportLog_{"report", writes_};
+  WriteLog problemLog_{"problems", writes_};
+  std::ostream report_{&reportLog_};
+  std::ostream problems_{&problemLog_};
+  VtlCmdLogger logger_{10};
+  Progress progress_{problems_, ProgressForm::none, 1};
+  MessagePrinter printer_{logger_, 4, {{report_}, {problems_}}, progress_};
+};
+
+TEST_F(MessagePrinterTest, NeighbouringLinesOfOneSinkGoOutInOneWrite) {
+  logger_.addMessage(vtlcmdSource, levelProgress, "one");
+  logger_.addMessage(vtlcmdSource, levelProgress, "two");
+  printer_.printNew();
+  EXPECT_EQ(writes_,
+            std::vector<std::string>{"report: [vtlcmd]            one\n[vtlcmd]            two\n"});
+}
+
+TEST_F(MessagePrinterTest, TheOrderOfTheSinksIsKept) {
+  logger_.addMessage(vtlcmdSource, levelProgress, "one");
+  logger_.addMessage(vtlcmdSource, levelError, "two");
+  logger_.addMessage(vtlcmdSource, levelProgress, "three");
+  printer_.printNew();
+  EXPECT_EQ(writes_, (std::vector<std::string>{"report: [vtlcmd]            one\n",
+                                               "problems: [vtlcmd]  Error:    two\n",
+                                               "report: [vtlcmd]            three\n"}));
+}
+
+TEST_F(MessagePrinterTest, NothingIsPrintedTwice) {
+  logger_.addMessage(vtlcmdSource, levelProgress, "one");
+  printer_.printNew();
+  printer_.printNew();
+  EXPECT_EQ(writes_.size(), 1U);
+}
+
+}  // namespace
+}  // namespace vtlcmd::runner
