@@ -4,6 +4,7 @@
 
 #include "nodes/families.h"
 #include "nodes/operand.h"
+#include "nodes/vector_components.h"
 
 namespace vtlcmd::runner::node_families {
 namespace {
@@ -48,15 +49,6 @@ T combine(const T& a, const T& b) {
   }
 }
 
-/// The component type of a vector type, empty for anything else.
-std::string_view componentOf(const std::string& element) {
-  std::string_view component;
-  withTypeNamed(registeredTypes, element, [&]<typename T>() {
-    if constexpr (Composite<T>) component = valueType<typename T::ComponentType>().name;
-  });
-  return component;
-}
-
 /// A number joins a vector of such numbers as the vector of that many of it.
 ValueType resultOfTwo(const NodeTypes& types) {
   const ValueType& a = types[0];
@@ -65,22 +57,6 @@ ValueType resultOfTwo(const NodeTypes& types) {
   if (a.element == b.element || a.element == componentOf(b.element)) return {b.element, depth};
   if (b.element == componentOf(a.element)) return {a.element, depth};
   throw std::invalid_argument(nameOf(a) + " and " + nameOf(b) + " don't go together; convert one");
-}
-
-template <typename T>
-Orvel::Value spread(const Orvel::Value& value, const ValueType& type) {
-  if constexpr (Composite<T>) {
-    using Component = typename T::ComponentType;
-    if (type.element == valueType<Component>().name) {
-      const Operand<Component> numbers(value, type.depth > 0);
-      return singleOrArray<T>(numbers.size(), [&](std::uint64_t i) {
-        T vector;
-        vector.components.fill(numbers[i]);
-        return vector;
-      });
-    }
-  }
-  return value;
 }
 
 template <const auto& Function>

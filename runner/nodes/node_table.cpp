@@ -8,8 +8,10 @@ namespace vtlcmd::runner {
 
 std::span<const std::span<const NodeOperation>> nodeFamilies() {
   using namespace node_families;
-  static const std::array families{constants(), arithmetic(), conversions(), arrays(), vectors(),
-                                   texts(),     runFacts(),   objects(),     meshes(), files()};
+  static const std::array families{
+      constants(),  arithmetic(), comparisons(), conversions(),    arrays(),   selections(),
+      reductions(), ordering(),   vectors(),     vectorProducts(), matrices(), texts(),
+      runFacts(),   objects(),    meshes(),      files(),          textFiles()};
   return families;
 }
 

@@ -19,17 +19,31 @@ extern const TypeClass any;
 extern const TypeClass anyArray;
 /// A single int, uint, long or ulong.
 extern const TypeClass integer;
-/// A single number or bool.
-extern const TypeClass scalar;
+/// Numbers and bools, single or in an array.
+extern const TypeClass scalars;
+/// The same with texts.
+extern const TypeClass comparable;
+/// An array of them.
+extern const TypeClass comparableArray;
+/// Bools, single or in an array.
+extern const TypeClass conditions;
+/// An array of bools.
+extern const TypeClass conditionArray;
 /// Numbers and vectors of them, single or in an array.
 extern const TypeClass arithmetic;
-/// The same with bool.
+/// An array of numbers or vectors.
+extern const TypeClass arithmeticArray;
+/// Numbers, vectors and bools, single or in an array.
 extern const TypeClass convertible;
 /// float and double, single or in an array.
 extern const TypeClass floating;
 /// Vectors, single or in an array.
 extern const TypeClass vectors;
+/// A single matrix of floats or doubles.
+extern const TypeClass matrix;
 extern const TypeClass text;
+/// Texts, single or in an array.
+extern const TypeClass texts;
 /// A text that names a file.
 extern const TypeClass path;
 extern const TypeClass object;
