@@ -1,6 +1,7 @@
 #include "graph/json_document.h"
 
 #include <cstddef>
+#include <nlohmann/json.hpp>
 #include <string>
 #include <utility>
 #include <vector>

@@ -1,6 +1,7 @@
 #include "graph/json_place.h"
 
 #include <algorithm>
+#include <nlohmann/json.hpp>
 
 #include "graph/graph_error.h"
 #include "text/library_text.h"

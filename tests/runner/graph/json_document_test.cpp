@@ -1,6 +1,7 @@
 #include "graph/json_document.h"
 
 #include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
 
 #include "graph/graph_error.h"
 

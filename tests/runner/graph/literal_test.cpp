@@ -3,6 +3,7 @@
 #include <cmath>
 #include <gtest/gtest.h>
 #include <limits>
+#include <nlohmann/json.hpp>
 
 #include "graph/graph_error.h"
 #include "graph/json_document.h"
