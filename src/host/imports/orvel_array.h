@@ -1,6 +1,5 @@
 #pragma once
 
-#include <concepts>
 #include <cstddef>
 #include <cstdint>
 #include <memory>
@@ -53,17 +52,8 @@ class Array {
   /// Grows by doubling, from 0 to 1 first; then the size, and the element is made of `source` in
   /// its place. `source` lies outside the array. When the library has no memory, or making the
   /// element throws, the array holds the elements that it held.
-  template <std::convertible_to<T> Source = T>
-  void append(Source&& source) {
-    if (size == capacity) moveTo(capacity == 0 ? 1 : capacity + capacity);
-    T* place = data + size++;
-    try {
-      ::new (static_cast<void*>(place)) T(std::forward<Source>(source));
-    } catch (...) {
-      --size;
-      throw;
-    }
-  }
+  void append(const T& source) { makeLast(source); }
+  void append(T&& source) { makeLast(std::move(source)); }
 
   const T& operator[](std::uint64_t index) const noexcept { return data[index]; }
   const T* begin() const noexcept { return data; }
@@ -75,6 +65,18 @@ class Array {
 
  private:
   static constexpr Internal::UntypedTypeRep typeRep() noexcept { return {sizeof(T), alignof(T)}; }
+
+  template <typename Source>
+  void makeLast(Source&& source) {
+    if (size == capacity) moveTo(capacity == 0 ? 1 : capacity + capacity);
+    T* place = data + size++;
+    try {
+      ::new (static_cast<void*>(place)) T(std::forward<Source>(source));
+    } catch (...) {
+      --size;
+      throw;
+    }
+  }
 
   void moveTo(std::uint64_t newCapacity) {
     static_assert(std::is_nothrow_move_constructible_v<T>, "growth can't be taken back");
