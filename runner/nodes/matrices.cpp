@@ -20,7 +20,8 @@ ValueType matrixType(const NodeTypes& types) {
           }
         }
       });
-  if (!isMatrix) throw std::invalid_argument(nameOf(declared) + " is no matrix of floats or doubles");
+  if (!isMatrix)
+    throw std::invalid_argument(nameOf(declared) + " is no matrix of floats or doubles");
   return declared;
 }
 
