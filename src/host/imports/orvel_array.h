@@ -1,5 +1,6 @@
 #pragma once
 
+#include <concepts>
 #include <cstddef>
 #include <cstdint>
 #include <memory>
@@ -52,8 +53,17 @@ class Array {
   /// Grows by doubling, from 0 to 1 first; then the size, and the element is made of `source` in
   /// its place. `source` lies outside the array. When the library has no memory, or making the
   /// element throws, the array holds the elements that it held.
-  void append(const T& source) { makeLast(source); }
-  void append(T&& source) { makeLast(std::move(source)); }
+  template <std::convertible_to<T> Source = T>
+  void append(Source&& source) {
+    if (size == capacity) moveTo(capacity == 0 ? 1 : capacity + capacity);
+    T* place = data + size++;
+    try {
+      ::new (static_cast<void*>(place)) T(static_cast<T>(std::forward<Source>(source)));
+    } catch (...) {
+      --size;
+      throw;
+    }
+  }
 
   const T& operator[](std::uint64_t index) const noexcept { return data[index]; }
   const T* begin() const noexcept { return data; }
@@ -65,18 +75,6 @@ class Array {
 
  private:
   static constexpr Internal::UntypedTypeRep typeRep() noexcept { return {sizeof(T), alignof(T)}; }
-
-  template <typename Source>
-  void makeLast(Source&& source) {
-    if (size == capacity) moveTo(capacity == 0 ? 1 : capacity + capacity);
-    T* place = data + size++;
-    try {
-      ::new (static_cast<void*>(place)) T(std::forward<Source>(source));
-    } catch (...) {
-      --size;
-      throw;
-    }
-  }
 
   void moveTo(std::uint64_t newCapacity) {
     static_assert(std::is_nothrow_move_constructible_v<T>, "growth can't be taken back");
