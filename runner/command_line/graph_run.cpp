@@ -28,10 +28,11 @@ void tellUnsettablePorts(const LoadedRun& loaded) {
 /// One run of a graph, from its first frame to its last.
 class GraphRun {
  public:
-  GraphRun(const LoadedRun& loaded, const RunOptions& options, bool documentOnOutput,
+  GraphRun(const LoadedRun& loaded, const RunOptions& options, RunReports& reports,
            RunJournal* journal)
       : loaded_(loaded),
-        report_(documentOnOutput ? standardErrors() : standardOutput()),
+        reports_(reports),
+        report_(reports.useStandardOutput() ? standardErrors() : standardOutput()),
         logger_(options.report.printLimit()),
         progress_(std::cerr, progressForm(options.progress), loaded.settings.frames.size()),
         printer_(logger_, static_cast<std::int16_t>(loaded.settings.verbosity),
@@ -65,6 +66,7 @@ class GraphRun {
     } catch (const std::system_error& error) {
       journalError_ = error;
     }
+    for (const std::filesystem::path& file : record.filesRead) reports_.keep(file);
     printer_.print(record);
     return report_.stream.good() && !journalError_;
   }
@@ -102,6 +104,7 @@ class GraphRun {
   }
 
   const LoadedRun& loaded_;
+  RunReports& reports_;
   TextSink report_;
   VtlCmdLogger logger_;
   Progress progress_;
@@ -124,7 +127,7 @@ ExitCode worst(ExitCode run, const OutputError& error) {
 /// A run with a journal and the reports of it.
 class RecordedRun {
  public:
-  RecordedRun(const LoadedRun& loaded, const RunOptions& options, const RunReports& reports,
+  RecordedRun(const LoadedRun& loaded, const RunOptions& options, RunReports& reports,
               JournalFile file)
       : loaded_(loaded),
         options_(options),
@@ -149,7 +152,7 @@ class RecordedRun {
  private:
   void runFrames() {
     try {
-      GraphRun run(loaded_, options_, reports_.useStandardOutput(), &journal_);
+      GraphRun run(loaded_, options_, reports_, &journal_);
       const RunEnd end = run.run();
       code_ = static_cast<ExitCode>(end.exitCode);
       journal_.end(end);
@@ -174,7 +177,7 @@ class RecordedRun {
 
   const LoadedRun& loaded_;
   const RunOptions& options_;
-  const RunReports& reports_;
+  RunReports& reports_;
   RunJournal journal_;
   ExitCode code_ = ExitCode::success;
   bool hasOutputError_ = false;
@@ -207,12 +210,12 @@ void refuseTargets(const RunOptions& options, std::vector<std::filesystem::path>
   if (options.journal) targets.add("--journal", *options.journal);
 }
 
-ExitCode runGraph(const LoadedRun& loaded, const RunOptions& options, const RunReports& reports) {
+ExitCode runGraph(const LoadedRun& loaded, const RunOptions& options, RunReports& reports) {
   if (loaded.settings.verbosity >= levelWarning) tellUnsettablePorts(loaded);
   std::optional<JournalFile> file = openJournal(options, reports);
   rememberInterrupts();
   if (file) return RecordedRun(loaded, options, reports, *std::move(file)).run();
-  return static_cast<ExitCode>(GraphRun(loaded, options, false, nullptr).run().exitCode);
+  return static_cast<ExitCode>(GraphRun(loaded, options, reports, nullptr).run().exitCode);
 }
 
 void reportLoadFailure(const RunOptions& options, const std::vector<std::string>& arguments,

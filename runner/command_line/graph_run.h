@@ -30,7 +30,7 @@ void refuseTargets(const RunOptions& options, std::vector<std::filesystem::path>
 
 /// Runs a graph: prints what comes, keeps the journal and makes the reports of it. Says on standard
 /// error what went wrong with these. Throws UsageError for files that can't be written.
-ExitCode runGraph(const LoadedRun& loaded, const RunOptions& options, const RunReports& reports);
+ExitCode runGraph(const LoadedRun& loaded, const RunOptions& options, RunReports& reports);
 
 /// The reports of a run that never began. Throws OutputError.
 void reportLoadFailure(const RunOptions& options, const std::vector<std::string>& arguments,

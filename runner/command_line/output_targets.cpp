@@ -14,16 +14,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Whether both names lead to one plain file, be it there already or not.
-bool areSameFile(const fs::path& a, const fs::path& b) {
-  std::error_code error;
-  const fs::file_status status = fs::status(a, error);
-  if (fs::exists(status)) return fs::is_regular_file(status) && fs::equivalent(a, b, error);
-  // A relative path may stay one where nothing is there yet.
-  return fs::weakly_canonical(fs::absolute(a, error), error) ==
-         fs::weakly_canonical(fs::absolute(b, error), error);
-}
-
 bool holds(const std::vector<fs::path>& files, const fs::path& file) {
   return std::any_of(files.begin(), files.end(),
                      [&](const fs::path& other) { return areSameFile(file, other); });
@@ -37,6 +27,15 @@ bool isPlainOrAbsent(const fs::path& file) {
 }
 
 }  // namespace
+
+bool areSameFile(const fs::path& a, const fs::path& b) {
+  std::error_code error;
+  const fs::file_status status = fs::status(a, error);
+  if (fs::exists(status)) return fs::is_regular_file(status) && fs::equivalent(a, b, error);
+  // A relative path may stay one where nothing is there yet.
+  return fs::weakly_canonical(fs::absolute(a, error), error) ==
+         fs::weakly_canonical(fs::absolute(b, error), error);
+}
 
 void OutputTargets::add(const std::string& option, const std::string& target) {
   if (target.empty()) throw UsageError(option + " wants the name of a file, not ''");
@@ -52,7 +51,7 @@ void OutputTargets::add(const std::string& option, const std::string& target) {
     throw UsageError(option + ": " + inQuotes(target) + " would be written twice");
   targets_.push_back(file);
   try {
-    if (isPlainOrAbsent(file)) const WholeFile probe(file);
+    if (isPlainOrAbsent(file)) WholeFile::check(file);
   } catch (const std::system_error& error) {
     throw UsageError(option + ": " + inQuotes(target) + " can't be written: " + reasonOf(error));
   }

@@ -6,6 +6,9 @@
 
 namespace vtlcmd::runner {
 
+/// Whether both names lead to one plain file, be it there already or not.
+bool areSameFile(const std::filesystem::path& a, const std::filesystem::path& b);
+
 /// The files that a command is to write, held against what it reads and against each other, so that
 /// nothing is lost and everything that can be refused is refused before the work begins. Files are
 /// compared by what they are, not by name.

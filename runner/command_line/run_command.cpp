@@ -22,18 +22,19 @@ false, vectors like 1,2.5,3, strings without quotes.
 
 ExitCode run(const RunOptions& options, const std::vector<std::string>& arguments) {
   options.read.apply();
-  const RunReports reports(options.reports, !options.noTimes);
+  RunReports reports(options.reports, !options.noTimes);
   std::optional<LoadedRun> loaded;
   try {
     loaded = loadRun(options, arguments);
   } catch (const LoadError& error) {
+    std::cerr << "vtlcmd: " << withoutControls(error.what()) << '\n';
     try {
       refuseTargets(options, {});
       reportLoadFailure(options, arguments, reports, error.what());
     } catch (const std::exception& ofReport) {
       std::cerr << "vtlcmd: " << withoutControls(ofReport.what()) << '\n';
     }
-    throw;
+    return ExitCode::notLoaded;
   }
   return runGraph(*loaded, options, reports);
 }

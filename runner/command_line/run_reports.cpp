@@ -44,6 +44,13 @@ std::optional<std::filesystem::path> RunReports::journalPlace() const {
   return std::nullopt;
 }
 
+void RunReports::keep(const std::filesystem::path& file) {
+  for (const std::string& target : targets_) {
+    if (target != OutputTargets::standardOutput && areSameFile(filePath(target), file))
+      kept_.insert(target);
+  }
+}
+
 void RunReports::write(const JournalSource& source) const {
   std::optional<OutputError> failure;
   for (const std::string& target : targets_) {
@@ -51,6 +58,8 @@ void RunReports::write(const JournalSource& source) const {
       write(target, source);
     } catch (const std::system_error& error) {
       if (!failure) failure.emplace(refusal(target), error);
+    } catch (const OutputError& error) {
+      if (!failure) failure = error;
     }
   }
   if (failure) throw OutputError(*failure);
@@ -60,6 +69,7 @@ void RunReports::write(const std::string& target, const JournalSource& source) c
   // Of the standard output the program itself takes care at its end.
   if (target == OutputTargets::standardOutput)
     return writeReport(std::cout, source, {ReportFormat::json, withTimes_});
+  if (kept_.contains(target)) throw OutputError(refusal(target) + ": the run has read it");
   const std::filesystem::path path = filePath(target);
   WholeFile file(path);
   writeReport(file.stream(), source, {reportFormatOf(path), withTimes_});

@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <optional>
+#include <set>
 #include <stdexcept>
 #include <string>
 #include <system_error>
@@ -17,6 +18,7 @@ class OutputError : public std::runtime_error {
  public:
   /// `what` is what can't be done, like "the report can't be written to x".
   OutputError(const std::string& what, const std::system_error& error);
+  explicit OutputError(const std::string& what) : std::runtime_error(what), isTransient_(false) {}
 
   /// Whether there may be room at another time.
   bool isTransient() const noexcept { return isTransient_; }
@@ -39,6 +41,9 @@ class RunReports {
   /// one. Nothing when no report goes to a file that can have something beside it.
   std::optional<std::filesystem::path> journalPlace() const;
 
+  /// Takes in a file that the run has read: no report is written over it.
+  void keep(const std::filesystem::path& file);
+
   /// Writes all of them. When one can't be written the others are all the same, then throws
   /// OutputError.
   void write(const JournalSource& source) const;
@@ -47,6 +52,8 @@ class RunReports {
   void write(const std::string& target, const JournalSource& source) const;
 
   std::vector<std::string> targets_;
+  /// Of the targets, those that the run has read.
+  std::set<std::string> kept_;
   bool withTimes_;
 };
 

@@ -21,7 +21,8 @@ std::string sentenceAbout(const GraphNode& node, const std::string& text) {
 
 }  // namespace
 
-Executor::Executor(const Graph& graph, VtlCmdLogger& logger) : graph_(graph), logger_(logger) {
+Executor::Executor(const Graph& graph, VtlCmdLogger& logger, OnRead onRead)
+    : graph_(graph), logger_(logger), onRead_(std::move(onRead)) {
   types_.reserve(graph.nodes.size());
   for (const GraphNode& node : graph.nodes) {
     ArgumentTypes& types = types_.emplace_back(node.sources.size());
@@ -69,7 +70,7 @@ Orvel::Value Executor::evaluate(const GraphNode& node, const ArgumentTypes& type
   };
   const Orvel::Value* literal = node.literal ? &*node.literal : nullptr;
   return node.operation->evaluate(
-      {nodeTypes, node.type, arguments, literal, node.pathFolder, warn});
+      {nodeTypes, node.type, arguments, literal, node.pathFolder, warn, onRead_});
 }
 
 }  // namespace vtlcmd::runner

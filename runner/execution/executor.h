@@ -1,5 +1,7 @@
 #pragma once
 
+#include <filesystem>
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -13,8 +15,11 @@ namespace vtlcmd::runner {
 /// it counts.
 class Executor {
  public:
-  /// Graph and logger must outlive the executor.
-  Executor(const Graph& graph, VtlCmdLogger& logger);
+  using OnRead = std::function<void(const std::filesystem::path&)>;
+
+  /// Graph and logger must outlive the executor. `onRead` is told of each file before a node reads
+  /// it.
+  Executor(const Graph& graph, VtlCmdLogger& logger, OnRead onRead);
 
   struct Result {
     /// By slot; empty when a node failed or the frame is abandoned: the run ends there.
@@ -38,6 +43,7 @@ class Executor {
   VtlCmdLogger& logger_;
   /// By node.
   std::vector<ArgumentTypes> types_;
+  OnRead onRead_;
 };
 
 }  // namespace vtlcmd::runner

@@ -2,7 +2,9 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <filesystem>
 #include <map>
+#include <set>
 #include <string>
 
 #include "logging/run_report.h"
@@ -29,6 +31,8 @@ struct FrameRecord {
   /// How many of the frame's messages came while inputs were set; they are the first ones.
   std::size_t inputMessages = 0;
   double seconds = 0;
+  /// Those whose names the graph computed.
+  std::set<std::filesystem::path> filesRead;
   /// By output, its exact value as JSON; empty when no report wants to know.
   std::map<std::string, std::string> values;
 

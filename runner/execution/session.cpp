@@ -28,7 +28,7 @@ Session::Session(const Graph& graph, const PlugIn::Translation& translation,
       translation_(translation),
       settings_(settings),
       logger_(logger),
-      executor_(graph, logger),
+      executor_(graph, logger, [this](const std::filesystem::path& file) { noteRead(file); }),
       context_{
           &settings.inputValues, &settings.jobValues,    0,      0, 1 / settings.framesPerSecond,
           settings.sceneFile,    settings.secondaryPath, &logger} {
@@ -86,6 +86,7 @@ FrameRecord Session::recordFrame() {
 FrameRecord Session::runFrame() {
   FrameRecord record;
   failure_ = Failure::none;
+  filesRead_.clear();
   const std::optional<std::vector<Orvel::Value>> inputs = setInputs();
   record.inputMessages = logger_.messages.size();
   logger_.setInputsSet(inputs.has_value());
@@ -98,6 +99,7 @@ FrameRecord Session::runFrame() {
   }
   logger_.setWithoutErrors(!hasMessageUpTo(levelError));
   record.failure = failureOfFrame();
+  record.filesRead = std::move(filesRead_);
   return record;
 }
 
@@ -155,6 +157,11 @@ void Session::reportOutputs(const std::vector<Orvel::Value>& values, FrameRecord
     }
   }
   logger_.setOutputsReported(complete);
+}
+
+void Session::noteRead(const std::filesystem::path& file) {
+  const std::vector<std::filesystem::path>& known = settings_.filesRead;
+  if (std::find(known.begin(), known.end(), file) == known.end()) filesRead_.insert(file);
 }
 
 void Session::noteFailure(const std::string& what) {

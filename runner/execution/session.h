@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <functional>
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -84,6 +85,7 @@ class Session {
   void reportOutputs(const std::vector<Orvel::Value>& values, FrameRecord& record);
   /// Tells of the exception that is being handled.
   void noteFailure(const std::string& what);
+  void noteRead(const std::filesystem::path& file);
   Failure failureOfFrame() const;
   bool hasMessageUpTo(LogLevel level) const;
 
@@ -100,6 +102,8 @@ class Session {
   std::vector<Orvel::String> outputNames_;
   /// The worst of what was caught in the current frame.
   Failure failure_ = Failure::none;
+  /// By the current frame, of those that weren't known before the run.
+  std::set<std::filesystem::path> filesRead_;
 };
 
 }  // namespace vtlcmd::runner

@@ -4,8 +4,10 @@
 #include <cstddef>
 
 #include "execution/message_distribution.h"
+#include "journal/content_hash.h"
 #include "journal/crc32.h"
 #include "text/json_writer.h"
+#include "text/path_text.h"
 
 namespace vtlcmd::runner {
 namespace {
@@ -46,6 +48,21 @@ void writeOutputs(JsonWriter& json, const FrameRecord& record) {
       json.raw(value->second);
     }
     json.close('}');
+  }
+  json.close('}');
+}
+
+/// By name, the hash of what is in a file; null of what can't be read.
+void writeFiles(JsonWriter& json, const std::set<std::filesystem::path>& files) {
+  json.open('{');
+  for (const std::filesystem::path& file : files) {
+    const std::optional<std::string> hash = contentHash(file);
+    json.key(fileText(file));
+    if (hash) {
+      json.text(*hash);
+    } else {
+      json.null();
+    }
   }
   json.close('}');
 }
@@ -103,6 +120,10 @@ std::string frameContent(const FrameRecord& record) {
   json.number(record.errors);
   json.key("graph_warnings");
   json.number(record.warnings);
+  if (!record.filesRead.empty()) {
+    json.key("files");
+    writeFiles(json, record.filesRead);
+  }
   json.key("outputs");
   writeOutputs(json, record);
   json.key("messages");

@@ -37,11 +37,18 @@ DataValue takeNamed(std::vector<DataValue> values, const ValuePath& path) {
 Orvel::Value readArray(const NodeCall& call) {
   const std::filesystem::path path = fileArgument(call);
   const ValuePath wanted = valuePathFrom(path);
+  call.onRead(wanted.file);
   DataValue data = takeNamed(readArrays(wanted.file, formFor(call.resultType)), wanted);
   const std::string type = data.value.getType().getFullyQualifiedName().c_str();
   if (type != nameOf(call.resultType))
     throw NodeError(fileText(path) + " holds " + type + ", not " + nameOf(call.resultType));
   return data.value;
+}
+
+Orvel::Value readMeshNode(const NodeCall& call) {
+  const std::filesystem::path file = fileArgument(call);
+  call.onRead(file);
+  return Orvel::makeValue(readMesh(file));
 }
 
 const std::vector<Parameter> path{{"path", &type_classes::path}};
@@ -56,8 +63,7 @@ const NodeOperation table[] = {
      [](const NodeTypes&) {
        return ValueType{valueType<ObjectPtr>().name, 0};
      },
-     [](const NodeCall& call) { return Orvel::makeValue(readMesh(fileArgument(call))); },
-     "The mesh in an OBJ, PLY, STL or glTF file, as points, faces and corners."},
+     readMeshNode, "The mesh in an OBJ, PLY, STL or glTF file, as points, faces and corners."},
 };
 
 }  // namespace

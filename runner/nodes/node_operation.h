@@ -43,6 +43,8 @@ struct NodeCall {
   const std::filesystem::path& pathFolder;
   /// Tells the user something about a result that is valid all the same.
   const std::function<void(const std::string&)>& warn;
+  /// To be told of each file before it is read.
+  const std::function<void(const std::filesystem::path&)>& onRead;
 
   const Orvel::Value& operator[](std::size_t parameter) const {
     return arguments[parameter].front();

@@ -5,6 +5,8 @@
 #include <string>
 #include <system_error>
 
+#include "platform/writable_folder.h"
+
 namespace vtlcmd::runner {
 namespace {
 
@@ -69,6 +71,11 @@ int FileBuffer::sync() {
 
 void FileBuffer::remember(bool failed) {
   if (failed && failure_ == 0) failure_ = errno;
+}
+
+void WholeFile::check(const fs::path& file) {
+  const fs::path target = linkTarget(file);
+  if (canBeReplaced(target)) requireWritableFolder(target.parent_path());
 }
 
 WholeFile::WholeFile(const fs::path& file)

@@ -30,6 +30,8 @@ class WholeFile {
   /// Makes sure that the folder can be written to, that a link leads to a file and that a file
   /// isn't read-only; throws std::system_error. What the file holds stays until `commit`.
   explicit WholeFile(const std::filesystem::path& file);
+  /// Makes sure of the same and creates nothing, so that nothing can stay behind.
+  static void check(const std::filesystem::path& file);
   WholeFile(const WholeFile&) = delete;
   WholeFile& operator=(const WholeFile&) = delete;
   /// Without a commit nothing is left behind.

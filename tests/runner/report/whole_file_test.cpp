@@ -1,5 +1,6 @@
 #include "report/whole_file.h"
 
+#include <chrono>
 #include <gtest/gtest.h>
 #include <iterator>
 #include <string>
@@ -118,6 +119,19 @@ TEST_F(WholeFileTest, AFullDeviceIsCalledThat) {
       EXPECT_EQ(error.code(), std::errc::no_space_on_device) << size;
     }
   }
+}
+
+TEST_F(WholeFileTest, CheckingCreatesNothing) {
+#ifdef _WIN32
+  GTEST_SKIP() << "the system deletes what is created here";
+#endif
+  const fs::file_time_type before = fs::last_write_time(folder_) - std::chrono::hours(1);
+  fs::last_write_time(folder_, before);
+  WholeFile::check(folder_ / "report.json");
+  EXPECT_EQ(fs::last_write_time(folder_), before);
+  EXPECT_EQ(filesInFolder(), 0U);
+  EXPECT_THROW(WholeFile::check(folder_ / "missing" / "report.json"), std::system_error);
+  EXPECT_THROW(WholeFile::check(folder_), std::system_error);
 }
 
 TEST_F(WholeFileTest, RefusesAFolderInItsPlace) {

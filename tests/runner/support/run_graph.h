@@ -33,7 +33,7 @@ struct GraphResult {
 inline GraphResult runGraph(std::string_view text) {
   const Graph graph = parseGraph(text);
   VtlCmdLogger logger(10);
-  const Executor::Result run = Executor(graph, logger).run({});
+  const Executor::Result run = Executor(graph, logger, [](const auto&) {}).run({});
   GraphResult result;
   for (const LogMessage& message : logger.messages) {
     EXPECT_EQ(message.source, vantrelSource);
