@@ -9,7 +9,7 @@
 #include "command_line/port_kinds.h"
 #include "command_line/terminal.h"
 #include "execution/frame_printer.h"
-#include "execution/progress.h"
+#include "execution/progress_ticker.h"
 #include "graph/graph_file.h"
 #include "journal/run_journal.h"
 #include "journal/run_line.h"
@@ -37,7 +37,9 @@ class GraphRun {
         progress_(std::cerr, progressForm(options.progress), loaded.settings.frames.size()),
         printer_(logger_, static_cast<std::int16_t>(loaded.settings.verbosity),
                  options.report.sinks(report_), progress_, loaded.settings.frames.size() > 1),
-        journal_(journal) {}
+        journal_(journal) {
+    if (progressForm(options.progress) != ProgressForm::none) ticker_.emplace(progress_);
+  }
 
   /// Leaves the end of the journal to be written. Throws std::system_error when the journal can't
   /// be written.
@@ -108,6 +110,7 @@ class GraphRun {
   TextSink report_;
   VtlCmdLogger logger_;
   Progress progress_;
+  std::optional<ProgressTicker> ticker_;
   FramePrinter printer_;
   /// Null when nobody wants one.
   RunJournal* journal_;

@@ -55,7 +55,8 @@ void MessagePrinter::flush() {
 void MessagePrinter::writePending() {
   if (pending_.empty()) return;
   const TextSink& sink = sinkOf(pendingIsProblem_);
-  if (sink.isTerminal) progress_.hide();
+  // Problems go where progress does, be it a terminal or not.
+  if (sink.isTerminal || pendingIsProblem_) progress_.hide();
   sink.stream << pending_;
   pending_.clear();
 }

@@ -1,5 +1,6 @@
 #include "execution/progress.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstdio>
@@ -54,38 +55,64 @@ Progress::~Progress() { hide(); }
 
 void Progress::beginFrame(std::size_t index, const std::string& frame) {
   if (form_ == ProgressForm::none) return;
-  const Time now = clock_();
-  if (renewedAt_ && now - *renewedAt_ < pauseBetween(form_)) return;
-  renewedAt_ = now;
-  text_ = textOf(index, frame, now);
-  if (form_ == ProgressForm::plainLines) {
-    stream_ << text_ << std::endl;
-  } else {
-    hide();
-    show();
-  }
+  const std::lock_guard lock(mutex_);
+  index_ = index;
+  frame_ = frame;
+  frameStart_ = clock_();
+  renewAt(frameStart_);
+}
+
+void Progress::renew() {
+  const std::lock_guard lock(mutex_);
+  if (!paused_ && !frame_.empty()) renewAt(clock_());
 }
 
 void Progress::hide() {
+  const std::lock_guard lock(mutex_);
+  paused_ = true;
+  hideLine();
+}
+
+void Progress::show() {
+  const std::lock_guard lock(mutex_);
+  paused_ = false;
+  showLine();
+}
+
+void Progress::renewAt(Time now) {
+  if (renewedAt_ && now - *renewedAt_ < pauseBetween(form_)) return;
+  renewedAt_ = now;
+  text_ = textAt(now);
+  if (form_ == ProgressForm::plainLines) {
+    stream_ << text_ << std::endl;
+  } else {
+    hideLine();
+    showLine();
+  }
+}
+
+void Progress::hideLine() {
   if (!std::exchange(visible_, false)) return;
   stream_ << eraseLine << std::flush;
 }
 
-void Progress::show() {
+void Progress::showLine() {
   if (form_ != ProgressForm::terminalLine || text_.empty() || visible_) return;
   visible_ = true;
   stream_ << text_ << std::flush;
 }
 
-std::string Progress::textOf(std::size_t index, const std::string& frame, Time now) const {
-  std::string text = "frame " + frame + " (" + std::to_string(index + 1) + " of " +
+std::string Progress::textAt(Time now) const {
+  std::string text = "frame " + frame_ + " (" + std::to_string(index_ + 1) + " of " +
                      std::to_string(frameCount_) + "), " +
-                     std::to_string(index * 100 / frameCount_) + " %";
-  const double elapsed = Seconds(now - start_).count();
-  if (index == 0 || elapsed <= 0) return text;
-  const double framesPerSecond = static_cast<double>(index) / elapsed;
-  const double left = static_cast<double>(frameCount_ - index) / framesPerSecond;
-  return text + ", " + rateText(framesPerSecond) + ", " + durationText(left) + " left";
+                     std::to_string(index_ * 100 / frameCount_) + " %";
+  const double elapsed = Seconds(frameStart_ - start_).count();
+  if (index_ == 0 || elapsed <= 0) return text;
+  const double framesPerSecond = static_cast<double>(index_) / elapsed;
+  const double ofThisFrame = 1 / framesPerSecond - Seconds(now - frameStart_).count();
+  const double ofLaterFrames = static_cast<double>(frameCount_ - index_ - 1) / framesPerSecond;
+  return text + ", " + rateText(framesPerSecond) + ", " +
+         durationText(std::max(ofThisFrame, 0.0) + ofLaterFrames) + " left";
 }
 
 }  // namespace vtlcmd::runner

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <functional>
 #include <iosfwd>
+#include <mutex>
 #include <optional>
 #include <string>
 
@@ -18,7 +19,7 @@ enum class ProgressForm {
 };
 
 /// Tells how far a run is: its frame, the share of the frames that are done, frames a second and
-/// the time left. Not for several threads.
+/// the time left. One thread runs the frames; any thread may renew.
 class Progress {
  public:
   using Time = std::chrono::steady_clock::time_point;
@@ -34,18 +35,32 @@ class Progress {
   /// Before each frame: its place in the run, and its number as the user knows it.
   void beginFrame(std::size_t index, const std::string& frame);
 
+  /// While a frame runs, to be called every now and then: brings what is told up to date. Leaves
+  /// the stream alone between `hide` and `show`.
+  void renew();
+
   /// Round everything else that is printed on the terminal: take the line away, and put it back.
   void hide();
   void show();
 
  private:
-  std::string textOf(std::size_t index, const std::string& frame, Time now) const;
+  void renewAt(Time now);
+  void showLine();
+  void hideLine();
+  std::string textAt(Time now) const;
 
   std::ostream& stream_;
   ProgressForm form_;
   std::size_t frameCount_;
   Clock clock_;
   Time start_;
+  /// For all that follows.
+  std::mutex mutex_;
+  std::size_t index_ = 0;
+  /// Empty before the first one.
+  std::string frame_;
+  Time frameStart_;
+  bool paused_ = false;
   std::optional<Time> renewedAt_;
   std::string text_;
   bool visible_ = false;

@@ -31,7 +31,6 @@ class ProgressTest : public testing::Test {
     return play(form, count, duration, [](Progress&, std::ostream&) {});
   }
 
- private:
   Progress::Time now_;
 };
 
@@ -74,6 +73,40 @@ TEST_F(ProgressTest, PlainLinesEveryTenSeconds) {
             "frame 101 (1 of 8), 0 %\n"
             "frame 104 (4 of 8), 37 %, 4.0 s/frame, 0:20 left\n"
             "frame 107 (7 of 8), 75 %, 4.0 s/frame, 0:08 left\n");
+}
+
+TEST_F(ProgressTest, TheTimeLeftCountsDownInALongFrame) {
+  const auto work = [this](Progress& progress, std::ostream&) {
+    for (int i = 0; i < 2; ++i) {
+      now_ += 40s;
+      progress.renew();
+    }
+  };
+  EXPECT_EQ(play(ProgressForm::plainLines, 3, 0s, work),
+            "frame 101 (1 of 3), 0 %\n"
+            "frame 101 (1 of 3), 0 %\n"
+            "frame 101 (1 of 3), 0 %\n"
+            "frame 102 (2 of 3), 33 %, 80.0 s/frame, 2:00 left\n"
+            "frame 102 (2 of 3), 33 %, 80.0 s/frame, 1:20 left\n"
+            "frame 103 (3 of 3), 66 %, 80.0 s/frame, 0:40 left\n"
+            "frame 103 (3 of 3), 66 %, 80.0 s/frame, 0:00 left\n");
+}
+
+TEST_F(ProgressTest, TheLineOfALongFrameIsRenewedUnlessOthersPrint) {
+  const auto work = [this](Progress& progress, std::ostream& stream) {
+    now_ += 1s;
+    progress.renew();
+    progress.hide();
+    stream << "text\n";
+    now_ += 1s;
+    progress.renew();
+    progress.show();
+  };
+  EXPECT_EQ(play(ProgressForm::terminalLine, 1, 0s, work),
+            "frame 101 (1 of 1), 0 %"
+            "\r\x1b[Kframe 101 (1 of 1), 0 %"
+            "\r\x1b[Ktext\nframe 101 (1 of 1), 0 %"
+            "\r\x1b[K");
 }
 
 TEST_F(ProgressTest, LongTimesLeft) {
