@@ -118,7 +118,8 @@ class GraphRun {
 };
 
 OutputError journalError(const std::filesystem::path& file, const std::system_error& error) {
-  return {"the journal can't be written to " + fileText(file), error};
+  const std::string name = file.empty() ? "the folder for temporary files" : fileText(file);
+  return {"the journal can't be written to " + name, error};
 }
 
 /// What the program gives back when output failed too: a failure of the run itself counts more.
@@ -145,7 +146,7 @@ class RecordedRun {
     writeReports();
     const bool isComplete = !hasOutputError_;
     if (isComplete && !options_.journal) journal_.file().remove();
-    if (!isComplete) {
+    if (!isComplete && !journal_.file().path().empty()) {
       std::cerr << "vtlcmd: the frames that ran are in " << fileText(journal_.file().path())
                 << '\n';
     }

@@ -26,7 +26,7 @@ JournalFile JournalFile::temporary() {
   JournalFile file(std::filesystem::temp_directory_path() / name);
   // An open file needs no name, except on Windows, where this fails.
   std::error_code ignored;
-  std::filesystem::remove(file.file_, ignored);
+  if (std::filesystem::remove(file.file_, ignored)) file.file_.clear();
   return file;
 }
 

@@ -28,6 +28,7 @@ class JournalFile {
   /// Ends the file and its lines. Called once.
   void remove() noexcept;
 
+  /// Empty when the file has no name.
   const std::filesystem::path& path() const noexcept { return file_; }
 
  private:

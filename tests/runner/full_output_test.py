@@ -40,7 +40,8 @@ with open("/dev/full", "wb") as full:
 with tempfile.TemporaryDirectory() as name:
     folder = pathlib.Path(name)
     expect("a report where no room is",
-           outcome("run", "examples/animated.json", "--report", "/dev/full")[0], 75)
+           outcome("run", "examples/animated.json", "--report", "/dev/full"),
+           (75, "vtlcmd: the report can't be written to /dev/full: No space left on device\n"))
 
     def limit():
         resource.setrlimit(resource.RLIMIT_FSIZE, (100_000, 100_000))
