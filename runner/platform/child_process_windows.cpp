@@ -148,7 +148,7 @@ ProcessEnd ChildProcess::wait() {
   // The codes of unhandled exceptions.
   if (code < 0xC0000000U) return {ProcessEnd::Kind::exited, static_cast<int>(code)};
   char text[32];
-  std::snprintf(text, sizeof text, "exception 0x%08lX", code);
+  static_cast<void>(std::snprintf(text, sizeof text, "exception 0x%08lX", code));
   return {ProcessEnd::Kind::crashed, 0, text};
 }
 
