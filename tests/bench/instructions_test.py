@@ -10,9 +10,9 @@ import unittest
 
 sys.dont_write_bytecode = True
 FILE = sys.argv.pop(1)
-specification = importlib.util.spec_from_file_location("instructions", FILE)
-instructions = importlib.util.module_from_spec(specification)
-specification.loader.exec_module(instructions)
+module_spec = importlib.util.spec_from_file_location("instructions", FILE)
+instructions = importlib.util.module_from_spec(module_spec)
+module_spec.loader.exec_module(instructions)
 
 
 class Check(unittest.TestCase):
