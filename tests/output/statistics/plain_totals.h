@@ -47,9 +47,9 @@ statistics::Totals<T> plainTotals(std::span<const Number<T>> numbers) {
     for (const std::uint8_t byte : numbers) totals.trueCount += byte != 0 ? 1 : 0;
   } else {
     constexpr std::size_t parts = Parts<T>::count;
-    Number<T> minimum[parts];
-    Number<T> maximum[parts];
-    Number<T> sum[parts];
+    Number<T> minimum[parts]{};
+    Number<T> maximum[parts]{};
+    Number<T> sum[parts]{};
     for (std::size_t i = 0; i < numbers.size(); ++i) {
       const std::size_t part = i % parts;
       if (i < parts) {
