@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 #include <limits>
 #include <optional>
-#include <regex>
+#include <string_view>
 
 namespace vtlcmd::runner {
 namespace {
@@ -14,10 +14,14 @@ using testing::HasSubstr;
 
 /// The drawing instructions of each series.
 std::vector<std::string> pathsIn(const std::string& html) {
-  static const std::regex path("<path class='s[0-9]' d='([^']*)'");
+  constexpr std::string_view start = "<path class='s";
+  constexpr std::string_view instructions = "' d='";
   std::vector<std::string> paths;
-  for (std::sregex_iterator found(html.begin(), html.end(), path), end; found != end; ++found)
-    paths.push_back((*found)[1]);
+  for (std::size_t found = html.find(start); found != std::string::npos;
+       found = html.find(start, found + 1)) {
+    const std::size_t first = html.find(instructions, found) + instructions.size();
+    paths.push_back(html.substr(first, html.find('\'', first) - first));
+  }
   return paths;
 }
 
