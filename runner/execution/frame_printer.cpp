@@ -21,11 +21,11 @@ FramePrinter::FramePrinter(const VtlCmdLogger& logger, std::int16_t verbosity,
 void FramePrinter::print(const FrameRecord& frame) {
   // Of the report and of problems.
   std::array<bool, 2> hasHead{};
-  for (std::size_t i = 0; i < logger_.messages.size(); ++i) {
-    const LogMessage& message = logger_.messages[i];
+  ++frames_;
+  for (const LogMessage& message : logger_.messages) {
     if (!VtlCmdLogger::levelAdmits(verbosity_, std::uint32_t{message.level} - 1)) continue;
-    if (i < frame.inputMessages && isRepetition(message)) continue;
     const bool isProblem = message.level <= levelWarning;
+    if (hasSeveralFrames_ && isProblem && isRepetition(message)) continue;
     bool& isHeaded = hasHead[isProblem ? 1 : 0];
     if (hasSeveralFrames_ && !isHeaded) {
       printer_.printLine(VtlCmdLogger::makeMessagePrefix(vtlcmdSource, levelProgress),
@@ -38,25 +38,26 @@ void FramePrinter::print(const FrameRecord& frame) {
 }
 
 void FramePrinter::printCounts() {
-  for (const auto& [problem, count] : problems_) {
-    if (count < 2) continue;
+  for (const auto& [problem, occurrence] : problems_) {
+    if (occurrence.frames < 2) continue;
     const auto& [source, level, text] = problem;
-    printer_.print({source, level, "In " + std::to_string(count) + " frames: " + text,
+    printer_.print({source, level, "In " + std::to_string(occurrence.frames) + " frames: " + text,
                     VtlCmdLogger::noCurrent, VtlCmdLogger::noCurrent});
   }
   printer_.flush();
 }
 
 bool FramePrinter::isRepetition(const LogMessage& message) {
-  if (message.level > levelError) return false;
   Problem problem{message.source, message.level, message.text};
-  const auto known = problems_.find(problem);
-  if (known != problems_.end()) {
-    ++known->second;
-    return true;
+  auto known = problems_.find(problem);
+  if (known == problems_.end()) {
+    if (problems_.size() == mostProblems) return false;
+    known = problems_.emplace(std::move(problem), Occurrence{}).first;
   }
-  if (problems_.size() < mostProblems) problems_.emplace(std::move(problem), 1);
-  return false;
+  Occurrence& occurrence = known->second;
+  if (occurrence.last != frames_) ++occurrence.frames;
+  occurrence.last = frames_;
+  return occurrence.frames > 1;
 }
 
 }  // namespace vtlcmd::runner

@@ -11,8 +11,8 @@
 namespace vtlcmd::runner {
 
 /// Prints the messages of frame after frame. Of several frames each has a line with its number
-/// before its own lines, on either stream. What keeps an input from being set is the same in every
-/// frame: it is told at the first one, and counted in the end.
+/// before its own lines, on either stream. A problem that comes again in further frames is told at
+/// the first one, and the frames are counted in the end.
 class FramePrinter {
  public:
   /// Logger and progress must outlive this.
@@ -29,14 +29,21 @@ class FramePrinter {
   /// Source, level and text of a message.
   using Problem = std::tuple<LogSource, LogLevel, std::string>;
 
+  struct Occurrence {
+    std::size_t frames = 0;
+    /// By the number of printed frames.
+    std::size_t last = 0;
+  };
+
+  /// Whether a problem was told at an earlier frame already.
   bool isRepetition(const LogMessage& message);
 
   const VtlCmdLogger& logger_;
   std::int16_t verbosity_;
   MessagePrinter printer_;
   bool hasSeveralFrames_;
-  /// The frames that each problem with an input was met in.
-  std::map<Problem, std::size_t> problems_;
+  std::size_t frames_ = 0;
+  std::map<Problem, Occurrence> problems_;
 };
 
 }  // namespace vtlcmd::runner

@@ -28,8 +28,6 @@ struct FrameRecord {
   /// Of the graph system.
   std::uint64_t errors = 0;
   std::uint64_t warnings = 0;
-  /// How many of the frame's messages came while inputs were set; they are the first ones.
-  std::size_t inputMessages = 0;
   double seconds = 0;
   /// Those whose names the graph computed.
   std::set<std::filesystem::path> filesRead;

@@ -88,7 +88,6 @@ FrameRecord Session::runFrame() {
   failure_ = Failure::none;
   filesRead_.clear();
   const std::optional<std::vector<Orvel::Value>> inputs = setInputs();
-  record.inputMessages = logger_.messages.size();
   logger_.setInputsSet(inputs.has_value());
   if (inputs) {
     const Executor::Result result = executor_.run(*inputs);
@@ -143,6 +142,10 @@ std::optional<Orvel::Value> Session::setInput(std::size_t index) {
 void Session::reportOutputs(const std::vector<Orvel::Value>& values, FrameRecord& record) {
   bool complete = true;
   for (std::size_t i = 0; i < outputNames_.size(); ++i) {
+    if (frameAbandoned()) {
+      logger_.setInterrupted(true);
+      return;
+    }
     const GraphOutput& output = graph_.outputs[i];
     const Orvel::Value& value = values[output.source];
     try {
