@@ -36,7 +36,7 @@ class GraphRun {
         logger_(options.report.printLimit()),
         progress_(std::cerr, progressForm(options.progress), loaded.settings.frames.size()),
         printer_(logger_, static_cast<std::int16_t>(loaded.settings.verbosity),
-                 options.report.sinks(report_), progress_, loaded.settings.frames.size() > 1),
+                 options.report.sinks(report_), progress_, loaded.settings.frames.wholeSize() > 1),
         journal_(journal) {
     if (progressForm(options.progress) != ProgressForm::none) ticker_.emplace(progress_);
   }
@@ -46,7 +46,7 @@ class GraphRun {
   RunEnd run() {
     Session session(loaded_.graph, loaded_.plugIn->translation(), loaded_.settings, logger_);
     const RunOutcome outcome = session.run(
-        {[this](std::size_t index, const std::string& frame) { beforeFrame(index, frame); },
+        {[this](std::size_t place, const std::string& frame) { beforeFrame(place, frame); },
          [this](const FrameRecord& record) { return afterFrame(record); }});
     printer_.printCounts();
     progress_.hide();
@@ -56,9 +56,10 @@ class GraphRun {
   }
 
  private:
-  void beforeFrame(std::size_t index, const std::string& frame) {
-    if (journal_ != nullptr) journal_->startFrame(index, frame);
-    progress_.beginFrame(index, frame);
+  void beforeFrame(std::size_t place, const std::string& frame) {
+    if (journal_ != nullptr)
+      journal_->startFrame(loaded_.settings.frames.placeInWhole(place), frame);
+    progress_.beginFrame(place, frame);
   }
 
   /// The frame is in the journal before anyone reads of it.

@@ -1,5 +1,6 @@
 #include "command_line/run_options.h"
 
+#include "command_line/job_frames.h"
 #include "command_line/option_values.h"
 #include "command_line/port_texts.h"
 #include "text/path_text.h"
@@ -24,6 +25,11 @@ void addRunOptions(CLI::App& command, RunOptions& options) {
                   "Frames to run: 1 or 1-10 or 1-10x2 (or 1-10:2) or 1,5,9; fractions are fine")
       ->type_name("FRAMES")
       ->capture_default_str();
+  command
+      .add_option("--job-frames", options.jobFrames,
+                  "All frames of the job that this run is a part of: the graph and the report are "
+                  "told places among them")
+      ->type_name("FRAMES");
   command
       .add_option("--fps", options.framesPerSecond,
                   "Frames a second, like 24 or 24000/1001; a frame's time is its number times the "
@@ -79,8 +85,10 @@ RunSettings settingsFrom(const RunOptions& options, const PortTexts& texts,
   settings.arguments = std::move(arguments);
   settings.inputValues = texts.inputs();
   settings.jobValues = texts.jobs();
-  settings.frames = parseFrames(options.frames);
+  settings.frames = options.jobFrames ? parsePartOfJob(options.frames, *options.jobFrames)
+                                      : parseFrames(options.frames);
   settings.framesText = options.frames;
+  settings.jobFramesText = options.jobFrames.value_or("");
   settings.framesPerSecond = parseFramesPerSecond(options.framesPerSecond);
   settings.sceneFile = parsePath("--scene", options.scene);
   settings.secondaryPath = parsePath("--secondary", options.secondary);

@@ -20,6 +20,8 @@ struct RunOptions {
   std::vector<std::string> jobs;
   std::vector<std::string> files;
   std::string frames = "1";
+  /// Nothing: the frames are the whole job.
+  std::optional<std::string> jobFrames;
   std::string framesPerSecond = "24";
   std::string scene;
   std::string secondary;

@@ -37,7 +37,7 @@ Session::Session(const Graph& graph, const PlugIn::Translation& translation,
                       port.defaultValue ? Orvel::toAny(*port.defaultValue) : Any()});
   }
   for (const GraphOutput& output : graph.outputs) outputNames_.push_back(libraryText(output.name));
-  description_.frameCount = static_cast<std::uint32_t>(settings.frames.size());
+  description_.frameCount = static_cast<std::uint32_t>(settings.frames.wholeSize());
   description_.printLimit = logger.printLimit;
   description_.verbosity = settings.verbosity;
   description_.throughAny = settings.outputForm == OutputForm::any ? 1 : 0;
@@ -61,10 +61,10 @@ RunOutcome Session::run(const RunObserver& observer) {
   return outcome;
 }
 
-void Session::describeFrame(std::size_t frameIndex) {
-  context_.frame = settings_.frames[frameIndex];
+void Session::describeFrame(std::size_t place) {
+  context_.frame = settings_.frames[place];
   context_.time = context_.frame * context_.frameLength;
-  description_.frameIndex = static_cast<std::uint32_t>(frameIndex);
+  description_.frameIndex = static_cast<std::uint32_t>(settings_.frames.placeInWhole(place));
   description_.frameText = shortestText(context_.frame);
 }
 

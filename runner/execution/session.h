@@ -32,6 +32,8 @@ struct RunSettings {
   FrameList frames;
   /// As the user gave them.
   std::string framesText;
+  /// Those of the job that this run is a part of; empty when it is the whole.
+  std::string jobFramesText;
   double framesPerSecond = 24;
   HostPath sceneFile;
   HostPath secondaryPath;
@@ -45,7 +47,7 @@ struct RunSettings {
 
 /// What whoever starts a run is told of it.
 struct RunObserver {
-  /// With the frame's index, and its number as the user knows it.
+  /// With the frame's place in the run, and its number as the user knows it.
   std::function<void(std::size_t, const std::string&)> beforeFrame;
   /// With the finished frame; the logger holds its messages until the return. False ends the run.
   std::function<bool(const FrameRecord&)> afterFrame;
@@ -77,7 +79,7 @@ class Session {
     Any defaultValue;
   };
 
-  void describeFrame(std::size_t frameIndex);
+  void describeFrame(std::size_t place);
   FrameRecord recordFrame();
   FrameRecord runFrame();
   std::optional<std::vector<Orvel::Value>> setInputs();

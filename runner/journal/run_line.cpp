@@ -77,16 +77,21 @@ std::string runContent(const Graph& graph, const RunSettings& settings,
                  {"input_texts", textsOf(graph, settings.inputValues)},
                  {"job_texts", textsOf(graph, settings.jobValues)},
                  {"settings", options}};
-  return textOf({{"form", journalForm},
-                 {"program", programVersion()},
-                 {"graph", graph.name},
-                 {"graph_file", fileText(settings.graphFile)},
-                 {"loaded", true},
-                 {"ports", portsOf(graph)},
-                 {"outputs", outputsOf(graph)},
-                 {"frames", settings.framesText},
-                 {"frame_count", settings.frames.size()},
-                 {"key", key}});
+  Json content{{"form", journalForm},
+               {"program", programVersion()},
+               {"graph", graph.name},
+               {"graph_file", fileText(settings.graphFile)},
+               {"loaded", true},
+               {"ports", portsOf(graph)},
+               {"outputs", outputsOf(graph)},
+               {"frames", settings.framesText},
+               {"frame_count", settings.frames.size()}};
+  if (!settings.jobFramesText.empty()) {
+    content["job_frames"] = settings.jobFramesText;
+    content["job_frame_count"] = settings.frames.wholeSize();
+  }
+  content["key"] = key;
+  return textOf(content);
 }
 
 std::string unloadedRunContent(const std::filesystem::path& graphFile) {

@@ -23,6 +23,16 @@ void addFrame(JournalSurvey& survey, const Json& frame) {
   countProblems(survey.problems, frame.at("messages"));
 }
 
+/// The report of a part of a job is one of the job.
+void describeJob(Json& run) {
+  for (const std::string name : {"frames", "frame_count"}) {
+    const auto ofJob = run.find("job_" + name);
+    if (ofJob == run.end()) continue;
+    run[name] = *ofJob;
+    run.erase("job_" + name);
+  }
+}
+
 }  // namespace
 
 std::uint64_t JournalSurvey::frameCount() const { return run.at("frame_count"); }
@@ -37,6 +47,7 @@ JournalSurvey surveyJournal(const JournalSource& source) {
   if (!reader.next()) throw JournalError(source.name + " holds no run: it ends in its first line");
   if (reader.line().kind != line_kinds::run) reader.fail();
   survey.run = reader.parse(reader.line().content);
+  describeJob(survey.run);
   survey.runTimes = reader.parse(reader.line().times);
   if (survey.run.value("form", 0) != journalForm)
     throw JournalError(source.name + " has a form that this program doesn't know");

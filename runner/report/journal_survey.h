@@ -29,7 +29,7 @@ struct JournalSurvey {
   /// Critical messages, errors and warnings of whatever source, by the level's name.
   std::map<std::string, std::uint64_t> problems;
 
-  /// Frames that were asked for.
+  /// Frames of the whole job; `run` names these too.
   std::uint64_t frameCount() const;
   std::uint64_t missing() const { return frameCount() - frames; }
   /// That of the end; "cut off" without one.
