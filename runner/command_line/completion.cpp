@@ -34,11 +34,12 @@ void offer(const Place& place, const std::string& value, const std::string& mean
 
 void offerFiles(const Place& place) { place.stream << '\t' << place.before << '\n'; }
 
-std::vector<GraphPort> portsOf(const std::string& graphFile) {
+/// One without ports and outputs when it can't be loaded.
+Graph graphAt(const Place& place) {
   // The standard input isn't there to be completed.
-  if (graphFile == standardInput) return {};
+  if (place.graphFile == standardInput) return {};
   try {
-    return loadGraph(graphFile).ports;
+    return loadGraph(place.graphFile);
   } catch (const LoadError&) {
     return {};
   }
@@ -61,7 +62,8 @@ void offerPort(const Place& place, const GraphPort& port) {
 
 void offerPortTexts(const Place& place) {
   const std::optional<std::string> name = portName(place);
-  for (const GraphPort& port : portsOf(place.graphFile)) {
+  const Graph graph = graphAt(place);
+  for (const GraphPort& port : graph.ports) {
     if (port.isJob != place.wantsJobs || !takesText(port)) continue;
     if (!name) {
       offerPort(place, port);
@@ -77,9 +79,15 @@ void offerPortFiles(Place place) {
     place.before += *name + "=";
     return offerFiles(place);
   }
-  for (const GraphPort& port : portsOf(place.graphFile)) {
+  const Graph graph = graphAt(place);
+  for (const GraphPort& port : graph.ports) {
     if (takesText(port)) offerPort(place, port);
   }
+}
+
+void offerOutputs(const Place& place) {
+  const Graph graph = graphAt(place);
+  for (const GraphOutput& output : graph.outputs) offer(place, output.name, output.description);
 }
 
 void offerLevels(const Place& place) {
@@ -93,9 +101,10 @@ struct ValueKind {
 };
 
 const ValueKind valueKinds[]{
-    {"GRAPH", offerFiles},  {"FILE", offerFiles},
-    {"PATH", offerFiles},   {"PORT=PATH", [](const Place& place) { offerPortFiles(place); }},
-    {"LEVEL", offerLevels}, {"PORT=TEXT", offerPortTexts},
+    {"GRAPH", offerFiles},    {"FILE", offerFiles},
+    {"PATH", offerFiles},     {"PORT=PATH", [](const Place& place) { offerPortFiles(place); }},
+    {"LEVEL", offerLevels},   {"PORT=TEXT", offerPortTexts},
+    {"OUTPUT", offerOutputs},
 };
 
 void completeValue(const CLI::Option& option, Place place) {

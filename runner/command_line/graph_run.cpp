@@ -196,6 +196,7 @@ LoadedRun loadRun(const RunOptions& options, const std::vector<std::string>& arg
   run.graph = loadGraph(options.graph);
   const PortTexts texts = textsFrom(options, run.graph);
   run.texts = texts.byPort();
+  selectOutputs(options, run.graph);
   lookUpTextsInWorkingDirectory(run.graph, run.texts);
   run.settings = settingsFrom(options, texts, arguments);
   run.settings.filesRead = filesReadBy(run.graph, run.texts);

@@ -1,8 +1,14 @@
 #include "command_line/run_options.h"
 
+#include <algorithm>
+
 #include "command_line/job_frames.h"
 #include "command_line/option_values.h"
 #include "command_line/port_texts.h"
+#include "command_line/usage_error.h"
+#include "graph/needed_nodes.h"
+#include "text/library_text.h"
+#include "text/near_misses.h"
 #include "text/path_text.h"
 
 namespace vtlcmd::runner {
@@ -45,6 +51,8 @@ void addRunOptions(CLI::App& command, RunOptions& options) {
   command.add_option("--secondary", options.secondary, "Secondary path that the graph is told")
       ->type_name("PATH");
   command.add_flag("--strict", options.strict, "Fail on a warning too");
+  addList("--only", options.only, "Evaluate and report only this output and what it needs")
+      ->type_name("OUTPUT");
   addList("--report", options.reports,
           "Write a report of the run: a page for people to a file named *.html, else a JSON "
           "document; '-' is the standard output, and the text then goes to standard error")
@@ -76,6 +84,18 @@ PortTexts textsFrom(const RunOptions& options, const Graph& graph) {
   for (const std::string& assignment : options.inputs) texts.setInput(assignment);
   for (const std::string& assignment : options.jobs) texts.setJob(assignment);
   return texts;
+}
+
+void selectOutputs(const RunOptions& options, Graph& graph) {
+  std::vector<std::string> known;
+  for (const GraphOutput& output : graph.outputs) known.push_back(output.name);
+  for (const std::string& name : options.only) {
+    if (std::find(known.begin(), known.end(), name) == known.end()) {
+      throw UsageError("the graph " + inQuotes(graph.name) + " has no output " + inQuotes(name) +
+                       nearMissHint(name, known));
+    }
+  }
+  if (!options.only.empty()) keepOutputs(graph, {options.only.begin(), options.only.end()});
 }
 
 RunSettings settingsFrom(const RunOptions& options, const PortTexts& texts,

@@ -26,6 +26,7 @@ struct RunOptions {
   std::string scene;
   std::string secondary;
   bool strict = false;
+  std::vector<std::string> only;
   std::vector<std::string> reports;
   bool noTimes = false;
   std::optional<std::string> journal;
@@ -41,6 +42,10 @@ void addRunOptions(CLI::App& command, RunOptions& options);
 
 /// The texts that the options give to the graph's ports. Throws UsageError.
 PortTexts textsFrom(const RunOptions& options, const Graph& graph);
+
+/// Leaves only the outputs in a graph that the options want. Throws UsageError for a name that is
+/// no output's.
+void selectOutputs(const RunOptions& options, Graph& graph);
 
 /// Throws UsageError.
 RunSettings settingsFrom(const RunOptions& options, const PortTexts& texts,

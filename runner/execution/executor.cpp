@@ -1,9 +1,11 @@
 #include "execution/executor.h"
 
+#include <algorithm>
 #include <exception>
 #include <utility>
 
 #include "execution/caught_failure.h"
+#include "graph/frame_dependence.h"
 #include "platform/interrupt.h"
 #include "text/library_text.h"
 
@@ -22,7 +24,11 @@ std::string sentenceAbout(const GraphNode& node, const std::string& text) {
 }  // namespace
 
 Executor::Executor(const Graph& graph, VtlCmdLogger& logger, OnRead onRead)
-    : graph_(graph), logger_(logger), onRead_(std::move(onRead)) {
+    : graph_(graph),
+      logger_(logger),
+      onRead_(std::move(onRead)),
+      dependsOnFrame_(frameDependence(graph)),
+      kept_(graph.nodes.size()) {
   types_.reserve(graph.nodes.size());
   for (const GraphNode& node : graph.nodes) {
     ArgumentTypes& types = types_.emplace_back(node.sources.size());
@@ -32,45 +38,74 @@ Executor::Executor(const Graph& graph, VtlCmdLogger& logger, OnRead onRead)
   }
 }
 
-Executor::Result Executor::run(const std::vector<Orvel::Value>& portValues) const {
+Executor::Result Executor::run(const std::vector<Orvel::Value>& portValues) {
   const CountingScope counting(logger_);
+  forgetIfFilesChanged();
   Slots slots;
   slots.reserve(graph_.ports.size() + graph_.nodes.size());
   slots.assign(portValues.begin(), portValues.end());
   slots.resize(graph_.ports.size() + graph_.nodes.size());
   for (const std::size_t index : graph_.order) {
     if (frameAbandoned()) return {};
-    const GraphNode& node = graph_.nodes[index];
     try {
-      slots[graph_.slotOfNode(index)] = evaluate(node, types_[index], slots);
+      slots[graph_.slotOfNode(index)] = valueOf(index, slots);
     } catch (const FrameAbandoned&) {
       return {};
     } catch (const std::exception&) {
       const CaughtFailure caught = caughtFailure(logger_.currentEntry().frameText);
-      logger_.addVantrelMessage(severityError, sentenceAbout(node, caught.text));
+      logger_.addVantrelMessage(severityError, sentenceAbout(graph_.nodes[index], caught.text));
       return {std::nullopt, caught.failure};
     }
   }
   Result result{std::vector<Orvel::Value>()};
-  result.values->reserve(slots.size());
-  for (std::optional<Orvel::Value>& slot : slots) result.values->push_back(*std::move(slot));
+  result.outputs->reserve(graph_.outputs.size());
+  for (const GraphOutput& output : graph_.outputs) result.outputs->push_back(*slots[output.source]);
   return result;
 }
 
-Orvel::Value Executor::evaluate(const GraphNode& node, const ArgumentTypes& types,
-                                const Slots& slots) const {
+void Executor::forgetIfFilesChanged() {
+  const auto hasChanged = [](const std::optional<Evaluation>& kept) {
+    return kept && std::any_of(kept->files.begin(), kept->files.end(),
+                               [](const FileStamp& stamp) { return stampOf(stamp.file) != stamp; });
+  };
+  if (std::any_of(kept_.begin(), kept_.end(), hasChanged)) kept_.assign(kept_.size(), std::nullopt);
+}
+
+Orvel::Value Executor::valueOf(std::size_t node, const Slots& slots) {
+  if (dependsOnFrame_[node]) return evaluate(node, slots).value;
+  std::optional<Evaluation>& kept = kept_[node];
+  if (!kept) return kept.emplace(evaluate(node, slots)).value;
+  for (const FileStamp& stamp : kept->files) onRead_(stamp.file);
+  for (const std::string& sentence : kept->warnings) warn(sentence);
+  return kept->value;
+}
+
+Executor::Evaluation Executor::evaluate(std::size_t index, const Slots& slots) const {
+  const GraphNode& node = graph_.nodes[index];
   std::vector<std::vector<Orvel::Value>> arguments(node.sources.size());
   for (std::size_t i = 0; i < node.sources.size(); ++i) {
     arguments[i].reserve(node.sources[i].size());
     for (const std::size_t slot : node.sources[i]) arguments[i].push_back(*slots[slot]);
   }
-  const NodeTypes nodeTypes{types, std::nullopt};
-  const std::function<void(const std::string&)> warn = [&](const std::string& text) {
-    logger_.addVantrelMessage(severityWarning, sentenceAbout(node, text));
+  const NodeTypes nodeTypes{types_[index], std::nullopt};
+  std::vector<std::string> warnings;
+  const std::function<void(const std::string&)> onWarning = [&](const std::string& text) {
+    warnings.push_back(sentenceAbout(node, text));
+    warn(warnings.back());
+  };
+  std::vector<FileStamp> files;
+  const OnRead onRead = [&](const std::filesystem::path& file) {
+    onRead_(file);
+    files.push_back(stampOf(file));
   };
   const Orvel::Value* literal = node.literal ? &*node.literal : nullptr;
-  return node.operation->evaluate(
-      {nodeTypes, node.type, arguments, literal, node.pathFolder, warn, onRead_});
+  Orvel::Value value = node.operation->evaluate(
+      {nodeTypes, node.type, arguments, literal, node.pathFolder, onWarning, onRead});
+  return {std::move(value), std::move(warnings), std::move(files)};
+}
+
+void Executor::warn(const std::string& sentence) const {
+  logger_.addVantrelMessage(severityWarning, sentence);
 }
 
 }  // namespace vtlcmd::runner

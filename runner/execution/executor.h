@@ -3,8 +3,10 @@
 #include <filesystem>
 #include <functional>
 #include <optional>
+#include <string>
 #include <vector>
 
+#include "execution/file_stamp.h"
 #include "execution/frame_record.h"
 #include "graph/graph.h"
 #include "logging/vtlcmd_logger.h"
@@ -12,7 +14,9 @@
 namespace vtlcmd::runner {
 
 /// Runs a graph. What nodes complain of goes to the logger as messages of the graph system, which
-/// it counts.
+/// it counts. A node whose value doesn't depend on the frame is evaluated by the first run only:
+/// the later ones have the same value and messages, unless a file that such a node has read has
+/// changed.
 class Executor {
  public:
   using OnRead = std::function<void(const std::filesystem::path&)>;
@@ -22,13 +26,13 @@ class Executor {
   Executor(const Graph& graph, VtlCmdLogger& logger, OnRead onRead);
 
   struct Result {
-    /// By slot; empty when a node failed or the frame is abandoned: the run ends there.
-    std::optional<std::vector<Orvel::Value>> values;
+    /// By output; empty when a node failed or the frame is abandoned: the run ends there.
+    std::optional<std::vector<Orvel::Value>> outputs;
     Failure failure = Failure::none;
   };
 
-  /// Evaluates all nodes from the values of the ports.
-  Result run(const std::vector<Orvel::Value>& portValues) const;
+  /// Evaluates the nodes in the graph's order from the values of the ports.
+  Result run(const std::vector<Orvel::Value>& portValues);
 
  private:
   using Slots = std::vector<std::optional<Orvel::Value>>;
@@ -36,14 +40,28 @@ class Executor {
   /// By parameter, the types of its sources.
   using ArgumentTypes = std::vector<std::vector<ValueType>>;
 
-  Orvel::Value evaluate(const GraphNode& node, const ArgumentTypes& types,
-                        const Slots& slots) const;
+  /// What an evaluation gave and told.
+  struct Evaluation {
+    Orvel::Value value;
+    std::vector<std::string> warnings;
+    /// As they were before they were read.
+    std::vector<FileStamp> files;
+  };
+
+  void forgetIfFilesChanged();
+  Orvel::Value valueOf(std::size_t node, const Slots& slots);
+  Evaluation evaluate(std::size_t node, const Slots& slots) const;
+  void warn(const std::string& sentence) const;
 
   const Graph& graph_;
   VtlCmdLogger& logger_;
   /// By node.
   std::vector<ArgumentTypes> types_;
   OnRead onRead_;
+  /// By node.
+  std::vector<bool> dependsOnFrame_;
+  /// By node, what stays the same in later runs.
+  std::vector<std::optional<Evaluation>> kept_;
 };
 
 }  // namespace vtlcmd::runner

@@ -92,9 +92,9 @@ FrameRecord Session::runFrame() {
   if (inputs) {
     const Executor::Result result = executor_.run(*inputs);
     failure_ = result.failure;
-    logger_.setExecuted(result.values.has_value());
-    logger_.setInterrupted(!result.values && result.failure == Failure::none);
-    if (result.values) reportOutputs(*result.values, record);
+    logger_.setExecuted(result.outputs.has_value());
+    logger_.setInterrupted(!result.outputs && result.failure == Failure::none);
+    if (result.outputs) reportOutputs(*result.outputs, record);
   }
   logger_.setWithoutErrors(!hasMessageUpTo(levelError));
   record.failure = failureOfFrame();
@@ -147,7 +147,7 @@ void Session::reportOutputs(const std::vector<Orvel::Value>& values, FrameRecord
       return;
     }
     const GraphOutput& output = graph_.outputs[i];
-    const Orvel::Value& value = values[output.source];
+    const Orvel::Value& value = values[i];
     try {
       const bool isReported =
           reportOutput(translation_, outputNames_[i], value, settings_.outputForm, context_);

@@ -65,7 +65,8 @@ void lookUpTextsInWorkingDirectory(Graph& graph, const TextsByPort& texts) {
 
 std::vector<std::filesystem::path> filesReadBy(const Graph& graph, const TextsByPort& texts) {
   std::vector<std::filesystem::path> files;
-  for (const GraphNode& node : graph.nodes) {
+  for (const std::size_t index : graph.order) {
+    const GraphNode& node = graph.nodes[index];
     const std::optional<std::size_t> slot = pathSlot(node);
     const std::optional<std::string> text = slot ? knownText(graph, *slot, texts) : std::nullopt;
     if (text) files.push_back(valuePathFrom(node.pathFolder / filePath(*text)).file);

@@ -16,8 +16,8 @@ using TextsByPort = std::vector<std::optional<std::string>>;
 /// the first of the texts that it is joined from comes from.
 void lookUpTextsInWorkingDirectory(Graph& graph, const TextsByPort& texts);
 
-/// The files that nodes read, as far as their paths stand in the graph or in a user's text and
-/// aren't computed. Wants paths to be where they are looked up already.
+/// The files that nodes to be evaluated read, as far as their paths stand in the graph or in a
+/// user's text and aren't computed. Wants paths to be where they are looked up already.
 std::vector<std::filesystem::path> filesReadBy(const Graph& graph, const TextsByPort& texts);
 
 }  // namespace vtlcmd::runner

@@ -61,6 +61,12 @@ Json outputsOf(const Graph& graph) {
   return outputs;
 }
 
+Json outputNamesOf(const Graph& graph) {
+  Json names = Json::array();
+  for (const GraphOutput& output : graph.outputs) names.push_back(output.name);
+  return names;
+}
+
 }  // namespace
 
 std::string runContent(const Graph& graph, const RunSettings& settings,
@@ -76,6 +82,7 @@ std::string runContent(const Graph& graph, const RunSettings& settings,
                  {"files", filesOf(settings)},
                  {"input_texts", textsOf(graph, settings.inputValues)},
                  {"job_texts", textsOf(graph, settings.jobValues)},
+                 {"outputs", outputNamesOf(graph)},
                  {"settings", options}};
   Json content{{"form", journalForm},
                {"program", programVersion()},

@@ -33,6 +33,7 @@ Orvel::Array<Orvel::String> linesOf(const std::filesystem::path& path) {
 
 Orvel::Value readLines(const NodeCall& call) {
   const std::filesystem::path path = call.pathFolder / filePath(standardText(call[0].getString()));
+  call.onRead(path);
   try {
     return arrayValue(linesOf(path));
   } catch (const ReadError& error) {

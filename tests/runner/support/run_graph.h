@@ -40,9 +40,9 @@ inline GraphResult runGraph(std::string_view text) {
     result.messages.push_back(std::string(VtlCmdLogger::levelNames[message.level]) + ": " +
                               message.text);
   }
-  if (!run.values) return result;
-  for (const GraphOutput& output : graph.outputs)
-    result.outputs.emplace(output.name, (*run.values)[output.source]);
+  if (!run.outputs) return result;
+  for (std::size_t i = 0; i < graph.outputs.size(); ++i)
+    result.outputs.emplace(graph.outputs[i].name, (*run.outputs)[i]);
   return result;
 }
 
