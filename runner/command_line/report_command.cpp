@@ -10,7 +10,6 @@
 #include "command_line/run_reports.h"
 #include "journal/journal_reader.h"
 #include "report/run_report.h"
-#include "report/whole_file.h"
 #include "text/path_text.h"
 
 namespace vtlcmd::runner {
@@ -54,9 +53,7 @@ void write(const ReportCommandOptions& options, const JournalSource& source) {
   if (options.output == OutputTargets::standardOutput)
     return writeReport(std::cout, source, formOf(options));
   try {
-    WholeFile file(filePath(options.output));
-    writeReport(file.stream(), source, formOf(options));
-    file.commit();
+    writeReportFile(filePath(options.output), source, formOf(options));
   } catch (const std::system_error& error) {
     throw OutputError("the report can't be written to " + options.output, error);
   }

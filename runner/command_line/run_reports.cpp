@@ -6,7 +6,6 @@
 
 #include "command_line/output_targets.h"
 #include "report/run_report.h"
-#include "report/whole_file.h"
 #include "text/path_text.h"
 #include "text/system_reason.h"
 
@@ -71,9 +70,7 @@ void RunReports::write(const std::string& target, const JournalSource& source) c
     return writeReport(std::cout, source, {ReportFormat::json, withTimes_});
   if (kept_.contains(target)) throw OutputError(refusal(target) + ": the run has read it");
   const std::filesystem::path path = filePath(target);
-  WholeFile file(path);
-  writeReport(file.stream(), source, {reportFormatOf(path), withTimes_});
-  file.commit();
+  writeReportFile(path, source, {reportFormatOf(path), withTimes_});
 }
 
 }  // namespace vtlcmd::runner

@@ -32,8 +32,10 @@ bool showValues(const std::string& file, const ShowOptions& options,
   for (const DataValue& data :
        file == standardInput ? readStandardInputArray(form) : readDataFile(filePath(file), form)) {
     const std::string name = data.name.empty() ? file : file + "/" + data.name;
-    if (!data.description.empty())
-      context.logger->addMessage(vtlcmdSource, levelProgress, name + ": " + data.description);
+    if (data.facts)
+      context.logger->addMessage(vtlcmdSource, levelProgress, name + ": " + describe(*data.facts));
+    for (const std::string& warning : data.warnings)
+      context.logger->addMessage(vtlcmdSource, levelWarning, name + ": " + warning);
     complete &= reportOutput(translation, libraryText(name), data.value,
                              options.report.outputForm(), context);
   }

@@ -14,4 +14,16 @@ std::string hostName() {
 
 std::uint64_t processNumber() { return GetCurrentProcessId(); }
 
+std::string processSpace() { return hostName(); }
+
+bool isRunning(std::uint64_t process) noexcept {
+  HANDLE handle =
+      OpenProcess(PROCESS_QUERY_LIMITED_INFORMATION, FALSE, static_cast<DWORD>(process));
+  if (handle == nullptr) return GetLastError() != ERROR_INVALID_PARAMETER;
+  DWORD exitCode = 0;
+  const bool runs = GetExitCodeProcess(handle, &exitCode) == 0 || exitCode == STILL_ACTIVE;
+  CloseHandle(handle);
+  return runs;
+}
+
 }  // namespace vtlcmd::runner

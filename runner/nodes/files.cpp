@@ -48,7 +48,9 @@ Orvel::Value readArray(const NodeCall& call) {
 Orvel::Value readMeshNode(const NodeCall& call) {
   const std::filesystem::path file = fileArgument(call);
   call.onRead(file);
-  return Orvel::makeValue(readMesh(file));
+  DataValue mesh = readMesh(file);
+  for (const std::string& warning : mesh.warnings) call.warn(fileText(file) + ": " + warning);
+  return std::move(mesh.value);
 }
 
 const std::vector<Parameter> path{{"path", &type_classes::path}};

@@ -3,7 +3,6 @@
 #include <new>
 #include <stdexcept>
 
-#include "orvel_sdk/value_factory.h"
 #include "readers/file_text.h"
 #include "readers/foreign_file.h"
 #include "readers/input_file.h"
@@ -28,7 +27,7 @@ auto naming(const std::filesystem::path& file, Function&& function) {
 std::vector<DataValue> readArrayFile(const std::filesystem::path& file, NpyForm form) {
   InputFile input(file);
   NpyArray array = parseNpy(input, form);
-  return {{"", array.value, std::move(array.description)}};
+  return {{"", std::move(array.value), std::move(array.facts), {}}};
 }
 
 }  // namespace
@@ -60,16 +59,16 @@ std::vector<DataValue> readStandardInputArray(NpyForm form) {
   MemorySource input({reinterpret_cast<const unsigned char*>(file.data()), file.size()});
   try {
     NpyArray array = parseNpy(input, form);
-    return {{"", std::move(array.value), std::move(array.description)}};
+    return {{"", std::move(array.value), std::move(array.facts), {}}};
   } catch (const ReadError& error) {
     throw ReadError("the standard input: " + std::string(error.what()));
   }
 }
 
-ObjectPtr readMesh(const std::filesystem::path& file) {
+DataValue readMesh(const std::filesystem::path& file) {
   return naming(file, [&] {
     if (!readerFor(file).givesMesh) throw ReadError("it is no mesh");
-    return Orvel::valueAs<ObjectPtr>(readForeignFile(file, {}).at(0).value);
+    return readForeignFile(file, {}).at(0);
   });
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -15,8 +16,10 @@ struct DataValue {
   /// Its name in the file; empty in files that have one value without a name.
   std::string name;
   Orvel::Value value;
-  /// What the file has, if that tells more than the value: "int16, 7, widened to int".
-  std::string description;
+  /// Of an array.
+  std::optional<NpyFacts> facts;
+  /// What the file has besides and the value hasn't.
+  std::vector<std::string> warnings;
 };
 
 /// A path to one of a data file's values, like scan.npz/positions, or to the only one.
@@ -45,6 +48,6 @@ std::vector<DataValue> readStandardInputArray(NpyForm form);
 /// properties are `position`, one a point; `face_size`, one a face; `corner_point`, the point of
 /// each corner; and as far as the file has them for all `normal`, `uv` and `color`, one a corner,
 /// or one a point in a mesh without faces. Throws ReadError, which names the file.
-ObjectPtr readMesh(const std::filesystem::path& file);
+DataValue readMesh(const std::filesystem::path& file);
 
 }  // namespace vtlcmd::runner

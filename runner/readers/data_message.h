@@ -18,6 +18,8 @@ enum class DataMessage : std::uint8_t {
   vectors,
   /// A value; the payload is an array file.
   array,
+  /// Something of the mesh is left out; what stands for a name.
+  warning,
   /// The file can't be read. The reason stands for a name.
   error,
   /// Nothing comes any more.

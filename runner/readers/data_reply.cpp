@@ -71,6 +71,7 @@ std::vector<DataValue> parseReply(ByteSource& messages, NpyForm form) {
   std::vector<DataValue> values;
   Orvel::MutablePtr<Vantrel::Object> mesh = Vantrel::createObject();
   bool hasMesh = false;
+  std::vector<std::string> warnings;
   for (;;) {
     const auto kind = static_cast<DataMessage>(readNumber(messages, 1));
     const std::string name = readName(messages);
@@ -91,14 +92,19 @@ std::vector<DataValue> parseReply(ByteSource& messages, NpyForm form) {
       }
       case DataMessage::array: {
         NpyArray array = parseArray(name, payload, form);
-        values.push_back({name, array.value, std::move(array.description)});
+        values.push_back({name, array.value, std::move(array.facts), {}});
         break;
       }
+      case DataMessage::warning:
+        warnings.push_back(name);
+        break;
       case DataMessage::error:
         throw ReadError(name);
       case DataMessage::end:
-        if (hasMesh) values.push_back({"", Orvel::makeValue(ObjectPtr(std::move(mesh))), ""});
+        if (hasMesh)
+          values.push_back({"", Orvel::makeValue(ObjectPtr(std::move(mesh))), std::nullopt, {}});
         if (values.empty()) throwBroken();
+        values.back().warnings = std::move(warnings);
         return values;
       default:
         throwBroken();

@@ -64,7 +64,12 @@ void DataWriter::writeMesh(const MeshData& mesh) {
   const auto writeVectors = [&](std::string_view name, const auto& elements,
                                 std::uint64_t expected) {
     using Element = typename std::remove_cvref_t<decltype(elements)>::value_type;
-    if (elements.size() != expected || expected == 0) return;
+    if (elements.empty()) return;
+    if (elements.size() != expected) {
+      return writeWarning("left out: the " + std::string(name) + " that only " +
+                          std::to_string(elements.size()) + " of " + std::to_string(expected) +
+                          (faces > 0 ? " corners" : " points") + " have");
+    }
     const std::array<std::uint64_t, 2> shape{expected, Element::componentCount};
     writeArray(DataMessage::vectors, name, "f4", shape, bytesOf(elements));
   };
@@ -78,7 +83,10 @@ void DataWriter::writeMesh(const MeshData& mesh) {
   writeVectors("normal", mesh.normals, vertices);
   writeVectors("uv", mesh.uvs, vertices);
   writeVectors("color", mesh.colors, vertices);
+  if (!mesh.leftOut.empty()) writeWarning("left out: " + mesh.leftOut);
 }
+
+void DataWriter::writeWarning(std::string_view text) { begin(DataMessage::warning, text, 0); }
 
 void DataWriter::writeError(std::string_view reason) { begin(DataMessage::error, reason, 0); }
 

@@ -25,6 +25,8 @@ class DataWriter {
   void writeArray(DataMessage kind, std::string_view name, std::string_view descriptor,
                   std::span<const std::uint64_t> shape, std::span<const unsigned char> elements);
 
+  /// What is left out of the mesh, in words for the user.
+  void writeWarning(std::string_view text);
   void writeError(std::string_view reason);
   void writeEnd();
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 #include <vector>
 
 #include "host/imports/vantrel_math.h"
@@ -19,6 +20,8 @@ struct MeshData {
   std::vector<Vantrel::Math::float3> normals;
   std::vector<Vantrel::Math::float2> uvs;
   std::vector<Vantrel::Math::float4> colors;
+  /// What of the file isn't in here and has no place here: "2 lines". Empty when there is nothing.
+  std::string leftOut;
 };
 
 }  // namespace vtlcmd::runner

@@ -118,17 +118,17 @@ Builder vectorBuilder(const ElementCode& code, const NpyHeader& header) {
   return code.buildVectors[length - 2];
 }
 
-std::string describe(const ElementCode& code, std::span<const std::uint64_t> shape, bool widened) {
-  std::string text(code.name);
+}  // namespace
+
+std::string describe(const NpyFacts& facts) {
+  std::string text = facts.elements;
   const char* separator = ", ";
-  for (const std::uint64_t length : shape) {
+  for (const std::uint64_t length : facts.shape) {
     text += separator + std::to_string(length);
     separator = " × ";
   }
-  return widened ? text + ", widened to " + code.widenedName : text;
+  return facts.widenedTo.empty() ? text : text + ", widened to " + facts.widenedTo;
 }
-
-}  // namespace
 
 NpyArray parseNpy(ByteSource& file, NpyForm form) {
   const NpyHeader header = parseNpyHeader(file);
@@ -148,7 +148,7 @@ NpyArray parseNpy(ByteSource& file, NpyForm form) {
   if (form.vectors) shape.pop_back();
   NpyNumbers numbers(file, swapped);
   return {build({std::move(shape), header.fortranOrder}, numbers),
-          describe(code, header.shape, widened)};
+          {std::string(code.name), header.shape, widened ? code.widenedName : ""}};
 }
 
 }  // namespace vtlcmd::runner

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
+#include <vector>
 
 #include "host/imports/orvel_values.h"
 #include "readers/byte_source.h"
@@ -19,11 +21,22 @@ struct NpyForm {
   bool widened = false;
 };
 
+/// What a file says of its array.
+struct NpyFacts {
+  /// "float32"
+  std::string elements;
+  std::vector<std::uint64_t> shape;
+  /// "int" where the value's elements are of a wider type than the file's, else empty.
+  std::string widenedTo;
+};
+
+/// "float32, 1000 × 3", or "int16, 7, widened to int".
+std::string describe(const NpyFacts& facts);
+
 struct NpyArray {
   /// Nested as deep as the file has dimensions.
   Orvel::Value value;
-  /// What the file has: "float32, 1000 × 3", or "int16, 7, widened to int".
-  std::string description;
+  NpyFacts facts;
 };
 
 /// The array in a file, whose bytes are read up to the end. Throws ReadError, whose text leaves it

@@ -4,6 +4,7 @@
 #include <array>
 #include <charconv>
 #include <limits>
+#include <map>
 #include <string>
 #include <string_view>
 
@@ -86,6 +87,7 @@ class ObjParser {
     largestUv_.check(uvs_.size());
     largestNormal_.check(normals_.size());
     resolveCorners();
+    data_.leftOut = leftOutText();
     return std::move(data_);
   }
 
@@ -109,6 +111,7 @@ class ObjParser {
                      [word](const Statement& s) { return s.word == word; });
     if (row == std::end(statements)) throw ReadError("there is no such statement in OBJ files");
     if (row->read != nullptr) (this->*row->read)(line);
+    if (row->element != nullptr) ++leftOut_[row->element];
   }
 
   /// A position; a weight or a colour may follow.
@@ -184,7 +187,17 @@ class ObjParser {
       throw ReadError("there are more points or corners than an int counts");
   }
 
-  /// Gives the corners what they name, as far as all of them name it.
+  /// "2 curves, 1 line"
+  std::string leftOutText() const {
+    std::string text;
+    for (const auto& [element, count] : leftOut_) {
+      text += (text.empty() ? "" : ", ") + std::to_string(count) + " " + std::string(element) +
+              (count == 1 ? "" : "s");
+    }
+    return text;
+  }
+
+  /// Gives the corners what they name.
   void resolveCorners() {
     if (!colors_.empty()) colors_.resize(data_.positions.size(), {{1, 1, 1, 1}});
     if (data_.faceSizes.empty()) {
@@ -197,18 +210,19 @@ class ObjParser {
       for (const std::int32_t index : indices)
         to.push_back(values[static_cast<std::size_t>(index)]);
     };
-    const std::size_t corners = data_.cornerPoints.size();
-    if (cornerUvs_.size() == corners) resolve(uvs_, cornerUvs_, data_.uvs);
-    if (cornerNormals_.size() == corners) resolve(normals_, cornerNormals_, data_.normals);
+    resolve(uvs_, cornerUvs_, data_.uvs);
+    resolve(normals_, cornerNormals_, data_.normals);
     if (!colors_.empty()) resolve(colors_, data_.cornerPoints, data_.colors);
   }
 
   struct Statement {
     std::string_view word;
-    /// Null for what is left out.
+    /// Null for what isn't read.
     void (ObjParser::*read)(std::string_view);
+    /// What it would add to the mesh if it were read; null for what adds no geometry.
+    const char* element = nullptr;
   };
-  static const Statement statements[21];
+  static const Statement statements[39];
 
   TextLines lines_;
   MeshData data_;
@@ -217,6 +231,8 @@ class ObjParser {
   std::vector<Math::float3> normals_;
   std::vector<std::int32_t> cornerUvs_;
   std::vector<std::int32_t> cornerNormals_;
+  /// By element, how many.
+  std::map<std::string_view, std::size_t> leftOut_;
   LargestIndex largestPoint_{"vertex"};
   LargestIndex largestUv_{"texture coordinate"};
   LargestIndex largestNormal_{"normal"};
@@ -232,8 +248,12 @@ const ObjParser::Statement ObjParser::statements[]{
     {"o", nullptr},
     {"s", nullptr},
     {"mg", nullptr},
-    {"l", nullptr},
-    {"p", nullptr},
+    {"l", nullptr, "line"},
+    {"p", nullptr, "point element"},
+    {"curv", nullptr, "curve"},
+    {"curv2", nullptr, "curve"},
+    {"surf", nullptr, "surface"},
+    {"call", nullptr, "included file"},
     {"usemtl", nullptr},
     {"mtllib", nullptr},
     {"usemap", nullptr},
@@ -244,6 +264,21 @@ const ObjParser::Statement ObjParser::statements[]{
     {"lod", nullptr},
     {"shadow_obj", nullptr},
     {"trace_obj", nullptr},
+    // What belongs to curves and surfaces.
+    {"vp", nullptr},
+    {"cstype", nullptr},
+    {"deg", nullptr},
+    {"bmat", nullptr},
+    {"step", nullptr},
+    {"parm", nullptr},
+    {"trim", nullptr},
+    {"hole", nullptr},
+    {"scrv", nullptr},
+    {"sp", nullptr},
+    {"end", nullptr},
+    {"con", nullptr},
+    {"ctech", nullptr},
+    {"stech", nullptr},
 };
 
 }  // namespace

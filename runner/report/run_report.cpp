@@ -3,6 +3,7 @@
 #include "journal/journal_reader.h"
 #include "report/html_report.h"
 #include "report/json_report.h"
+#include "report/whole_file.h"
 
 namespace vtlcmd::runner {
 
@@ -19,6 +20,14 @@ void writeReport(std::ostream& stream, const JournalSource& source, const Report
   } catch (const nlohmann::json::exception&) {
     throw JournalError(source.name + " lacks something that journals have");
   }
+}
+
+void writeReportFile(const std::filesystem::path& file, const JournalSource& source,
+                     const ReportForm& form) {
+  WholeFile::removeLeftovers(file);
+  WholeFile whole(file);
+  writeReport(whole.stream(), source, form);
+  whole.commit();
 }
 
 }  // namespace vtlcmd::runner

@@ -22,4 +22,8 @@ struct ReportForm {
 /// JournalError, before anything is written.
 void writeReport(std::ostream& stream, const JournalSource& source, const ReportForm& form);
 
+/// Writes it to a file that appears whole or not at all. Throws std::system_error too.
+void writeReportFile(const std::filesystem::path& file, const JournalSource& source,
+                     const ReportForm& form);
+
 }  // namespace vtlcmd::runner

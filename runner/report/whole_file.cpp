@@ -1,11 +1,17 @@
 #include "report/whole_file.h"
 
 #include <cerrno>
+#include <charconv>
+#include <cstdint>
 #include <random>
 #include <string>
+#include <string_view>
 #include <system_error>
 
+#include "journal/crc32.h"
+#include "journal/process_identity.h"
 #include "platform/writable_folder.h"
+#include "text/path_text.h"
 
 namespace vtlcmd::runner {
 namespace {
@@ -33,13 +39,29 @@ bool canBeReplaced(const fs::path& file) {
   return true;
 }
 
+constexpr std::string_view partialEnding = ".part";
+
+/// What the names of files that are being written to take a file's place begin with, where
+/// processes of this machine write them. The process and a random number follow.
+std::string partialBeginning(const fs::path& file) {
+  return "." + fileText(file.filename()) + "." + std::to_string(crc32(processSpace())) + "-";
+}
+
 /// A name beside the file that no other process takes.
 fs::path besideFile(const fs::path& file) {
   std::random_device random;
-  fs::path name = ".";
-  name += file.filename();
-  name += "." + std::to_string(random()) + "-" + std::to_string(random()) + ".part";
-  return file.parent_path() / name;
+  const std::string name = partialBeginning(file) + std::to_string(processNumber()) + "-" +
+                           std::to_string(random()) + std::string(partialEnding);
+  return file.parent_path() / filePath(name);
+}
+
+/// The process in the name of a file that `besideFile` named; 0 in other names.
+std::uint64_t processOf(std::string_view name, std::string_view beginning) {
+  if (!name.starts_with(beginning) || !name.ends_with(partialEnding)) return 0;
+  name.remove_prefix(beginning.size());
+  std::uint64_t process = 0;
+  const auto [stop, error] = std::from_chars(name.data(), name.data() + name.size(), process);
+  return error == std::errc() && *stop == '-' ? process : 0;
 }
 
 [[noreturn]] void throwLast() {
@@ -71,6 +93,21 @@ int FileBuffer::sync() {
 
 void FileBuffer::remember(bool failed) {
   if (failed && failure_ == 0) failure_ = errno;
+}
+
+void WholeFile::removeLeftovers(const fs::path& file) noexcept {
+  try {
+    const fs::path target = linkTarget(file);
+    const std::string beginning = partialBeginning(target);
+    const fs::path folder = target.has_parent_path() ? target.parent_path() : ".";
+    for (const fs::directory_entry& entry : fs::directory_iterator(folder)) {
+      const std::uint64_t process = processOf(fileText(entry.path().filename()), beginning);
+      std::error_code ignored;
+      if (process != 0 && !isRunning(process)) fs::remove(entry.path(), ignored);
+    }
+  } catch (const std::exception&) {
+    // What is left behind is in nobody's way.
+  }
 }
 
 void WholeFile::check(const fs::path& file) {

@@ -34,6 +34,9 @@ class WholeFile {
   static void check(const std::filesystem::path& file);
   WholeFile(const WholeFile&) = delete;
   WholeFile& operator=(const WholeFile&) = delete;
+  /// Removes what processes that were killed while they wrote this file left beside it, as far as
+  /// they ran on this machine. What can't be removed stays.
+  static void removeLeftovers(const std::filesystem::path& file) noexcept;
   /// Without a commit nothing is left behind.
   ~WholeFile();
 

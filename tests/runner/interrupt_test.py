@@ -205,6 +205,29 @@ def kill_at(folder, lines):
     report_file.unlink()
 
 
+def parts_in(folder):
+    return [name for name in os.listdir(folder) if name.endswith(".part")]
+
+
+def killed_while_it_writes(folder):
+    """What a killed writer of a report leaves is gone after the next one."""
+    journal, report_file = folder / "run.journal", folder / "report.json"
+    start("run", "examples/animated.json", "-f", "1-20000", "-q", "--journal", journal).communicate()
+    for _ in range(50):
+        report = start("report", journal, "-o", report_file)
+        while report.poll() is None and not parts_in(folder):
+            pass
+        report.kill()
+        report.communicate()
+        if parts_in(folder):
+            break
+    expect("a killed writer leaves a part", len(parts_in(folder)), 1)
+    expect("the next writer", start("report", journal, "-o", report_file).wait(), 0)
+    expect("the part is gone", parts_in(folder), [])
+    report_file.unlink()
+    journal.unlink()
+
+
 with tempfile.TemporaryDirectory() as name:
     folder = pathlib.Path(name)
     (folder / "long.json").write_text(json.dumps(LONG_FRAME))
@@ -219,6 +242,7 @@ with tempfile.TemporaryDirectory() as name:
     third_ends_at_once(folder)
     terminal_says_that_it_waits()
     reader_that_goes(folder)
+    killed_while_it_writes(folder)
     moments = random.Random(20260131)
     for _ in range(arguments.kills):
         kill_at(folder, moments.randrange(1, 2000))

@@ -45,7 +45,8 @@ TEST_F(DataFile, ExtensionsAreOfAnyCase) {
   EXPECT_NE(&readerFor("a.obj"), &readerFor("a.ply"));
   const std::vector<DataValue> values = readDataFile(write("TWO.NPY", twoInts), {});
   ASSERT_EQ(values.size(), 1U);
-  EXPECT_EQ(values[0].description, "int32, 2");
+  ASSERT_TRUE(values[0].facts);
+  EXPECT_EQ(describe(*values[0].facts), "int32, 2");
 }
 
 TEST_F(DataFile, ArraysMayHaveAnyExtension) {

@@ -82,6 +82,19 @@ TEST(DataReply, MeshesArriveAsObjects) {
   EXPECT_TRUE(dataOf<Math::float3>(object, "normal").empty());
 }
 
+TEST(DataReply, WhatIsLeftOutIsTold) {
+  const std::vector<DataValue> values = parse(written([](DataWriter& writer) {
+    MeshData mesh = triangle();
+    mesh.leftOut = "2 lines";
+    writer.writeMesh(mesh);
+    writer.writeEnd();
+  }));
+  ASSERT_EQ(values.size(), 1U);
+  EXPECT_EQ(values[0].warnings,
+            (std::vector<std::string>{"left out: the normal that only 1 of 3 corners have",
+                                      "left out: 2 lines"}));
+}
+
 TEST(DataReply, ArraysArriveByName) {
   const std::vector<std::int16_t> numbers{1, -2, 3};
   const std::uint64_t shape[]{3};
@@ -96,7 +109,8 @@ TEST(DataReply, ArraysArriveByName) {
   ASSERT_EQ(values.size(), 2U);
   EXPECT_EQ(values[0].name, "a");
   EXPECT_EQ(values[1].name, "b");
-  EXPECT_EQ(values[1].description, "int16, 3, widened to int");
+  ASSERT_TRUE(values[1].facts);
+  EXPECT_EQ(describe(*values[1].facts), "int16, 3, widened to int");
   EXPECT_EQ(arrayIn<std::int32_t>(values[1].value)[1], -2);
 }
 

@@ -232,7 +232,7 @@ TEST(Npy, TellsWhatTheFileHas) {
   const auto described = [](const char* code, const char* shape, NpyForm form) {
     const Bytes file = npyFile(npyHeader(code, shape), Bytes(24));
     MemorySource source(file);
-    return parseNpy(source, form).description;
+    return describe(parseNpy(source, form).facts);
   };
   EXPECT_EQ(described("<f4", "(3, 2)", {.vectors = true}), "float32, 3 × 2");
   EXPECT_EQ(described("|b1", "(2, 3, 4)", {}), "bool, 2 × 3 × 4");

@@ -81,10 +81,19 @@ TEST(Obj, ColorsWithoutFacesAreByPoint) {
             (std::vector<Math::float4>{{{1, 0, 0, 1}}, {{1, 1, 1, 1}}}));
 }
 
-TEST(Obj, WhatNotAllCornersHaveIsLeftOut) {
-  const MeshData mesh = parse("v 0 0 0\nvn 0 0 1\nvt 1 1\nf 1/1/1 1/1 1//1\n");
-  EXPECT_TRUE(mesh.normals.empty());
-  EXPECT_TRUE(mesh.uvs.empty());
+TEST(Obj, WhatNotAllCornersHaveIsOfTheOthers) {
+  const MeshData mesh = parse("v 0 0 0\nvn 0 0 1\nvt 1 1\nf 1/1/1 1/1 1\n");
+  EXPECT_EQ(mesh.normals.size(), 1U);
+  EXPECT_EQ(mesh.uvs.size(), 2U);
+}
+
+TEST(Obj, GeometryThatIsNotReadIsCounted) {
+  EXPECT_EQ(parse("v 0 0 0\nv 1 0 0\nl 1 2\np 1\np 2\n").leftOut, "1 line, 2 point elements");
+  EXPECT_EQ(parse("v 0 0 0\nvp 0 0\ncstype bezier\ndeg 1\ncurv 0 1 1 1\nparm u 0 1\nend\n"
+                  "curv2 1 1\nsurf 0 1 0 1 1\ncall other.obj\n")
+                .leftOut,
+            "2 curves, 1 included file, 1 surface");
+  EXPECT_EQ(parse("mtllib m.mtl\ng a\no b\ns 1\nusemtl c\nv 0 0 0\n").leftOut, "");
 }
 
 TEST(Obj, RefusalsNameTheLine) {
