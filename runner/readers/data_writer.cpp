@@ -66,7 +66,7 @@ void DataWriter::writeMesh(const MeshData& mesh) {
     using Element = typename std::remove_cvref_t<decltype(elements)>::value_type;
     if (elements.empty()) return;
     if (elements.size() != expected) {
-      return writeWarning("left out: the " + std::string(name) + " that only " +
+      return writeWarning("left out: the " + std::string(name) + ", which only " +
                           std::to_string(elements.size()) + " of " + std::to_string(expected) +
                           (faces > 0 ? " corners" : " points") + " have");
     }

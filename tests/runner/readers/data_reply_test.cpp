@@ -91,7 +91,7 @@ TEST(DataReply, WhatIsLeftOutIsTold) {
   }));
   ASSERT_EQ(values.size(), 1U);
   EXPECT_EQ(values[0].warnings,
-            (std::vector<std::string>{"left out: the normal that only 1 of 3 corners have",
+            (std::vector<std::string>{"left out: the normal, which only 1 of 3 corners have",
                                       "left out: 2 lines"}));
 }
 
