@@ -48,7 +48,7 @@ install(DIRECTORY docs DESTINATION share/doc/vtlcmd FILES_MATCHING PATTERN *.md)
 install(DIRECTORY docs DESTINATION share/vtlcmd FILES_MATCHING PATTERN *.schema.json)
 install(DIRECTORY examples DESTINATION share/vtlcmd)
 
-install(DIRECTORY ${VTLCMD_MANUAL_FOLDER} DESTINATION share/man)
+install(DIRECTORY ${VTLCMD_MANUAL_FOLDER}/ DESTINATION share/man)
 install(FILES runner/shells/vtlcmd.bash DESTINATION share/bash-completion/completions RENAME vtlcmd)
 install(FILES runner/shells/vtlcmd.fish DESTINATION share/fish/vendor_completions.d)
 install(FILES runner/shells/_vtlcmd DESTINATION share/zsh/vendor-completions)

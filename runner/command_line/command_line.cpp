@@ -1,13 +1,13 @@
 #include "command_line/command_line.h"
 
 #include <CLI/App.hpp>
-#include <CLI/Config.hpp>
-#include <CLI/Formatter.hpp>
 #include <algorithm>
 #include <iostream>
+#include <memory>
 
 #include "command_line/commands.h"
 #include "command_line/completion.h"
+#include "command_line/help_formatter.h"
 #include "command_line/usage_error.h"
 #include "command_line/version_text.h"
 #include "readers/foreign_file.h"
@@ -74,6 +74,7 @@ ExitCode refuse(const CLI::App& app, const std::string& text) {
 void addCommands(CLI::App& app, CommandState& state) {
   app.description("Runs compute graphs and reports their outputs.");
   app.name("vtlcmd");
+  app.formatter(std::make_shared<HelpFormatter>());
   app.footer(programFooter);
   // Options look alike on every platform, and a path may begin with a slash.
   app.allow_windows_style_options(false);
@@ -85,6 +86,7 @@ void addCommands(CLI::App& app, CommandState& state) {
   addTypesCommand(app);
   addNodesCommand(app);
   addShowCommand(app, state);
+  addHelpCommand(app);
 }
 
 ExitCode runCommandLine(const std::vector<std::string>& arguments) {

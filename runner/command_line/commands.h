@@ -24,5 +24,9 @@ void addPortsCommand(CLI::App& app);
 void addTypesCommand(CLI::App& app);
 void addNodesCommand(CLI::App& app);
 void addShowCommand(CLI::App& app, CommandState& state);
+void addHelpCommand(CLI::App& app);
+
+/// What `help` can tell of, in no order.
+std::vector<std::string> helpTopics(const CLI::App& app);
 
 }  // namespace vtlcmd::runner

@@ -4,6 +4,7 @@
 #include <optional>
 #include <ostream>
 
+#include "command_line/commands.h"
 #include "command_line/port_kinds.h"
 #include "graph/graph_file.h"
 #include "logging/vtlcmd_logger.h"
@@ -22,6 +23,7 @@ struct Place {
   /// The first word that is no option; empty when there is none yet.
   std::string graphFile;
   bool wantsJobs = false;
+  const CLI::App& program;
   std::ostream& stream;
 };
 
@@ -94,6 +96,10 @@ void offerLevels(const Place& place) {
   for (const char* name : VtlCmdLogger::levelNames) offer(place, name, "");
 }
 
+void offerTopics(const Place& place) {
+  for (const std::string& topic : helpTopics(place.program)) offer(place, topic, "");
+}
+
 /// How a value is completed, by what the help calls it.
 struct ValueKind {
   const char* name;
@@ -104,7 +110,7 @@ const ValueKind valueKinds[]{
     {"GRAPH", offerFiles},    {"FILE", offerFiles},
     {"PATH", offerFiles},     {"PORT=PATH", [](const Place& place) { offerPortFiles(place); }},
     {"LEVEL", offerLevels},   {"PORT=TEXT", offerPortTexts},
-    {"OUTPUT", offerOutputs},
+    {"OUTPUT", offerOutputs}, {"TOPIC", offerTopics},
 };
 
 void completeValue(const CLI::Option& option, Place place) {
@@ -178,7 +184,7 @@ void completeWord(const CLI::App& command, const CLI::Option* open, Place place)
 void printCompletions(const CLI::App& app, const std::vector<std::string>& words,
                       std::ostream& stream) {
   if (words.empty()) return;
-  Place place{words.back(), "", "", false, stream};
+  Place place{words.back(), "", "", false, app, stream};
   if (words.size() == 1 && place.word.starts_with('-')) return offerOptions(app, place);
   for (const CLI::App* command : app.get_subcommands({})) {
     if (words.size() == 1) {

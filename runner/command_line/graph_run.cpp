@@ -8,21 +8,25 @@
 #include "command_line/output_targets.h"
 #include "command_line/port_kinds.h"
 #include "command_line/terminal.h"
+#include "command_line/vector_notation.h"
 #include "execution/frame_printer.h"
 #include "execution/progress_ticker.h"
 #include "graph/graph_file.h"
 #include "journal/run_journal.h"
 #include "journal/run_line.h"
 #include "platform/interrupt.h"
+#include "text/control_characters.h"
 #include "text/path_text.h"
 
 namespace vtlcmd::runner {
 namespace {
 
 /// What the run will complain of in every frame is told once, with a way out.
-void tellUnsettablePorts(const LoadedRun& loaded) {
+void tellOfPorts(const LoadedRun& loaded) {
   for (const std::string& line : unsettablePorts(loaded.graph, loaded.texts))
     std::cerr << "vtlcmd: " << line << '\n';
+  for (const std::string& line : vectorNotationHints(loaded.graph, loaded.texts))
+    std::cerr << "vtlcmd: " << withoutControls(line) << '\n';
 }
 
 /// One run of a graph, from its first frame to its last.
@@ -217,7 +221,7 @@ void refuseTargets(const RunOptions& options, std::vector<std::filesystem::path>
 }
 
 ExitCode runGraph(const LoadedRun& loaded, const RunOptions& options, RunReports& reports) {
-  if (loaded.settings.verbosity >= levelWarning) tellUnsettablePorts(loaded);
+  if (loaded.settings.verbosity >= levelWarning) tellOfPorts(loaded);
   std::optional<JournalFile> file = openJournal(options, reports);
   rememberInterrupts();
   if (file) return RecordedRun(loaded, options, reports, *std::move(file)).run();

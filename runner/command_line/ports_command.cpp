@@ -4,9 +4,11 @@
 #include <nlohmann/json.hpp>
 
 #include "command_line/commands.h"
+#include "command_line/default_text.h"
 #include "command_line/port_kinds.h"
 #include "graph/graph_file.h"
 #include "text/control_characters.h"
+#include "text/shell_quoting.h"
 
 namespace vtlcmd::runner {
 namespace {
@@ -15,10 +17,10 @@ struct PortRow {
   std::string kind;
   std::string name;
   std::string type;
-  std::string defaultText;
   std::string description;
   /// Null for an output.
-  const PortKind* portKind;
+  const GraphPort* port = nullptr;
+  const PortKind* portKind = nullptr;
 
   bool takesText() const { return portKind != nullptr && portKind->source == PortSource::text; }
 };
@@ -26,14 +28,22 @@ struct PortRow {
 std::vector<PortRow> portRows(const Graph& graph) {
   std::vector<PortRow> rows;
   for (const GraphPort& port : graph.ports) {
-    rows.push_back({port.isJob ? "job" : "input", port.name, nameOf(port.type), port.defaultText,
-                    port.description, &portKindOf(port.type)});
+    rows.push_back({port.isJob ? "job" : "input", port.name, nameOf(port.type), port.description,
+                    &port, &portKindOf(port.type)});
   }
   for (const GraphOutput& output : graph.outputs) {
-    rows.push_back({"output", output.name, nameOf(graph.typeOfSlot(output.source)), "",
-                    output.description, nullptr});
+    rows.push_back(
+        {"output", output.name, nameOf(graph.typeOfSlot(output.source)), output.description});
   }
   return rows;
+}
+
+/// The default as a shell takes it behind `-s PORT=`, where a text can give it.
+std::string defaultOf(const PortRow& row) {
+  if (row.port == nullptr || !row.port->defaultValue) return "";
+  if (const std::optional<std::string> text = defaultAsText(*row.port))
+    return "default " + shellQuoted(*text) + "  ";
+  return "default " + row.port->defaultText + (row.takesText() ? " (no text gives it)  " : "  ");
 }
 
 std::string padded(const std::string& text, std::size_t width) {
@@ -50,7 +60,7 @@ void printTable(const std::vector<PortRow>& rows) {
   for (const PortRow& row : rows) {
     std::string line =
         padded(row.kind, 6) + padded(row.name, nameWidth) + padded(row.type, typeWidth);
-    if (!row.defaultText.empty()) line += "default " + row.defaultText + "  ";
+    line += defaultOf(row);
     if (row.portKind != nullptr && !row.takesText())
       line += "no text (" + std::string(row.portKind->instead) + ")  ";
     line += row.description;
@@ -63,7 +73,11 @@ void printJson(const Graph& graph) {
   nlohmann::ordered_json ports = nlohmann::ordered_json::array();
   for (const PortRow& row : portRows(graph)) {
     nlohmann::ordered_json port{{"kind", row.kind}, {"name", row.name}, {"type", row.type}};
-    if (!row.defaultText.empty()) port["default"] = nlohmann::ordered_json::parse(row.defaultText);
+    if (row.port != nullptr && row.port->defaultValue) {
+      port["default"] = nlohmann::ordered_json::parse(row.port->defaultText);
+      const std::optional<std::string> text = defaultAsText(*row.port);
+      port["default_text"] = text ? nlohmann::ordered_json(*text) : nullptr;
+    }
     if (row.portKind != nullptr) port["takes_text"] = row.takesText();
     if (!row.description.empty()) port["description"] = row.description;
     ports.push_back(std::move(port));
@@ -83,7 +97,7 @@ void addPortsCommand(CLI::App& app) {
   CLI::App* command = app.add_subcommand("ports", "List the ports of a graph");
   command->footer(R"(Examples:
   vtlcmd ports scatter.json
-  vtlcmd ports scatter.json --json | jq '.ports[] | select(.kind == "input").name'
+  vtlcmd ports scatter.json --json | jq '.ports[] | select(.takes_text).name'
 )");
   command->add_option("GRAPH", options->graph, "Graph file; '-' is the standard input")
       ->required()

@@ -4,6 +4,8 @@
 #include <cctype>
 #include <sstream>
 
+#include "manual/graph_form.h"
+
 namespace vtlcmd::runner {
 namespace {
 
@@ -37,6 +39,13 @@ std::string upperCase(std::string text) {
   std::transform(text.begin(), text.end(), text.begin(),
                  [](unsigned char letter) { return static_cast<char>(std::toupper(letter)); });
   return text;
+}
+
+void writeHead(std::ostream& page, const std::string& name, const std::string& section,
+               const std::string& version, const std::string& chapter, const std::string& summary) {
+  page << ".TH " << upperCase(escaped(name)) << ' ' << section << R"( "" ")" << escaped(version)
+       << "\" \"" << chapter << "\"\n.SH NAME\n"
+       << escaped(name) << " \\- " << escaped(summary) << '\n';
 }
 
 void writeOption(std::ostream& page, const CLI::Option& option) {
@@ -79,9 +88,9 @@ void writeCommands(std::ostream& page, const CLI::App& program) {
          << escaped(command->get_description()) << ".\n";
 }
 
-/// The help's last part, where headings end in a colon and lines stand as they are.
-void writeFooter(std::ostream& page, const std::string& footer) {
-  std::istringstream lines(footer);
+/// A text of help where headings end in a colon and lines stand as they are.
+void writeText(std::ostream& page, const std::string& text) {
+  std::istringstream lines(text);
   const char* endOfSection = "";
   for (std::string line; std::getline(lines, line);) {
     const bool isHeading = !line.empty() && line[0] != ' ' && line.back() == ':';
@@ -106,7 +115,7 @@ void writeSeeAlso(std::ostream& page, const CLI::App& program, const CLI::App& c
   };
   name(program);
   for (const CLI::App* other : program.get_subcommands({})) name(*other);
-  page << '\n';
+  page << separator << bold("vtlcmd-graph") << "(5)\n";
 }
 
 }  // namespace
@@ -119,18 +128,26 @@ std::string manualPage(const CLI::App& program, const CLI::App& command,
                        const std::string& version) {
   std::ostringstream page;
   const std::string name = manualPageName(program, command);
-  page << ".TH " << upperCase(escaped(name)) << R"( 1 "" ")" << escaped(version)
-       << R"(" "User commands")"
-       << "\n.SH NAME\n"
-       << escaped(name) << " \\- " << escaped(command.get_description()) << '\n';
+  writeHead(page, name, "1", version, "User commands", command.get_description());
   writeSynopsis(page, program, command);
   if (&program == &command) writeCommands(page, program);
   page << ".SH OPTIONS\n";
   for (const CLI::Option* option : command.get_options()) {
     if (option->nonpositional()) writeOption(page, *option);
   }
-  writeFooter(page, command.get_footer());
+  writeText(page, command.get_footer());
   writeSeeAlso(page, program, command);
+  return page.str();
+}
+
+std::string graphManualPage(const CLI::App& program, const std::string& version) {
+  std::ostringstream page;
+  writeHead(page, "vtlcmd-graph", "5", version, "File formats", graphFormSummary);
+  writeText(page, graphForm);
+  page << ".SH SEE ALSO\n" << bold(program.get_name()) << "(1)";
+  for (const char* command : {"run", "ports", "nodes"})
+    page << ",\n" << bold(program.get_name() + "-" + command) << "(1)";
+  page << '\n';
   return page.str();
 }
 

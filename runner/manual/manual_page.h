@@ -11,6 +11,9 @@ namespace vtlcmd::runner {
 std::string manualPage(const CLI::App& program, const CLI::App& command,
                        const std::string& version);
 
+/// The manual page on the form of graph files.
+std::string graphManualPage(const CLI::App& program, const std::string& version);
+
 /// The page's name: "vtlcmd", or "vtlcmd-run" of a command.
 std::string manualPageName(const CLI::App& program, const CLI::App& command);
 

@@ -11,21 +11,27 @@ void writePages(const std::filesystem::path& folder, const std::string& version)
   CLI::App program;
   vtlcmd::runner::CommandState state;
   vtlcmd::runner::addCommands(program, state);
-  const auto write = [&](const CLI::App& command) {
-    const std::string name = vtlcmd::runner::manualPageName(program, command) + ".1";
+  const std::string foot = program.get_name() + " " + version;
+  const auto writeFile = [&](const std::string& name, const std::string& text) {
     std::ofstream page;
     page.exceptions(std::ios::failbit | std::ios::badbit);
     page.open(folder / name);
-    page << vtlcmd::runner::manualPage(program, command, program.get_name() + " " + version);
+    page << text;
     page.close();
+  };
+  const auto write = [&](const CLI::App& command) {
+    writeFile("man1/" + vtlcmd::runner::manualPageName(program, command) + ".1",
+              vtlcmd::runner::manualPage(program, command, foot));
   };
   write(program);
   for (const CLI::App* command : program.get_subcommands({})) write(*command);
+  writeFile("man5/vtlcmd-graph.5", vtlcmd::runner::graphManualPage(program, foot));
 }
 
 }  // namespace
 
-/// Run by the build: the folder for the pages, and the version at their foot.
+/// Run by the build: the folder that has one for each section of pages, and the version at their
+/// foot.
 int main(int count, char** words) {
   if (count != 3) return 2;
   try {

@@ -25,6 +25,7 @@ done
 for command in $(bin/vtlcmd complete '' | cut -f1); do
   [[ -s share/man/man1/vtlcmd-$command.1 ]] || fail "there is no manual page of $command"
 done
+[[ -s share/man/man5/vtlcmd-graph.5 ]] || fail "there is no manual page of graph files"
 for file in bash-completion/completions/vtlcmd zsh/vendor-completions/_vtlcmd \
   fish/vendor_completions.d/vtlcmd.fish; do
   [[ -s share/$file ]] || fail "there is no share/$file"
