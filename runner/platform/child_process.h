@@ -8,6 +8,7 @@
 #include <optional>
 #include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace vtlcmd::runner {
@@ -22,21 +23,43 @@ struct ProcessEnd {
   std::string crash = {};
 };
 
-/// A program that runs besides this one. Its standard output comes through a pipe; its other
-/// streams lead nowhere. It doesn't get this one's interrupts and doesn't outlive it.
+/// Which streams of a child lead to its parent; the others lead nowhere.
+enum class ChildStreams { output, all };
+
+/// What a child says.
+enum class ChildOutput { output, errors };
+
+/// A program that runs besides this one. It doesn't get this one's interrupts and doesn't outlive
+/// it.
 class ChildProcess {
  public:
   /// Starts a program. Words are as `commandLineWords` gives them. Throws std::system_error.
-  ChildProcess(const std::filesystem::path& program, const std::vector<std::string>& words);
+  ChildProcess(const std::filesystem::path& program, const std::vector<std::string>& words,
+               ChildStreams streams = ChildStreams::output);
   ChildProcess(const ChildProcess&) = delete;
   ChildProcess& operator=(const ChildProcess&) = delete;
   /// Ends the process if it still runs.
   ~ChildProcess();
 
-  /// Some of the child's output, at least one byte of it; 0 when it has ended, nothing when it has
-  /// said nothing up to the deadline.
-  std::optional<std::size_t> read(std::span<unsigned char> bytes,
-                                  std::chrono::steady_clock::time_point deadline);
+  using Time = std::chrono::steady_clock::time_point;
+  /// The deadline of who takes what is there already.
+  static constexpr Time now = Time::min();
+
+  /// Some of the child's output, at least one byte of it; 0 when it has ended, which is told once;
+  /// nothing when it has said nothing up to the deadline.
+  std::optional<std::size_t> read(std::span<unsigned char> bytes, Time deadline,
+                                  ChildOutput output = ChildOutput::output);
+
+  /// Returns when one of the children has said something or ended its output, at the deadline, or
+  /// when this process was interrupted. All streams of the children lead here.
+  static void waitForAny(std::span<ChildProcess* const> children, Time deadline);
+
+  /// Gives the child all of a text for its standard input, which leads here. Waits until the child
+  /// takes it; what a child doesn't take that has ended is lost.
+  void send(std::string_view text);
+
+  /// Ends the child, which is still to be waited for.
+  void kill() noexcept;
 
   /// To be called once, after the output has ended.
   ProcessEnd wait();
@@ -46,8 +69,10 @@ class ChildProcess {
   std::unique_ptr<Handles> handles_;
 };
 
-/// For a process that is a child: it ends with its parent, leaves no image of its memory behind,
-/// and is ended when it has taken so much processor time.
-void prepareAsChild(std::chrono::seconds processorTime);
+/// For a process that is a child: it ends with its parent and leaves no image of its memory behind.
+void prepareAsChild();
+
+/// Has this process ended when it has taken so much processor time.
+void limitProcessorTime(std::chrono::seconds time);
 
 }  // namespace vtlcmd::runner

@@ -1,12 +1,15 @@
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <csignal>
+#include <cstdint>
 #include <cstring>
 #include <fcntl.h>
 #include <poll.h>
 #include <spawn.h>
 #include <sys/prctl.h>
 #include <sys/resource.h>
+#include <sys/socket.h>
 #include <sys/wait.h>
 #include <system_error>
 #include <unistd.h>
@@ -39,15 +42,36 @@ class Descriptor {
   int number = -1;
 };
 
+/// Makes two connected descriptors.
+template <typename Make>
+void connect(Make make, int flags, Descriptor& own, Descriptor& other) {
+  int pair[2];
+  checkCall(make(pair, flags));
+  own.number = pair[0];
+  other.number = pair[1];
+}
+
+/// How long a wait for a deadline is for the system, in milliseconds. No wait is cut short.
+int waitingTime(std::chrono::steady_clock::time_point deadline) {
+  using namespace std::chrono;
+  const auto now = steady_clock::now();
+  if (deadline <= now) return 0;
+  return static_cast<int>(std::min<std::int64_t>(ceil<milliseconds>(deadline - now).count(), 1'000'000));
+}
+
 /// What the child does with its streams and signals before it begins.
 class StartSettings {
  public:
-  explicit StartSettings(int output) {
+  /// By number of the stream, where it leads; nowhere when negative.
+  explicit StartSettings(const std::array<int, 3>& streams) {
     check(::posix_spawn_file_actions_init(&files_));
     check(::posix_spawnattr_init(&attributes_));
-    check(::posix_spawn_file_actions_addopen(&files_, STDIN_FILENO, "/dev/null", O_RDONLY, 0));
-    check(::posix_spawn_file_actions_adddup2(&files_, output, STDOUT_FILENO));
-    check(::posix_spawn_file_actions_addopen(&files_, STDERR_FILENO, "/dev/null", O_WRONLY, 0));
+    for (int number = STDIN_FILENO; number <= STDERR_FILENO; ++number) {
+      const int target = streams[static_cast<std::size_t>(number)];
+      check(target < 0
+                ? ::posix_spawn_file_actions_addopen(&files_, number, "/dev/null", O_RDWR, 0)
+                : ::posix_spawn_file_actions_adddup2(&files_, target, number));
+    }
     check(::posix_spawn_file_actions_addclosefrom_np(&files_, STDERR_FILENO + 1));
     sigset_t signals;
     ::sigemptyset(&signals);
@@ -86,7 +110,10 @@ ProcessEnd endFrom(int status) {
   if (WIFEXITED(status)) return {ProcessEnd::Kind::exited, WEXITSTATUS(status)};
   const int signal = WTERMSIG(status);
   if (signal == SIGXCPU) return {ProcessEnd::Kind::tookTooMuchTime};
-  if (signal == SIGKILL) return {ProcessEnd::Kind::killed};
+  // What others send, and not what a process does wrong.
+  for (const int sent : {SIGKILL, SIGTERM, SIGINT, SIGHUP}) {
+    if (signal == sent) return {ProcessEnd::Kind::killed};
+  }
   // Only this thread asks for the text.
   return {ProcessEnd::Kind::crashed, 0, ::strsignal(signal)};  // NOLINT(concurrency-mt-unsafe)
 }
@@ -94,20 +121,28 @@ ProcessEnd endFrom(int status) {
 }  // namespace
 
 struct ChildProcess::Handles {
-  Descriptor output;
+  /// By ChildOutput.
+  std::array<Descriptor, 2> outputs;
+  Descriptor input;
   /// Positive while the process is to be waited for.
   pid_t process = 0;
 };
 
 ChildProcess::ChildProcess(const std::filesystem::path& program,
-                           const std::vector<std::string>& words)
+                           const std::vector<std::string>& words, ChildStreams streams)
     : handles_(std::make_unique<Handles>()) {
-  int ends[2];
-  checkCall(::pipe2(ends, O_CLOEXEC));
-  handles_->output.number = ends[0];
-  Descriptor input;
-  input.number = ends[1];
-  const StartSettings settings(input.number);
+  // The child's ends.
+  std::array<Descriptor, 3> ends;
+  connect(::pipe2, O_CLOEXEC, handles_->outputs[0], ends[STDOUT_FILENO]);
+  if (streams == ChildStreams::all) {
+    connect(::pipe2, O_CLOEXEC, handles_->outputs[1], ends[STDERR_FILENO]);
+    // Unlike a pipe, a socket can be told to raise no signal when nobody reads any more.
+    const auto socketPair = [](int* pair, int flags) {
+      return ::socketpair(AF_UNIX, SOCK_STREAM | flags, 0, pair);
+    };
+    connect(socketPair, SOCK_CLOEXEC, handles_->input, ends[STDIN_FILENO]);
+  }
+  const StartSettings settings({ends[0].number, ends[1].number, ends[2].number});
   std::vector<std::string> texts{program.native()};
   texts.insert(texts.end(), words.begin(), words.end());
   std::vector<char*> arguments;
@@ -124,21 +159,45 @@ ChildProcess::~ChildProcess() {
   waitFor(handles_->process);
 }
 
-std::optional<std::size_t> ChildProcess::read(std::span<unsigned char> bytes,
-                                              std::chrono::steady_clock::time_point deadline) {
-  using namespace std::chrono;
+std::optional<std::size_t> ChildProcess::read(std::span<unsigned char> bytes, Time deadline,
+                                              ChildOutput output) {
+  Descriptor& source = handles_->outputs[static_cast<std::size_t>(output)];
   for (;;) {
-    const auto left = duration_cast<milliseconds>(deadline - steady_clock::now()).count();
-    if (left <= 0) return std::nullopt;
-    pollfd waiting{handles_->output.number, POLLIN, 0};
+    pollfd waiting{source.number, POLLIN, 0};
+    const int time = waitingTime(deadline);
     // An interrupt of this process isn't the child's.
-    if (::poll(&waiting, 1, static_cast<int>(std::min<decltype(left)>(left, 1'000'000))) <= 0)
+    if (::poll(&waiting, 1, time) <= 0) {
+      if (time == 0) return std::nullopt;
       continue;
-    const ssize_t count = ::read(handles_->output.number, bytes.data(), bytes.size());
+    }
+    const ssize_t count = ::read(source.number, bytes.data(), bytes.size());
+    // There is nothing to wait for any more.
+    if (count == 0) source.close();
     if (count >= 0) return static_cast<std::size_t>(count);
     if (errno != EINTR) checkCall(-1);
   }
 }
+
+void ChildProcess::waitForAny(std::span<ChildProcess* const> children, Time deadline) {
+  std::vector<pollfd> waiting;
+  waiting.reserve(2 * children.size());
+  for (const ChildProcess* child : children) {
+    for (const Descriptor& output : child->handles_->outputs)
+      waiting.push_back({output.number, POLLIN, 0});
+  }
+  ::poll(waiting.data(), waiting.size(), waitingTime(deadline));
+}
+
+void ChildProcess::send(std::string_view text) {
+  while (!text.empty()) {
+    const ssize_t count = ::send(handles_->input.number, text.data(), text.size(), MSG_NOSIGNAL);
+    if (count < 0 && errno == EINTR) continue;
+    if (count < 0) return;
+    text.remove_prefix(static_cast<std::size_t>(count));
+  }
+}
+
+void ChildProcess::kill() noexcept { ::kill(handles_->process, SIGKILL); }
 
 ProcessEnd ChildProcess::wait() {
   const int status = waitFor(handles_->process);
@@ -146,14 +205,17 @@ ProcessEnd ChildProcess::wait() {
   return endFrom(status);
 }
 
-void prepareAsChild(std::chrono::seconds processorTime) {
+void prepareAsChild() {
   ::prctl(PR_SET_PDEATHSIG, SIGKILL);
   const rlimit noImage{0, 0};
   ::setrlimit(RLIMIT_CORE, &noImage);
-  rlimit time{};
-  if (::getrlimit(RLIMIT_CPU, &time) != 0) return;
-  time.rlim_cur = std::min<rlim_t>(time.rlim_max, static_cast<rlim_t>(processorTime.count()));
-  ::setrlimit(RLIMIT_CPU, &time);
+}
+
+void limitProcessorTime(std::chrono::seconds time) {
+  rlimit limit{};
+  if (::getrlimit(RLIMIT_CPU, &limit) != 0) return;
+  limit.rlim_cur = std::min<rlim_t>(limit.rlim_max, static_cast<rlim_t>(time.count()));
+  ::setrlimit(RLIMIT_CPU, &limit);
 }
 
 }  // namespace vtlcmd::runner

@@ -1,6 +1,8 @@
 #include <algorithm>
+#include <array>
 #include <cstdio>
 #include <system_error>
+#include <utility>
 #include <windows.h>
 
 #include "platform/child_process.h"
@@ -20,8 +22,11 @@ class Handle {
   explicit Handle(HANDLE opened) : value(opened) {}
   Handle(const Handle&) = delete;
   Handle& operator=(const Handle&) = delete;
-  ~Handle() {
+  ~Handle() { close(); }
+
+  void close() {
     if (value != nullptr && value != INVALID_HANDLE_VALUE) CloseHandle(value);
+    value = nullptr;
   }
 
   HANDLE value = nullptr;
@@ -75,21 +80,40 @@ class InheritedHandles {
   std::vector<unsigned char> memory_;
 };
 
+/// Whether reading a pipe wouldn't wait: there is something in it, or its other end is closed.
+bool saidSomething(HANDLE pipe) {
+  DWORD available = 0;
+  return pipe != nullptr &&
+         (PeekNamedPipe(pipe, nullptr, 0, nullptr, &available, nullptr) == 0 || available > 0);
+}
+
+/// What a process ends with that this one, or the system's own programs, end.
+constexpr UINT killedExit = 1;
+
 }  // namespace
 
 struct ChildProcess::Handles {
-  Handle output;
+  /// By ChildOutput.
+  std::array<Handle, 2> outputs;
+  Handle input;
   Handle process;
   /// Ends the child when this handle is closed, however this process ends.
   Handle job;
 };
 
 ChildProcess::ChildProcess(const std::filesystem::path& program,
-                           const std::vector<std::string>& words)
+                           const std::vector<std::string>& words, ChildStreams streams)
     : handles_(std::make_unique<Handles>()) {
   SECURITY_ATTRIBUTES inherited{sizeof inherited, nullptr, TRUE};
+  // The child's ends.
   Handle input;
-  check(CreatePipe(&handles_->output.value, &input.value, &inherited, 0));
+  Handle output;
+  Handle errors;
+  check(CreatePipe(&handles_->outputs[0].value, &output.value, &inherited, 0));
+  if (streams == ChildStreams::all) {
+    check(CreatePipe(&handles_->outputs[1].value, &errors.value, &inherited, 0));
+    check(CreatePipe(&input.value, &handles_->input.value, &inherited, 0));
+  }
   const Handle nowhere(CreateFileW(L"NUL", GENERIC_READ | GENERIC_WRITE,
                                    FILE_SHARE_READ | FILE_SHARE_WRITE, &inherited, OPEN_EXISTING, 0,
                                    nullptr));
@@ -101,13 +125,19 @@ ChildProcess::ChildProcess(const std::filesystem::path& program,
   SetInformationJobObject(handles_->job.value, JobObjectExtendedLimitInformation, &limits,
                           sizeof limits);
 
-  InheritedHandles handles({input.value, nowhere.value});
+  const auto leadingTo = [&nowhere](const Handle& end) {
+    return end.value == nullptr ? nowhere.value : end.value;
+  };
+  // None may stand there twice.
+  std::vector<HANDLE> ends{output.value, nowhere.value};
+  if (streams == ChildStreams::all) ends.insert(ends.end(), {input.value, errors.value});
+  InheritedHandles handles(std::move(ends));
   STARTUPINFOEXW startup{};
   startup.StartupInfo.cb = sizeof startup;
   startup.StartupInfo.dwFlags = STARTF_USESTDHANDLES;
-  startup.StartupInfo.hStdInput = nowhere.value;
-  startup.StartupInfo.hStdOutput = input.value;
-  startup.StartupInfo.hStdError = nowhere.value;
+  startup.StartupInfo.hStdInput = leadingTo(input);
+  startup.StartupInfo.hStdOutput = output.value;
+  startup.StartupInfo.hStdError = leadingTo(errors);
   startup.lpAttributeList = handles.list();
   constexpr DWORD flags =
       CREATE_SUSPENDED | CREATE_NO_WINDOW | CREATE_NEW_PROCESS_GROUP | EXTENDED_STARTUPINFO_PRESENT;
@@ -122,23 +152,45 @@ ChildProcess::ChildProcess(const std::filesystem::path& program,
 }
 
 ChildProcess::~ChildProcess() {
-  if (handles_->process.value != nullptr) TerminateProcess(handles_->process.value, 1);
+  if (handles_->process.value != nullptr) kill();
 }
 
-std::optional<std::size_t> ChildProcess::read(std::span<unsigned char> bytes,
-                                              std::chrono::steady_clock::time_point deadline) {
+std::optional<std::size_t> ChildProcess::read(std::span<unsigned char> bytes, Time deadline,
+                                              ChildOutput output) {
+  Handle& source = handles_->outputs[static_cast<std::size_t>(output)];
   // Reading a pipe knows no deadline.
-  for (DWORD available = 0; available == 0;) {
+  while (!saidSomething(source.value)) {
     if (std::chrono::steady_clock::now() >= deadline) return std::nullopt;
-    if (PeekNamedPipe(handles_->output.value, nullptr, 0, nullptr, &available, nullptr) == 0)
-      return 0;
-    if (available == 0) Sleep(1);
+    Sleep(1);
   }
   DWORD count = 0;
   const auto wanted = static_cast<DWORD>(std::min<std::size_t>(bytes.size(), 1U << 30U));
-  check(ReadFile(handles_->output.value, bytes.data(), wanted, &count, nullptr));
-  return count;
+  if (ReadFile(source.value, bytes.data(), wanted, &count, nullptr) != 0 && count > 0) return count;
+  // The child has closed it: there is nothing to wait for any more.
+  source.close();
+  return 0;
 }
+
+void ChildProcess::waitForAny(std::span<ChildProcess* const> children, Time deadline) {
+  const auto hasNews = [](const ChildProcess* child) {
+    return std::any_of(child->handles_->outputs.begin(), child->handles_->outputs.end(),
+                       [](const Handle& output) { return saidSomething(output.value); });
+  };
+  while (std::none_of(children.begin(), children.end(), hasNews) &&
+         std::chrono::steady_clock::now() < deadline)
+    Sleep(1);
+}
+
+void ChildProcess::send(std::string_view text) {
+  while (!text.empty()) {
+    DWORD count = 0;
+    const auto wanted = static_cast<DWORD>(std::min<std::size_t>(text.size(), 1U << 30U));
+    if (WriteFile(handles_->input.value, text.data(), wanted, &count, nullptr) == 0) return;
+    text.remove_prefix(count);
+  }
+}
+
+void ChildProcess::kill() noexcept { TerminateProcess(handles_->process.value, killedExit); }
 
 ProcessEnd ChildProcess::wait() {
   DWORD code = 0;
@@ -152,12 +204,13 @@ ProcessEnd ChildProcess::wait() {
   return {ProcessEnd::Kind::crashed, 0, text};
 }
 
-void prepareAsChild(std::chrono::seconds processorTime) {
-  SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOGPFAULTERRORBOX);
+void prepareAsChild() { SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOGPFAULTERRORBOX); }
+
+void limitProcessorTime(std::chrono::seconds time) {
   JOBOBJECT_BASIC_LIMIT_INFORMATION limits{};
   limits.LimitFlags = JOB_OBJECT_LIMIT_PROCESS_TIME;
   // In units of 100 nanoseconds.
-  limits.PerProcessUserTimeLimit.QuadPart = processorTime.count() * 10'000'000;
+  limits.PerProcessUserTimeLimit.QuadPart = time.count() * 10'000'000;
   // The job must last as long as the process, which closes the handle when it ends.
   HANDLE job = CreateJobObjectW(nullptr, nullptr);
   SetInformationJobObject(job, JobObjectBasicLimitInformation, &limits, sizeof limits);

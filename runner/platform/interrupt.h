@@ -11,6 +11,10 @@ namespace vtlcmd::runner {
 /// remembered, and writing to it then fails.
 void rememberInterrupts();
 
+/// Counts as if such a signal had come: the first call ends the run after its frame, the second one
+/// abandons the frame.
+void noteInterrupt(int signal) noexcept;
+
 /// The number of the first signal that asked for an end; 0 when none did.
 int interruptSignal() noexcept;
 

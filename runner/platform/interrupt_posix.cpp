@@ -57,6 +57,10 @@ void rememberInterrupts() {
   handle(SIGXFSZ, onFileSize);
 }
 
+void noteInterrupt(int signal) noexcept {
+  if (++signalCount == 1) firstSignal = signal;
+}
+
 int interruptSignal() noexcept { return firstSignal; }
 
 bool frameAbandoned() noexcept { return signalCount > 1; }

@@ -38,6 +38,10 @@ BOOL WINAPI onEvent(DWORD event) {
 
 void rememberInterrupts() { SetConsoleCtrlHandler(onEvent, TRUE); }
 
+void noteInterrupt(int signal) noexcept {
+  if (++eventCount == 1) firstSignal = signal;
+}
+
 int interruptSignal() noexcept { return firstSignal; }
 
 bool frameAbandoned() noexcept { return eventCount > 1; }

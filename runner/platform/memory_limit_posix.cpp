@@ -3,10 +3,10 @@
 #include <fstream>
 #include <limits>
 #include <string>
-#include <string_view>
 #include <sys/resource.h>
 #include <unistd.h>
 
+#include "platform/control_group_posix.h"
 #include "platform/memory_limit.h"
 
 namespace vtlcmd::runner {
@@ -21,32 +21,10 @@ std::uint64_t limitIn(const std::filesystem::path& file) {
   return stream >> limit ? limit : unlimited;
 }
 
-/// The least limit of a group and of those above it.
-std::uint64_t limitOf(const std::filesystem::path& root, std::filesystem::path group,
-                      const char* file) {
-  std::uint64_t limit = limitIn(root / file);
-  for (; group.has_relative_path(); group = group.parent_path())
-    limit = std::min(limit, limitIn(root / group.relative_path() / file));
-  return limit;
-}
-
-/// The file has a line ID:CONTROLLERS:GROUP for each hierarchy that the process is in. The second
-/// version of control groups has one, without controllers.
 std::uint64_t groupLimit() {
-  const std::filesystem::path groups = "/sys/fs/cgroup";
   std::uint64_t limit = unlimited;
-  std::ifstream lines("/proc/self/cgroup");
-  for (std::string line; std::getline(lines, line);) {
-    const std::size_t first = line.find(':');
-    const std::size_t second = line.find(':', first + 1);
-    if (first == std::string::npos || second == std::string::npos) continue;
-    const std::string controllers = "," + line.substr(first + 1, second - first - 1) + ",";
-    const std::filesystem::path group = line.substr(second + 1);
-    if (controllers == ",,") {
-      limit = std::min(limit, limitOf(groups, group, "memory.max"));
-    } else if (controllers.find(",memory,") != std::string::npos) {
-      limit = std::min(limit, limitOf(groups / "memory", group, "memory.limit_in_bytes"));
-    }
+  for (const std::filesystem::path& folder : controlGroups("memory")) {
+    limit = std::min({limit, limitIn(folder / "memory.max"), limitIn(folder / "memory.limit_in_bytes")});
   }
   return limit;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdio>
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -15,6 +16,10 @@ std::vector<std::string> commandLineWords(int count, char** words);
 /// Makes the standard streams carry the program's bytes as they are, and consoles read them as
 /// UTF-8. To be called once, before anything is written.
 void prepareStandardStreams();
+
+/// Takes the standard output for what the program itself writes to the returned stream; what others
+/// in this process print there goes to standard error from now on. Throws std::system_error.
+std::FILE* takeStandardOutput();
 
 /// Whether standard output and standard error are terminals that understand control sequences.
 bool outputGoesToTerminal();

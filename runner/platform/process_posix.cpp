@@ -1,3 +1,5 @@
+#include <cerrno>
+#include <fcntl.h>
 #include <system_error>
 #include <unistd.h>
 
@@ -10,6 +12,14 @@ std::vector<std::string> commandLineWords(int count, char** words) {
 }
 
 void prepareStandardStreams() {}
+
+std::FILE* takeStandardOutput() {
+  const int own = ::fcntl(STDOUT_FILENO, F_DUPFD_CLOEXEC, STDERR_FILENO + 1);
+  std::FILE* const stream = own < 0 ? nullptr : ::fdopen(own, "wb");
+  if (stream == nullptr || ::dup2(STDERR_FILENO, STDOUT_FILENO) < 0)
+    throw std::system_error(errno, std::generic_category());
+  return stream;
+}
 
 bool outputGoesToTerminal() { return ::isatty(STDOUT_FILENO) != 0; }
 

@@ -1,8 +1,10 @@
+#include <cerrno>
 #include <cstdio>
 #include <cstdlib>
 #include <fcntl.h>
 #include <io.h>
 #include <memory>
+#include <system_error>
 #include <windows.h>
 
 #include "platform/process.h"
@@ -38,6 +40,14 @@ void prepareStandardStreams() {
   codePageBefore = GetConsoleOutputCP();
   if (codePageBefore == 0 || SetConsoleOutputCP(CP_UTF8) == 0) return;
   static_cast<void>(std::atexit([] { SetConsoleOutputCP(codePageBefore); }));
+}
+
+std::FILE* takeStandardOutput() {
+  const int own = _dup(_fileno(stdout));
+  std::FILE* const stream = own < 0 ? nullptr : _fdopen(own, "wb");
+  if (stream == nullptr || _dup2(_fileno(stderr), _fileno(stdout)) != 0)
+    throw std::system_error(errno, std::generic_category());
+  return stream;
 }
 
 bool outputGoesToTerminal() { return isTerminal(STD_OUTPUT_HANDLE); }

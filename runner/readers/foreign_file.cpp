@@ -113,7 +113,8 @@ std::vector<DataValue> readForeignFile(const std::filesystem::path& file, NpyFor
 
 void serveForeignFile(const std::vector<std::string>& words) {
   const std::filesystem::path file = filePath(words.at(0));
-  prepareAsChild(std::chrono::seconds(std::stoll(words.at(2))));
+  prepareAsChild();
+  limitProcessorTime(std::chrono::seconds(std::stoll(words.at(2))));
   limitMemory(std::stoull(words.at(1)));
   std::set_new_handler(endOutOfMemory);
   DataWriter writer(std::cout);
