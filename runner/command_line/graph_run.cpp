@@ -4,13 +4,11 @@
 #include <system_error>
 #include <utility>
 
+#include "command_line/frame_run.h"
 #include "command_line/journal_place.h"
 #include "command_line/output_targets.h"
 #include "command_line/port_kinds.h"
-#include "command_line/terminal.h"
 #include "command_line/vector_notation.h"
-#include "execution/frame_printer.h"
-#include "execution/progress_ticker.h"
 #include "graph/graph_file.h"
 #include "journal/run_journal.h"
 #include "journal/run_line.h"
@@ -28,99 +26,6 @@ void tellOfPorts(const LoadedRun& loaded) {
   for (const std::string& line : vectorNotationHints(loaded.graph, loaded.texts))
     std::cerr << "vtlcmd: " << withoutControls(line) << '\n';
 }
-
-/// One run of a graph, from its first frame to its last.
-class GraphRun {
- public:
-  GraphRun(const LoadedRun& loaded, const RunOptions& options, RunReports& reports,
-           RunJournal* journal)
-      : loaded_(loaded),
-        reports_(reports),
-        report_(reports.useStandardOutput() ? standardErrors() : standardOutput()),
-        logger_(options.report.printLimit()),
-        progress_(std::cerr, progressForm(options.progress), loaded.settings.frames.size()),
-        printer_(logger_, static_cast<std::int16_t>(loaded.settings.verbosity),
-                 options.report.sinks(report_), progress_, loaded.settings.frames.wholeSize() > 1),
-        journal_(journal) {
-    if (progressForm(options.progress) != ProgressForm::none) ticker_.emplace(progress_);
-  }
-
-  /// Leaves the end of the journal to be written. Throws std::system_error when the journal can't
-  /// be written.
-  RunEnd run() {
-    Session session(loaded_.graph, loaded_.plugIn->translation(), loaded_.settings, logger_);
-    const RunOutcome outcome = session.run(
-        {[this](std::size_t place, const std::string& frame) { beforeFrame(place, frame); },
-         [this](const FrameRecord& record) { return afterFrame(record); }});
-    printer_.printCounts();
-    progress_.hide();
-    if (loaded_.settings.verbosity >= levelVerbose) printCounts();
-    if (journalError_) throw std::system_error(*journalError_);
-    return endOf(outcome);
-  }
-
- private:
-  void beforeFrame(std::size_t place, const std::string& frame) {
-    if (journal_ != nullptr)
-      journal_->startFrame(loaded_.settings.frames.placeInWhole(place), frame);
-    progress_.beginFrame(place, frame);
-  }
-
-  /// The frame is in the journal before anyone reads of it.
-  bool afterFrame(const FrameRecord& record) {
-    try {
-      if (journal_ != nullptr) journal_->addFrame(record);
-    } catch (const std::system_error& error) {
-      journalError_ = error;
-    }
-    for (const std::filesystem::path& file : record.filesRead) reports_.keep(file);
-    printer_.print(record);
-    return report_.stream.good() && !journalError_;
-  }
-
-  /// Closes a run with what the graph system complained of: "2 errors, 1 warning".
-  void printCounts() const {
-    const char* separator = "";
-    const auto print = [&](std::uint64_t count, const char* noun) {
-      if (count == 0) return;
-      std::cerr << separator << count << ' ' << noun << (count == 1 ? "" : "s");
-      separator = ", ";
-    };
-    print(logger_.errorCount, "error");
-    print(logger_.warningCount, "warning");
-    if (*separator != '\0') std::cerr << '\n';
-  }
-
-  RunEnd endOf(const RunOutcome& outcome) const {
-    if (!report_.stream.good())
-      return end("stopped", readerGone() ? ExitCode::readerGone : ExitCode::runFailed);
-    if (interruptSignal() != 0) return end("interrupted", interruptedBy(interruptSignal()));
-    switch (outcome.failure) {
-      case Failure::none:
-        return end("succeeded", ExitCode::success);
-      case Failure::transient:
-        return end("failed", ExitCode::tryAgain);
-      case Failure::permanent:
-        break;
-    }
-    return end("failed", ExitCode::runFailed);
-  }
-
-  static RunEnd end(const char* outcome, ExitCode code) {
-    return {outcome, static_cast<int>(code), {}};
-  }
-
-  const LoadedRun& loaded_;
-  RunReports& reports_;
-  TextSink report_;
-  VtlCmdLogger logger_;
-  Progress progress_;
-  std::optional<ProgressTicker> ticker_;
-  FramePrinter printer_;
-  /// Null when nobody wants one.
-  RunJournal* journal_;
-  std::optional<std::system_error> journalError_;
-};
 
 OutputError journalError(const std::filesystem::path& file, const std::system_error& error) {
   const std::string name = file.empty() ? "the folder for temporary files" : fileText(file);
@@ -161,8 +66,7 @@ class RecordedRun {
  private:
   void runFrames() {
     try {
-      GraphRun run(loaded_, options_, reports_, &journal_);
-      const RunEnd end = run.run();
+      const RunEnd end = FrameRun(loaded_, options_, reports_, &journal_).run();
       code_ = static_cast<ExitCode>(end.exitCode);
       journal_.end(end);
     } catch (const std::system_error& error) {
@@ -203,6 +107,7 @@ LoadedRun loadRun(const RunOptions& options, const std::vector<std::string>& arg
   selectOutputs(options, run.graph);
   lookUpTextsInWorkingDirectory(run.graph, run.texts);
   run.settings = settingsFrom(options, texts, arguments);
+  run.frames = options.frameOptions.settings(run.settings.frames.size());
   run.settings.filesRead = filesReadBy(run.graph, run.texts);
   std::vector<std::filesystem::path> filesRead = run.settings.filesRead;
   filesRead.insert(filesRead.end(), texts.files().begin(), texts.files().end());
@@ -225,7 +130,7 @@ ExitCode runGraph(const LoadedRun& loaded, const RunOptions& options, RunReports
   std::optional<JournalFile> file = openJournal(options, reports);
   rememberInterrupts();
   if (file) return RecordedRun(loaded, options, reports, *std::move(file)).run();
-  return static_cast<ExitCode>(GraphRun(loaded, options, reports, nullptr).run().exitCode);
+  return static_cast<ExitCode>(FrameRun(loaded, options, reports, nullptr).run().exitCode);
 }
 
 void reportLoadFailure(const RunOptions& options, const std::vector<std::string>& arguments,

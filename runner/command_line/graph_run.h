@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "command_line/exit_code.h"
+#include "command_line/frame_options.h"
 #include "command_line/run_options.h"
 #include "command_line/run_reports.h"
 #include "execution/plug_in.h"
@@ -18,6 +19,7 @@ struct LoadedRun {
   Graph graph;
   TextsByPort texts;
   RunSettings settings;
+  FrameSettings frames;
   std::filesystem::path plugInFile;
   std::unique_ptr<PlugIn> plugIn;
 };

@@ -66,6 +66,7 @@ void addRunOptions(CLI::App& command, RunOptions& options) {
       ->type_name("FILE");
   command.add_flag("--restart", options.restart,
                    "Begin the journal anew where one is there already");
+  options.frameOptions.addTo(command);
   CLI::Option* progress = command.add_flag_callback(
       "--progress", [&options] { options.progress = true; },
       "Tell on standard error how far the run is, even off a terminal");

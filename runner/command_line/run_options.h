@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "command_line/frame_options.h"
 #include "command_line/port_texts.h"
 #include "command_line/read_options.h"
 #include "command_line/report_options.h"
@@ -33,6 +34,7 @@ struct RunOptions {
   bool restart = false;
   /// Nothing: on a terminal.
   std::optional<bool> progress;
+  FrameOptions frameOptions;
   ReadOptions read;
   ReportOptions report;
 };

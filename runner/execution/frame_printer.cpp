@@ -13,23 +13,22 @@ constexpr std::size_t mostProblems = 1000;
 
 FramePrinter::FramePrinter(const VtlCmdLogger& logger, std::int16_t verbosity,
                            MessagePrinter::Sinks sinks, Progress& progress, bool hasSeveralFrames)
-    : logger_(logger),
-      verbosity_(verbosity),
+    : verbosity_(verbosity),
       printer_(logger, verbosity, sinks, progress),
       hasSeveralFrames_(hasSeveralFrames) {}
 
-void FramePrinter::print(const FrameRecord& frame) {
+void FramePrinter::print(const std::string& frame, const std::vector<LogMessage>& messages) {
   // Of the report and of problems.
   std::array<bool, 2> hasHead{};
   ++frames_;
-  for (const LogMessage& message : logger_.messages) {
+  for (const LogMessage& message : messages) {
     if (!VtlCmdLogger::levelAdmits(verbosity_, std::uint32_t{message.level} - 1)) continue;
     const bool isProblem = message.level <= levelWarning;
     if (hasSeveralFrames_ && isProblem && isRepetition(message)) continue;
     bool& isHeaded = hasHead[isProblem ? 1 : 0];
     if (hasSeveralFrames_ && !isHeaded) {
       printer_.printLine(VtlCmdLogger::makeMessagePrefix(vtlcmdSource, levelProgress),
-                         "Frame " + frame.entry.frameText + ":", isProblem);
+                         "Frame " + frame + ":", isProblem);
     }
     isHeaded = true;
     printer_.print(message);

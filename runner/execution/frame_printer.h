@@ -4,8 +4,8 @@
 #include <map>
 #include <string>
 #include <tuple>
+#include <vector>
 
-#include "execution/frame_record.h"
 #include "execution/message_printer.h"
 
 namespace vtlcmd::runner {
@@ -19,8 +19,8 @@ class FramePrinter {
   FramePrinter(const VtlCmdLogger& logger, std::int16_t verbosity, MessagePrinter::Sinks sinks,
                Progress& progress, bool hasSeveralFrames);
 
-  /// Prints what the logger holds, the messages of this frame.
-  void print(const FrameRecord& frame);
+  /// `frame` is the frame's number as the user knows it.
+  void print(const std::string& frame, const std::vector<LogMessage>& messages);
 
   /// Closes the run.
   void printCounts();
@@ -38,7 +38,6 @@ class FramePrinter {
   /// Whether a problem was told at an earlier frame already.
   bool isRepetition(const LogMessage& message);
 
-  const VtlCmdLogger& logger_;
   std::int16_t verbosity_;
   MessagePrinter printer_;
   bool hasSeveralFrames_;

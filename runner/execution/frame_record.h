@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
@@ -28,7 +29,12 @@ struct FrameRecord {
   /// Of the graph system.
   std::uint64_t errors = 0;
   std::uint64_t warnings = 0;
+  std::chrono::system_clock::time_point started;
   double seconds = 0;
+  /// The number of the worker process that ran it, from 1; 0 when the program itself did.
+  unsigned worker = 0;
+  /// How often it was run, this time included.
+  unsigned attempts = 1;
   /// Those whose names the graph computed.
   std::set<std::filesystem::path> filesRead;
   /// By output, its exact value as JSON; empty when no report wants to know.

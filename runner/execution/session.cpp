@@ -28,10 +28,12 @@ Session::Session(const Graph& graph, const PlugIn::Translation& translation,
       translation_(translation),
       settings_(settings),
       logger_(logger),
+      group_(logger, graph.name),
       executor_(graph, logger, [this](const std::filesystem::path& file) { noteRead(file); }),
       context_{
           &settings.inputValues, &settings.jobValues,    0,      0, 1 / settings.framesPerSecond,
           settings.sceneFile,    settings.secondaryPath, &logger} {
+  logger.setLoaded(true);
   for (const GraphPort& port : graph.ports) {
     ports_.push_back({libraryText(port.name), libraryTypeOf(port.type),
                       port.defaultValue ? Orvel::toAny(*port.defaultValue) : Any()});
@@ -43,32 +45,10 @@ Session::Session(const Graph& graph, const PlugIn::Translation& translation,
   description_.throughAny = settings.outputForm == OutputForm::any ? 1 : 0;
 }
 
-RunOutcome Session::run(const RunObserver& observer) {
-  const GroupScope group(logger_, graph_.name);
-  logger_.setLoaded(true);
-  RunOutcome outcome;
-  for (std::size_t i = 0; i < settings_.frames.size(); ++i) {
-    if (interruptSignal() != 0) return outcome;
-    describeFrame(i);
-    observer.beforeFrame(i, description_.frameText);
-    const FrameRecord record = recordFrame();
-    outcome.failure = std::max(outcome.failure, record.failure);
-    const bool goesOn = observer.afterFrame(record);
-    logger_.messages.clear();
-    if (!goesOn) return outcome;
-  }
-  outcome.finished = true;
-  return outcome;
-}
-
-void Session::describeFrame(std::size_t place) {
-  context_.frame = settings_.frames[place];
-  context_.time = context_.frame * context_.frameLength;
-  description_.frameIndex = static_cast<std::uint32_t>(settings_.frames.placeInWhole(place));
-  description_.frameText = shortestText(context_.frame);
-}
-
-FrameRecord Session::recordFrame() {
+FrameRecord Session::run(std::size_t place) {
+  logger_.messages.clear();
+  describeFrame(place);
+  const auto startTime = std::chrono::system_clock::now();
   const auto start = std::chrono::steady_clock::now();
   const EntryScope entry(logger_, description_);
   const std::uint64_t errorsBefore = logger_.errorCount;
@@ -79,8 +59,16 @@ FrameRecord Session::recordFrame() {
   if (settings_.recordFrames) distributeMessages(logger_);
   record.entry = std::move(logger_.currentEntry());
   logger_.currentGroup()->entries.clear();
+  record.started = startTime;
   record.seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
   return record;
+}
+
+void Session::describeFrame(std::size_t place) {
+  context_.frame = settings_.frames[place];
+  context_.time = context_.frame * context_.frameLength;
+  description_.frameIndex = static_cast<std::uint32_t>(settings_.frames.placeInWhole(place));
+  description_.frameText = shortestText(context_.frame);
 }
 
 FrameRecord Session::runFrame() {

@@ -2,7 +2,6 @@
 
 #include <cstdint>
 #include <filesystem>
-#include <functional>
 #include <optional>
 #include <set>
 #include <string>
@@ -45,32 +44,16 @@ struct RunSettings {
   bool recordFrames = false;
 };
 
-/// What whoever starts a run is told of it.
-struct RunObserver {
-  /// With the frame's place in the run, and its number as the user knows it.
-  std::function<void(std::size_t, const std::string&)> beforeFrame;
-  /// With the finished frame; the logger holds its messages until the return. False ends the run.
-  std::function<bool(const FrameRecord&)> afterFrame;
-};
-
-struct RunOutcome {
-  /// All frames ran: nothing ended the run before.
-  bool finished = false;
-  /// The worst of all frames; a failure that would come again is worse than one that may not.
-  Failure failure = Failure::none;
-};
-
-/// Runs a graph once a frame, in one group with one entry a frame. What the logger holds of a frame
-/// is gone when the next one begins.
+/// Runs frames of a graph, in one group with one entry a frame.
 class Session {
  public:
   /// Everything handed over must outlive the session.
   Session(const Graph& graph, const PlugIn::Translation& translation, const RunSettings& settings,
           VtlCmdLogger& logger);
 
-  /// Runs the frames in order; a failed frame doesn't keep the others from running, an interrupt
-  /// does.
-  RunOutcome run(const RunObserver& observer);
+  /// Runs the frame at a place of the settings' frames. The logger holds its messages, and those of
+  /// no other frame, until the next one.
+  FrameRecord run(std::size_t place);
 
  private:
   struct Port {
@@ -80,7 +63,6 @@ class Session {
   };
 
   void describeFrame(std::size_t place);
-  FrameRecord recordFrame();
   FrameRecord runFrame();
   std::optional<std::vector<Orvel::Value>> setInputs();
   std::optional<Orvel::Value> setInput(std::size_t index);
@@ -95,6 +77,7 @@ class Session {
   const PlugIn::Translation& translation_;
   const RunSettings& settings_;
   VtlCmdLogger& logger_;
+  GroupScope group_;
   Executor executor_;
   RunContext context_;
   /// Of the current frame; what all frames share isn't repeated for each.

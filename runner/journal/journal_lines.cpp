@@ -6,6 +6,7 @@
 #include "execution/message_distribution.h"
 #include "journal/content_hash.h"
 #include "journal/crc32.h"
+#include "journal/time_text.h"
 #include "text/json_writer.h"
 #include "text/path_text.h"
 
@@ -135,8 +136,16 @@ std::string frameContent(const FrameRecord& record) {
 std::string frameTimes(const FrameRecord& record) {
   JsonWriter json;
   json.open('{');
+  json.key("started");
+  json.text(timeText(record.started));
   json.key("seconds");
   json.number(record.seconds);
+  json.key("attempts");
+  json.number(record.attempts);
+  if (record.worker != 0) {
+    json.key("worker");
+    json.number(record.worker);
+  }
   json.close('}');
   return json.json();
 }

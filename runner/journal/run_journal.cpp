@@ -9,11 +9,15 @@
 namespace vtlcmd::runner {
 namespace {
 
-std::string timeNow(std::string_view what) {
+std::string timeNow(std::string_view what, unsigned worker = 0) {
   JsonWriter json;
   json.open('{');
   json.key(what);
   json.text(timeText(std::chrono::system_clock::now()));
+  if (worker != 0) {
+    json.key("worker");
+    json.number(worker);
+  }
   json.close('}');
   return json.json();
 }
@@ -25,7 +29,7 @@ RunJournal::RunJournal(JournalFile file, const std::string& runContent, const st
   file_.append(journalText({line_kinds::run, runContent, runTimes}));
 }
 
-void RunJournal::startFrame(std::size_t index, const std::string& frame) {
+void RunJournal::startFrame(std::size_t index, const std::string& frame, unsigned worker) {
   JsonWriter json;
   json.open('{');
   json.key("index");
@@ -33,11 +37,11 @@ void RunJournal::startFrame(std::size_t index, const std::string& frame) {
   json.key("frame");
   json.text(frame);
   json.close('}');
-  file_.append(journalText({line_kinds::start, json.json(), timeNow("started")}));
+  file_.append(journalText({line_kinds::start, json.json(), timeNow("started", worker)}));
 }
 
-void RunJournal::addFrame(const FrameRecord& record) {
-  file_.append(journalText({line_kinds::frame, frameContent(record), frameTimes(record)}));
+void RunJournal::addFrame(const std::string& content, const std::string& times) {
+  file_.append(journalText({line_kinds::frame, content, times}));
 }
 
 void RunJournal::end(const RunEnd& end) {

@@ -3,8 +3,8 @@
 #include <cstddef>
 #include <string>
 
-#include "execution/frame_record.h"
 #include "journal/journal_file.h"
+#include "logging/run_report.h"
 
 namespace vtlcmd::runner {
 
@@ -23,8 +23,10 @@ class RunJournal {
   /// With what `run_line.h` tells.
   RunJournal(JournalFile file, const std::string& runContent, const std::string& runTimes);
 
-  void startFrame(std::size_t index, const std::string& frame);
-  void addFrame(const FrameRecord& record);
+  /// `worker` is as in FrameRecord.
+  void startFrame(std::size_t index, const std::string& frame, unsigned worker);
+  /// With what `frameContent` and `frameTimes` tell.
+  void addFrame(const std::string& content, const std::string& times);
   void end(const RunEnd& end);
 
   JournalFile& file() noexcept { return file_; }

@@ -56,7 +56,8 @@ int waitingTime(std::chrono::steady_clock::time_point deadline) {
   using namespace std::chrono;
   const auto now = steady_clock::now();
   if (deadline <= now) return 0;
-  return static_cast<int>(std::min<std::int64_t>(ceil<milliseconds>(deadline - now).count(), 1'000'000));
+  return static_cast<int>(
+      std::min<std::int64_t>(ceil<milliseconds>(deadline - now).count(), 1'000'000));
 }
 
 /// What the child does with its streams and signals before it begins.
@@ -68,9 +69,8 @@ class StartSettings {
     check(::posix_spawnattr_init(&attributes_));
     for (int number = STDIN_FILENO; number <= STDERR_FILENO; ++number) {
       const int target = streams[static_cast<std::size_t>(number)];
-      check(target < 0
-                ? ::posix_spawn_file_actions_addopen(&files_, number, "/dev/null", O_RDWR, 0)
-                : ::posix_spawn_file_actions_adddup2(&files_, target, number));
+      check(target < 0 ? ::posix_spawn_file_actions_addopen(&files_, number, "/dev/null", O_RDWR, 0)
+                       : ::posix_spawn_file_actions_adddup2(&files_, target, number));
     }
     check(::posix_spawn_file_actions_addclosefrom_np(&files_, STDERR_FILENO + 1));
     sigset_t signals;

@@ -24,7 +24,8 @@ std::uint64_t limitIn(const std::filesystem::path& file) {
 std::uint64_t groupLimit() {
   std::uint64_t limit = unlimited;
   for (const std::filesystem::path& folder : controlGroups("memory")) {
-    limit = std::min({limit, limitIn(folder / "memory.max"), limitIn(folder / "memory.limit_in_bytes")});
+    limit = std::min(
+        {limit, limitIn(folder / "memory.max"), limitIn(folder / "memory.limit_in_bytes")});
   }
   return limit;
 }

@@ -74,7 +74,7 @@ def shown(prefix, output):
 def play(step, program, folder):
     words = shlex.split(step.command)
     environment = {**os.environ, "LC_ALL": "C.UTF-8"}
-    for name in ("NO_COLOR", "QUILLON_DUMP_VERSION_INFO"):
+    for name in ("NO_COLOR", "QUILLON_DUMP_VERSION_INFO", "VTLCMD_WORKERS"):
         environment.pop(name, None)
     while "=" in words[0]:
         name, value = words.pop(0).split("=", 1)

@@ -11,9 +11,7 @@ class FramePrinterTest : public testing::Test {
  protected:
   /// Prints what the logger has taken since, as a frame's.
   void endFrame(FramePrinter& printer, const std::string& frame) {
-    FrameRecord record;
-    record.entry.frameText = frame;
-    printer.print(record);
+    printer.print(frame, logger_.messages);
     logger_.messages.clear();
   }
 

@@ -39,14 +39,9 @@ class InterruptedTranslation final : public PlugIn::Translation {
   settings.frames.append(1, 1, 1);
   VtlCmdLogger logger(10);
   const InterruptedTranslation translation;
-  bool isAbandoned = false;
-  Session(graph, translation, settings, logger)
-      .run({[](std::size_t, const std::string&) {},
-            [&](const FrameRecord& record) {
-              isAbandoned = record.entry.interrupted && !record.entry.outputsReported &&
-                            record.failure == Failure::transient;
-              return true;
-            }});
+  const FrameRecord record = Session(graph, translation, settings, logger).run(0);
+  const bool isAbandoned = record.entry.interrupted && !record.entry.outputsReported &&
+                           record.failure == Failure::transient;
   std::_Exit(isAbandoned ? 0 : 1);
 }
 

@@ -1,0 +1,73 @@
+#include "command_line/frame_run.h"
+
+#include <iostream>
+#include <system_error>
+
+#include "command_line/terminal.h"
+#include "frames/own_frames.h"
+#include "platform/interrupt.h"
+
+namespace vtlcmd::runner {
+namespace {
+
+/// Closes a run with what the graph system complained of: "2 errors, 1 warning".
+void printCounts(const RunTotals& totals) {
+  const char* separator = "";
+  const auto print = [&](std::uint64_t count, const char* noun) {
+    if (count == 0) return;
+    std::cerr << separator << count << ' ' << noun << (count == 1 ? "" : "s");
+    separator = ", ";
+  };
+  print(totals.errors, "error");
+  print(totals.warnings, "warning");
+  if (*separator != '\0') std::cerr << '\n';
+}
+
+RunEnd endWith(const char* outcome, ExitCode code) { return {outcome, static_cast<int>(code), {}}; }
+
+}  // namespace
+
+FrameRun::FrameRun(const LoadedRun& loaded, const RunOptions& options, RunReports& reports,
+                   RunJournal* journal)
+    : loaded_(loaded),
+      report_(reports.useStandardOutput() ? standardErrors() : standardOutput()),
+      logger_(options.report.printLimit()),
+      progress_(std::cerr, progressForm(options.progress), loaded.settings.frames.size()),
+      printer_(logger_, static_cast<std::int16_t>(loaded.settings.verbosity),
+               options.report.sinks(report_), progress_, loaded.settings.frames.wholeSize() > 1),
+      queue_(loaded.settings.frames.size()),
+      collector_(loaded.settings.frames, queue_, journal, printer_, progress_, report_.stream,
+                 {loaded.frames.failFast, [&reports](const FrameRecord& record) {
+                    for (const std::filesystem::path& file : record.filesRead) reports.keep(file);
+                  }}) {
+  if (progressForm(options.progress) != ProgressForm::none) ticker_.emplace(progress_);
+}
+
+RunEnd FrameRun::run() {
+  const RunSettings& settings = loaded_.settings;
+  Session session(loaded_.graph, loaded_.plugIn->translation(), settings, logger_);
+  runFrames(session, logger_, queue_, collector_, settings.recordFrames, loaded_.frames.retries);
+  collector_.takeNoMore();
+  printer_.printCounts();
+  progress_.hide();
+  if (settings.verbosity >= levelVerbose) printCounts(collector_.totals());
+  if (collector_.journalError()) throw std::system_error(*collector_.journalError());
+  return end();
+}
+
+RunEnd FrameRun::end() const {
+  if (!report_.stream.good())
+    return endWith("stopped", readerGone() ? ExitCode::readerGone : ExitCode::runFailed);
+  if (interruptSignal() != 0) return endWith("interrupted", interruptedBy(interruptSignal()));
+  switch (collector_.totals().failure) {
+    case Failure::none:
+      return endWith("succeeded", ExitCode::success);
+    case Failure::transient:
+      return endWith("failed", ExitCode::tryAgain);
+    case Failure::permanent:
+      break;
+  }
+  return endWith("failed", ExitCode::runFailed);
+}
+
+}  // namespace vtlcmd::runner

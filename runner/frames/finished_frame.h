@@ -1,0 +1,26 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+#include "execution/frame_record.h"
+#include "logging/vtlcmd_logger.h"
+
+namespace vtlcmd::runner {
+
+/// A frame that has run, in whatever process.
+struct FinishedFrame {
+  /// Among the frames of the run.
+  std::size_t place = 0;
+  /// Without messages, outputs and values, which are in what follows.
+  FrameRecord record;
+  /// In the order of their coming.
+  std::vector<LogMessage> messages;
+  /// What the journal tells of it, as `frameContent` gives it; empty when there is no journal.
+  std::string content;
+  /// What its process said on standard error meanwhile, if that doesn't lead there by itself.
+  std::string said;
+};
+
+}  // namespace vtlcmd::runner
