@@ -1,10 +1,13 @@
 #pragma once
 
-#include <CLI/App.hpp>
 #include <string>
 #include <vector>
 
 #include "command_line/exit_code.h"
+
+namespace CLI {
+class App;
+}
 
 namespace vtlcmd::runner {
 

@@ -1,5 +1,6 @@
 #include "command_line/completion.h"
 
+#include <CLI/App.hpp>
 #include <algorithm>
 #include <optional>
 #include <ostream>

@@ -1,9 +1,12 @@
 #pragma once
 
-#include <CLI/App.hpp>
 #include <iosfwd>
 #include <string>
 #include <vector>
+
+namespace CLI {
+class App;
+}
 
 namespace vtlcmd::runner {
 

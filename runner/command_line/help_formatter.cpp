@@ -1,5 +1,6 @@
 #include "command_line/help_formatter.h"
 
+#include <CLI/App.hpp>
 #include <sstream>
 
 namespace vtlcmd::runner {

@@ -1,5 +1,6 @@
 #include "command_line/read_options.h"
 
+#include <CLI/App.hpp>
 #include <charconv>
 #include <cstdint>
 

@@ -1,8 +1,11 @@
 #pragma once
 
-#include <CLI/App.hpp>
 #include <optional>
 #include <string>
+
+namespace CLI {
+class App;
+}
 
 namespace vtlcmd::runner {
 

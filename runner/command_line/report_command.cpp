@@ -1,3 +1,4 @@
+#include <CLI/App.hpp>
 #include <cerrno>
 #include <filesystem>
 #include <fstream>

@@ -1,5 +1,7 @@
 #include "command_line/report_options.h"
 
+#include <CLI/App.hpp>
+
 #include "command_line/option_values.h"
 #include "command_line/terminal.h"
 #include "execution/plug_in.h"

@@ -1,12 +1,16 @@
 #pragma once
 
-#include <CLI/App.hpp>
 #include <cstdint>
 #include <filesystem>
 #include <string>
 
 #include "execution/message_printer.h"
 #include "execution/output_reporting.h"
+
+namespace CLI {
+class App;
+class Option;
+}  // namespace CLI
 
 namespace vtlcmd::runner {
 

@@ -1,5 +1,6 @@
 #include "command_line/run_options.h"
 
+#include <CLI/App.hpp>
 #include <algorithm>
 
 #include "command_line/job_frames.h"

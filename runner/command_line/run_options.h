@@ -1,6 +1,5 @@
 #pragma once
 
-#include <CLI/App.hpp>
 #include <optional>
 #include <string>
 #include <vector>
@@ -11,6 +10,10 @@
 #include "command_line/report_options.h"
 #include "execution/session.h"
 #include "graph/graph.h"
+
+namespace CLI {
+class App;
+}
 
 namespace vtlcmd::runner {
 

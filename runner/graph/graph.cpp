@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <map>
-#include <nlohmann/json.hpp>
 #include <set>
 
 #include "graph/evaluation_order.h"
@@ -62,7 +61,7 @@ class GraphBuilder {
       port.description = descriptionAt(place);
       if (const auto value = place.member("default")) {
         port.defaultValue = literalValue(port.type, *value);
-        port.defaultText = value->value().dump();
+        port.defaultText = value->json();
       }
       graph_.ports.push_back(std::move(port));
     }
@@ -209,8 +208,8 @@ class GraphBuilder {
 }  // namespace
 
 Graph parseGraph(std::string_view text) {
-  const nlohmann::json document = parseJson(text);
-  Graph graph = GraphBuilder(JsonPlace(document)).build();
+  const JsonDocument document(text);
+  Graph graph = GraphBuilder(document.root()).build();
   graph.text = text;
   return graph;
 }

@@ -125,16 +125,20 @@ class DocumentBuilder : public nlohmann::json_sax<json> {
   std::vector<Level> levels_;
 };
 
-}  // namespace
-
-json parseJson(std::string_view text) {
+std::unique_ptr<const json> parse(std::string_view text) {
   // The parser takes it for the end of the document.
   const std::size_t nul = text.find('\0');
   if (nul != std::string_view::npos)
     throw GraphError(lineAndColumn(text, nul), "a NUL character can't stand here");
   DocumentBuilder builder(text);
   json::sax_parse(text.begin(), text.end(), &builder);
-  return builder.takeDocument();
+  return std::make_unique<const json>(builder.takeDocument());
 }
+
+}  // namespace
+
+JsonDocument::JsonDocument(std::string_view text) : json_(parse(text)) {}
+
+JsonDocument::~JsonDocument() = default;
 
 }  // namespace vtlcmd::runner

@@ -1,13 +1,22 @@
 #pragma once
 
+#include <cstddef>
+#include <cstdint>
 #include <initializer_list>
 #include <nlohmann/json_fwd.hpp>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
+#include <variant>
 #include <vector>
 
 namespace vtlcmd::runner {
+
+/// A JSON value that isn't made of others; nothing for an array or object. Whole numbers that
+/// aren't below zero are unsigned. The text lies in the document.
+using JsonScalar = std::variant<std::monostate, std::nullptr_t, bool, std::uint64_t, std::int64_t,
+                                double, std::string_view>;
 
 /// A JSON value together with where it stands, read with the types that the graph file wants. All
 /// readers throw GraphError at the place.
@@ -16,7 +25,6 @@ class JsonPlace {
   /// The root. The document must outlive every place in it.
   explicit JsonPlace(const nlohmann::json& document) : JsonPlace(document, "$") {}
 
-  const nlohmann::json& value() const noexcept { return *value_; }
   const std::string& place() const noexcept { return place_; }
 
   /// Refuses a value that is no object, and any member whose name isn't listed.
@@ -32,9 +40,18 @@ class JsonPlace {
   /// Key and value of each member, in byte order of the keys.
   std::vector<std::pair<std::string, JsonPlace>> members() const;
 
+  bool isArray() const noexcept;
+  /// Of an array or object.
+  std::size_t elementCount() const noexcept;
+
+  JsonScalar scalar() const;
   const std::string& text() const;
   /// A text that can name something: not empty and without control characters.
   const std::string& name() const;
+
+  /// The value as JSON without blanks, and a short excerpt of it for a message.
+  std::string json() const;
+  std::string excerpt() const;
 
   [[noreturn]] void fail(const std::string& text) const;
 
@@ -45,8 +62,5 @@ class JsonPlace {
   const nlohmann::json* value_;
   std::string place_;
 };
-
-/// A short excerpt of a JSON value for a message.
-std::string excerptOf(const nlohmann::json& value);
 
 }  // namespace vtlcmd::runner

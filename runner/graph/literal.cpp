@@ -2,38 +2,32 @@
 
 #include <cmath>
 #include <limits>
-#include <nlohmann/json.hpp>
 #include <optional>
 #include <vector>
 
 #include "orvel_sdk/type_factory.h"
+#include "orvel_sdk/value_factory.h"
 #include "text/library_text.h"
-#include "values/library_array.h"
 #include "values/type_dispatch.h"
 
 namespace vtlcmd::runner {
 namespace {
-
-using nlohmann::json;
 
 template <typename T>
 T read(const JsonPlace& place, std::string_view typeName);
 
 template <typename T>
 [[noreturn]] void misfit(const JsonPlace& place, std::string_view typeName) {
-  place.fail("expected a value of type " + std::string(typeName) + ", found " +
-             excerptOf(place.value()));
+  place.fail("expected a value of type " + std::string(typeName) + ", found " + place.excerpt());
 }
 
 template <std::integral T>
-std::optional<T> readInteger(const json& value) {
-  if (value.is_number_unsigned()) {
-    const auto number = value.get<std::uint64_t>();
-    if (std::in_range<T>(number)) return static_cast<T>(number);
-  } else if (value.is_number_integer()) {
-    const auto number = value.get<std::int64_t>();
-    if (std::in_range<T>(number)) return static_cast<T>(number);
-  }
+std::optional<T> readInteger(const JsonScalar& value) {
+  const auto inRange = [](auto number) {
+    return std::in_range<T>(number) ? std::optional(static_cast<T>(number)) : std::nullopt;
+  };
+  if (const auto* number = std::get_if<std::uint64_t>(&value)) return inRange(*number);
+  if (const auto* number = std::get_if<std::int64_t>(&value)) return inRange(*number);
   return std::nullopt;
 }
 
@@ -44,32 +38,33 @@ template <>
 constexpr double firstBeyond<float> = 0x1.ffffffp127;
 
 template <std::floating_point T>
-std::optional<T> readFloating(const json& value) {
+std::optional<T> readFloating(const JsonScalar& value) {
   using Limits = std::numeric_limits<T>;
-  if (value.is_number_unsigned()) return static_cast<T>(value.get<std::uint64_t>());
-  if (value.is_number_integer()) return static_cast<T>(value.get<std::int64_t>());
-  if (value.is_number_float()) {
-    const auto number = value.get<double>();
-    if (std::abs(number) < firstBeyond<T>) return static_cast<T>(number);
+  if (const auto* number = std::get_if<std::uint64_t>(&value)) return static_cast<T>(*number);
+  if (const auto* number = std::get_if<std::int64_t>(&value)) return static_cast<T>(*number);
+  if (const auto* number = std::get_if<double>(&value))
+    return std::abs(*number) < firstBeyond<T> ? std::optional(static_cast<T>(*number))
+                                              : std::nullopt;
+  if (const auto* text = std::get_if<std::string_view>(&value)) {
+    if (*text == "nan") return Limits::quiet_NaN();
+    if (*text == "inf") return Limits::infinity();
+    if (*text == "-inf") return -Limits::infinity();
   }
-  if (value == "nan") return Limits::quiet_NaN();
-  if (value == "inf") return Limits::infinity();
-  if (value == "-inf") return -Limits::infinity();
   return std::nullopt;
 }
 
 template <typename T>
-std::optional<T> readSingle(const json& value) {
+std::optional<T> readSingle(const JsonScalar& value) {
   if constexpr (std::is_same_v<T, bool>) {
-    if (value.is_boolean()) return value.get<bool>();
+    if (const auto* boolean = std::get_if<bool>(&value)) return *boolean;
   } else if constexpr (std::is_integral_v<T>) {
     return readInteger<T>(value);
   } else if constexpr (std::is_floating_point_v<T>) {
     return readFloating<T>(value);
   } else if constexpr (std::is_same_v<T, Orvel::String>) {
-    if (value.is_string()) return libraryText(value.get_ref<const std::string&>());
+    if (const auto* text = std::get_if<std::string_view>(&value)) return libraryText(*text);
   } else if constexpr (std::is_same_v<T, ObjectPtr>) {
-    if (value.is_null()) return ObjectPtr();
+    if (std::holds_alternative<std::nullptr_t>(value)) return ObjectPtr();
   }
   return std::nullopt;
 }
@@ -77,19 +72,19 @@ std::optional<T> readSingle(const json& value) {
 template <Composite T>
 T readComposite(const JsonPlace& place, std::string_view typeName) {
   T result;
-  const json& value = place.value();
-  if (!value.is_array() || value.size() != result.components.size()) {
-    place.fail("expected the " + std::to_string(result.components.size()) + " components of a " +
-               std::string(typeName) + ", found " +
-               (value.is_array() ? std::to_string(value.size()) + " elements" : excerptOf(value)));
+  if (!place.isArray() || place.elementCount() != result.components.size()) {
+    place.fail(
+        "expected the " + std::to_string(result.components.size()) + " components of a " +
+        std::string(typeName) + ", found " +
+        (place.isArray() ? std::to_string(place.elementCount()) + " elements" : place.excerpt()));
   }
   const std::vector<JsonPlace> components = place.elements();
   for (std::size_t i = 0; i < components.size(); ++i) {
     using Component = typename decltype(result.components)::value_type;
-    const std::optional<Component> component = readSingle<Component>(components[i].value());
+    const std::optional<Component> component = readSingle<Component>(components[i].scalar());
     if (!component) {
       components[i].fail("expected a component of a " + std::string(typeName) + ", found " +
-                         excerptOf(components[i].value()));
+                         components[i].excerpt());
     }
     result.components[i] = *component;
   }
@@ -101,36 +96,45 @@ T read(const JsonPlace& place, std::string_view typeName) {
   if constexpr (Composite<T>) {
     return readComposite<T>(place, typeName);
   } else {
-    std::optional<T> single = readSingle<T>(place.value());
+    std::optional<T> single = readSingle<T>(place.scalar());
     if (!single) misfit<T>(place, typeName);
     return *std::move(single);
   }
 }
 
+using ReadElement = Orvel::Value (*)(const JsonPlace& place, std::string_view typeName);
+
 template <typename T>
-Orvel::Value readValue(const ValueType& type, const JsonPlace& place) {
-  if (type.depth == 0) return Orvel::makeValue(read<T>(place, type.element));
-  const std::vector<JsonPlace> elements = place.elements();
-  if (type.depth == 1) {
-    return arrayValue(generateArray<T>(
-        elements.size(), [&](std::uint64_t i) { return read<T>(elements[i], type.element); }));
-  }
+Orvel::Value readElement(const JsonPlace& place, std::string_view typeName) {
+  return Orvel::makeValue(read<T>(place, typeName));
+}
+
+/// Null for a type that can't be written down.
+ReadElement readerOf(std::string_view typeName) {
+  ReadElement reader = nullptr;
+  const auto use = [&]<typename T>() { reader = readElement<T>; };
+  if (!withTypeNamed(registeredTypes, typeName, use)) withTypeNamed(reportOnlyTypes, typeName, use);
+  return reader;
+}
+
+Orvel::Value readValue(const ValueType& type, ReadElement readElement, const JsonPlace& place) {
+  if (type.depth == 0) return readElement(place, type.element);
   const ValueType elementType = elementOf(type);
+  const std::vector<JsonPlace> elements = place.elements();
   std::vector<Orvel::Value> values;
   values.reserve(elements.size());
-  for (const JsonPlace& element : elements) values.push_back(readValue<T>(elementType, element));
+  for (const JsonPlace& element : elements)
+    values.push_back(readValue(elementType, readElement, element));
   return Orvel::makeArray(libraryTypeOf(elementType), values);
 }
 
 }  // namespace
 
 Orvel::Value literalValue(const ValueType& type, const JsonPlace& json) {
-  std::optional<Orvel::Value> value;
-  const auto readAs = [&]<typename T>() { value.emplace(readValue<T>(type, json)); };
-  const bool known = withTypeNamed(registeredTypes, type.element, readAs) ||
-                     withTypeNamed(reportOnlyTypes, type.element, readAs);
-  if (!known) json.fail("a value of type " + nameOf(type) + " can't be written down");
-  return *value;
+  const ReadElement readElement = readerOf(type.element);
+  if (readElement == nullptr)
+    json.fail("a value of type " + nameOf(type) + " can't be written down");
+  return readValue(type, readElement, json);
 }
 
 }  // namespace vtlcmd::runner

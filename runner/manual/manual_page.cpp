@@ -1,5 +1,6 @@
 #include "manual/manual_page.h"
 
+#include <CLI/App.hpp>
 #include <algorithm>
 #include <cctype>
 #include <sstream>

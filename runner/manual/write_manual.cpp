@@ -1,3 +1,4 @@
+#include <CLI/App.hpp>
 #include <filesystem>
 #include <fstream>
 #include <iostream>

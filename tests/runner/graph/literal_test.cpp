@@ -3,7 +3,6 @@
 #include <cmath>
 #include <gtest/gtest.h>
 #include <limits>
-#include <nlohmann/json.hpp>
 
 #include "graph/graph_error.h"
 #include "graph/json_document.h"
@@ -14,8 +13,8 @@ namespace vtlcmd::runner {
 namespace {
 
 Orvel::Value literal(const char* type, const char* text) {
-  const nlohmann::json document = parseJson(text);
-  return literalValue(parseValueType(type), JsonPlace(document));
+  const JsonDocument document(text);
+  return literalValue(parseValueType(type), document.root());
 }
 
 template <typename T>
