@@ -32,12 +32,6 @@ OutputError journalError(const std::filesystem::path& file, const std::system_er
   return {"the journal can't be written to " + name, error};
 }
 
-/// What the program gives back when output failed too: a failure of the run itself counts more.
-ExitCode worst(ExitCode run, const OutputError& error) {
-  if (run != ExitCode::success && run != ExitCode::tryAgain) return run;
-  return error.isTransient() ? ExitCode::tryAgain : ExitCode::runFailed;
-}
-
 /// A run with a journal and the reports of it.
 class RecordedRun {
  public:
@@ -133,9 +127,9 @@ ExitCode runGraph(const LoadedRun& loaded, const RunOptions& options, RunReports
   return static_cast<ExitCode>(FrameRun(loaded, options, reports, nullptr).run().exitCode);
 }
 
-void reportLoadFailure(const RunOptions& options, const std::vector<std::string>& arguments,
+void reportLoadFailure(const std::string& graph, const std::vector<std::string>& arguments,
                        const RunReports& reports, const std::string& text) {
-  RunJournal journal(JournalFile::temporary(), unloadedRunContent(filePath(options.graph)),
+  RunJournal journal(JournalFile::temporary(), unloadedRunContent(filePath(graph)),
                      runTimes(arguments));
   journal.end({"not loaded",
                static_cast<int>(ExitCode::notLoaded),

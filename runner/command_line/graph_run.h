@@ -35,7 +35,7 @@ void refuseTargets(const RunOptions& options, std::vector<std::filesystem::path>
 ExitCode runGraph(const LoadedRun& loaded, const RunOptions& options, RunReports& reports);
 
 /// The reports of a run that never began. Throws OutputError.
-void reportLoadFailure(const RunOptions& options, const std::vector<std::string>& arguments,
+void reportLoadFailure(const std::string& graph, const std::vector<std::string>& arguments,
                        const RunReports& reports, const std::string& text);
 
 }  // namespace vtlcmd::runner

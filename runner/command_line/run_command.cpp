@@ -31,7 +31,7 @@ ExitCode run(const RunOptions& options, const std::vector<std::string>& argument
     std::cerr << "vtlcmd: " << withoutControls(error.what()) << '\n';
     try {
       refuseTargets(options, {});
-      reportLoadFailure(options, arguments, reports, error.what());
+      reportLoadFailure(options.graph, arguments, reports, error.what());
     } catch (const std::exception& ofReport) {
       std::cerr << "vtlcmd: " << withoutControls(ofReport.what()) << '\n';
     }

@@ -26,6 +26,11 @@ std::string refusal(const std::string& target) {
 OutputError::OutputError(const std::string& what, const std::system_error& error)
     : std::runtime_error(what + ": " + reasonOf(error)), isTransient_(mayPass(error)) {}
 
+ExitCode worst(ExitCode run, const OutputError& error) {
+  if (run != ExitCode::success && run != ExitCode::tryAgain) return run;
+  return error.isTransient() ? ExitCode::tryAgain : ExitCode::runFailed;
+}
+
 bool RunReports::useStandardOutput() const {
   return std::find(targets_.begin(), targets_.end(), OutputTargets::standardOutput) !=
          targets_.end();

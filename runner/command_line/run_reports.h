@@ -9,6 +9,7 @@
 #include <utility>
 #include <vector>
 
+#include "command_line/exit_code.h"
 #include "report/journal_survey.h"
 
 namespace vtlcmd::runner {
@@ -26,6 +27,9 @@ class OutputError : public std::runtime_error {
  private:
   bool isTransient_;
 };
+
+/// What the program gives back when output failed too: a failure of the run itself counts more.
+ExitCode worst(ExitCode run, const OutputError& error);
 
 /// The reports of a run that a user asks for.
 class RunReports {

@@ -65,9 +65,9 @@ constexpr Reader readers[] = {
     {".npz", sendArchive, false},
     {".csv", sendTable, false},
     {".obj", sendObj, true},
+    // All other extensions.
+    {"", sendImported, true},
 };
-
-constexpr Reader otherFiles{"", sendImported, true};
 
 }  // namespace
 
@@ -76,10 +76,8 @@ const Reader& readerFor(const std::filesystem::path& file) {
   for (char& c : extension) {
     if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
   }
-  const auto* row = std::find_if(std::begin(readers), std::end(readers), [&](const Reader& reader) {
-    return reader.extension == extension;
-  });
-  return row == std::end(readers) ? otherFiles : *row;
+  return *std::find_if(std::begin(readers), std::end(readers) - 1,
+                       [&](const Reader& reader) { return reader.extension == extension; });
 }
 
 }  // namespace vtlcmd::runner

@@ -9,7 +9,7 @@ namespace vtlcmd::runner {
 
 /// How files of one kind are read.
 struct Reader {
-  /// In small letters.
+  /// In small letters; empty for all others.
   std::string_view extension;
   /// Reads a file and sends what is in it; for a process of its own. Null for the program's own
   /// format, which is read without one. Throws ReadError, which doesn't name the file.

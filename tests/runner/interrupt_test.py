@@ -134,6 +134,21 @@ def second_abandons_the_frame(folder, graph, has_child=False):
     report_file.unlink()
 
 
+def shown_files_stay_a_document(folder):
+    run = start("show", "--json", "--report", folder / "report.json", folder / "endless.gltf",
+                "examples/data/temperatures.npy")
+    expect("show: a reader runs", wait_for_child(run) is not None)
+    run.send_signal(signal.SIGINT)
+    run.send_signal(signal.SIGTERM)
+    document = json.loads(run.communicate(timeout=100)[0])
+    expect("show: the document", [file["values"] for file in document], [[]])
+    expect("show: the exit code", run.returncode in (130, 143))
+    report = json.loads((folder / "report.json").read_text())
+    expect("show: the report", (report["outcome"], report["exit_code"]),
+           ("interrupted", run.returncode))
+    (folder / "report.json").unlink()
+
+
 def third_ends_at_once(folder):
     journal = folder / "run.journal"
     run = start("run", folder / "long.json", "--journal", journal)
@@ -239,6 +254,7 @@ with tempfile.TemporaryDirectory() as name:
     second_abandons_the_frame(folder, "long.json")
     if "Assimp" in subprocess.check_output([*arguments.program, "--version"], text=True):
         second_abandons_the_frame(folder, "reader.json", has_child=True)
+        shown_files_stay_a_document(folder)
     third_ends_at_once(folder)
     terminal_says_that_it_waits()
     reader_that_goes(folder)

@@ -65,5 +65,11 @@ for path in [*good, *arguments.folder.glob("tests/runner/data/bad_graphs/*.json"
         for error in report_validator.iter_errors(json.loads(run.stdout)):
             problems.append(f"report of {path.name}: {error.json_path}: {error.message}")
 
+shown = subprocess.run(
+    [*arguments.program, "show", "examples/data/temperatures.npy", "examples/data/pyramid.obj", "absent.npy",
+     "--report", "-"], cwd=arguments.folder, capture_output=True)
+for error in report_validator.iter_errors(json.loads(shown.stdout)):
+    problems.append(f"report of files: {error.json_path}: {error.message}")
+
 print("\n".join(problems))
 sys.exit(1 if problems else 0)
