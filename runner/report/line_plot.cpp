@@ -1,76 +1,147 @@
 #include "report/line_plot.h"
 
-#include <algorithm>
-#include <array>
-#include <charconv>
-#include <cmath>
 #include <cstddef>
-#include <limits>
+#include <span>
 
 #include "report/html_text.h"
 
 namespace vtlcmd::runner {
 namespace {
 
-// In units of the picture's own coordinates.
-constexpr double width = 320;
-constexpr double height = 120;
+// In units of the picture's own coordinates, which the page stretches to the room that there is.
+constexpr double width = 1000;
+constexpr double height = 500;
 constexpr std::size_t styles = 4;
+constexpr int verticalMarks = 4;
 
-std::string shortText(double number, int digits) {
-  std::array<char, 32> text;
-  const auto result = std::to_chars(text.data(), text.data() + text.size(), number,
-                                    std::chars_format::general, digits);
-  return {text.data(), result.ptr};
-}
+struct Scales {
+  Axis x;
+  Axis y;
 
-class Range {
- public:
-  void add(double number) {
-    low_ = std::min(low_, number);
-    high_ = std::max(high_, number);
-  }
-  double low() const { return low_; }
-  double high() const { return high_; }
-
-  /// Where a number of the range lies between 0 and 1. Halves keep the widest range finite.
-  double share(double number) const {
-    const double span = high_ / 2 - low_ / 2;
-    return span > 0 ? (number / 2 - low_ / 2) / span : 0.5;
+  std::string place(const PlotPoint& point) const {
+    return shortNumber(x.share(point.frame) * width, 5) + " " +
+           shortNumber((1 - y.share(point.value)) * height, 5);
   }
 
- private:
-  double low_ = std::numeric_limits<double>::infinity();
-  double high_ = -std::numeric_limits<double>::infinity();
+  std::string line(std::span<const PlotPoint> points) const {
+    std::string data;
+    for (const PlotPoint& point : points) data += (data.empty() ? "M" : "L") + place(point);
+    return data;
+  }
 };
 
-std::string pathData(const PlotSeries& series, const Range& x, const Range& y) {
-  std::string data;
-  const PlotPoint* before = nullptr;
-  for (const PlotPoint& point : series.points) {
-    const bool isConnected = before != nullptr && point.stretch - before->stretch <= 1;
-    data += isConnected ? "L" : "M";
-    data += shortText(x.share(point.frame) * width, 5) + " " +
-            shortText((1 - y.share(point.value)) * height, 5);
-    // A line of no length is drawn as a dot, so that a value between gaps is seen.
-    if (!isConnected) data += "h0";
-    before = &point;
-  }
-  return data;
+bool isStatistic(const std::string& name) {
+  return name == "min" || name == "max" || name == "avg";
 }
 
-std::string styleOf(std::size_t series) { return "s" + std::to_string(series % styles); }
+const PlotSeries* seriesNamed(const LinePlot& plot, const std::string& name) {
+  const auto found = std::find_if(plot.series.begin(), plot.series.end(),
+                                  [&](const PlotSeries& series) { return series.name == name; });
+  return found == plot.series.end() ? nullptr : &*found;
+}
 
-std::string pictureHtml(const LinePlot& plot, const Range& x, const Range& y) {
-  std::string html = "<svg viewBox='-4 -4 " + shortText(width + 8, 5) + " " +
-                     shortText(height + 8, 5) + "' role='img' aria-label='" + htmlText(plot.title) +
-                     " over frames'>";
-  html += "<path class='frame' d='M0 0V" + shortText(height, 5) + "H" + shortText(width, 5) + "'/>";
+/// Whether the line runs on from one point to another.
+bool isConnected(const PlotPoint& point, const PlotPoint& next) {
+  return next.stretch - point.stretch <= 1;
+}
+
+using Points = std::span<const PlotPoint>;
+
+/// The points between gaps.
+std::vector<Points> connectedRuns(const PlotSeries& series) {
+  std::vector<Points> runs;
+  const Points points = series.points;
+  std::size_t begin = 0;
+  for (std::size_t i = 1; i <= points.size(); ++i) {
+    if (i < points.size() && isConnected(points[i - 1], points[i])) continue;
+    runs.push_back(points.subspan(begin, i - begin));
+    begin = i;
+  }
+  return runs;
+}
+
+/// The lines of a series, and as dots the points that no line reaches.
+struct Drawing {
+  std::string lines;
+  std::string dots;
+};
+
+Drawing drawingOf(const PlotSeries& series, const Scales& scales) {
+  Drawing drawing;
+  for (const Points run : connectedRuns(series)) {
+    // A line of no length has round ends all the same.
+    if (run.size() == 1) drawing.dots += "M" + scales.place(run.front()) + "h0";
+    if (run.size() > 1) drawing.lines += scales.line(run);
+  }
+  return drawing;
+}
+
+/// The area between the lowest and the highest, where both are drawn.
+std::string bandHtml(const LinePlot& plot, const Scales& scales) {
+  const PlotSeries* low = seriesNamed(plot, "min");
+  const PlotSeries* high = seriesNamed(plot, "max");
+  if (low == nullptr || high == nullptr) return "";
+  const std::vector<Points> lowRuns = connectedRuns(*low);
+  const std::vector<Points> highRuns = connectedRuns(*high);
+  if (lowRuns.size() != highRuns.size()) return "";
+  std::string data;
+  for (std::size_t i = 0; i < lowRuns.size(); ++i) {
+    const std::vector<PlotPoint> back(highRuns[i].rbegin(), highRuns[i].rend());
+    data += scales.line(lowRuns[i]) + "L" + scales.line(back).substr(1) + "Z";
+  }
+  return "<path class='band' d='" + data + "'/>";
+}
+
+std::string styleOf(const LinePlot& plot, std::size_t series) {
+  const std::string& name = plot.series[series].name;
+  return isStatistic(name) ? name : "s" + std::to_string(series % styles);
+}
+
+std::string pictureHtml(const LinePlot& plot, const Scales& scales) {
+  std::string html =
+      "<svg viewBox='0 0 1000 500' preserveAspectRatio='none' role='img' aria-label='" +
+      htmlText(plot.title) + " over frames'><path class='grid' d='";
+  for (const Axis::Mark& mark : scales.y.marks())
+    html += "M0 " + shortNumber((1 - scales.y.share(mark.place)) * height, 5) + "H1000";
+  html += "'/>" + bandHtml(plot, scales);
   for (std::size_t i = 0; i < plot.series.size(); ++i) {
-    html += "<path class='" + styleOf(i) + "' d='" + pathData(plot.series[i], x, y) + "'><title>" +
-            htmlText(plot.series[i].name) + "</title></path>";
+    const auto addPath = [&](const std::string& style, const std::string& data) {
+      if (data.empty()) return;
+      html += "<path class='" + style + "' d='" + data + "'><title>" +
+              htmlText(plot.series[i].name) + "</title></path>";
+    };
+    const Drawing drawing = drawingOf(plot.series[i], scales);
+    addPath(styleOf(plot, i), drawing.lines);
+    addPath(styleOf(plot, i) + " dot", drawing.dots);
   }
   return html + "</svg>";
+}
+
+std::string captionHtml(const LinePlot& plot) {
+  std::string html = "<figcaption>";
+  if (!plot.title.empty()) html += "<b>" + htmlText(plot.title) + "</b>";
+  for (std::size_t i = 0; i < plot.series.size(); ++i) {
+    html +=
+        " <span class='key " + styleOf(plot, i) + "'>" + htmlText(plot.series[i].name) + "</span>";
+  }
+  return html + "</figcaption>";
+}
+
+Scales scalesOf(const LinePlot& plot, const FrameRange& frames) {
+  double low = std::numeric_limits<double>::infinity();
+  double high = -low;
+  for (const PlotSeries& series : plot.series) {
+    for (const PlotPoint& point : series.points) {
+      low = std::min(low, point.value);
+      high = std::max(high, point.value);
+    }
+  }
+  return {frames.axis(), Axis::rounded(low, high, verticalMarks)};
+}
+
+std::string labelHtml(const char* side, double share, const std::string& label) {
+  return std::string("<span style='") + side + ":" + shortNumber(share * 100, 4) + "%'>" + label +
+         "</span>";
 }
 
 }  // namespace
@@ -93,24 +164,24 @@ void PlotSeries::add(const PlotPoint& point) {
   later = point;
 }
 
+std::string bottomLabelsHtml(const Axis& axis) {
+  std::string html = "<div class='x'>";
+  for (const Axis::Mark& mark : axis.marks())
+    html += labelHtml("left", axis.share(mark.place), mark.label);
+  return html + "</div>";
+}
+
+std::string leftLabelsHtml(const Axis& axis) {
+  std::string html = "<div class='y'>";
+  for (const Axis::Mark& mark : axis.marks())
+    html += labelHtml("top", 1 - axis.share(mark.place), mark.label);
+  return html + "</div>";
+}
+
 std::string linePlotHtml(const LinePlot& plot, const FrameRange& frames) {
-  Range x;
-  x.add(frames.low);
-  x.add(frames.high);
-  Range y;
-  for (const PlotSeries& series : plot.series) {
-    for (const PlotPoint& point : series.points) y.add(point.value);
-  }
-  std::string html = "<figure><figcaption>" + htmlText(plot.title);
-  for (std::size_t i = 0; i < plot.series.size(); ++i) {
-    html += " <span class='key " + styleOf(i) + "'>" + htmlText(plot.series[i].name) + "</span>";
-  }
-  html += "</figcaption>";
-  html += "<div class='plot'><div class='y'><span>" + shortText(y.high(), 6) + "</span><span>" +
-          shortText(y.low(), 6) + "</span></div>" + pictureHtml(plot, x, y) +
-          "<div class='x'><span>" + shortText(x.low(), 6) + "</span><span>" +
-          shortText(x.high(), 6) + "</span></div></div></figure>\n";
-  return html;
+  const Scales scales = scalesOf(plot, frames);
+  return "<figure>" + captionHtml(plot) + "<div class='plot'>" + leftLabelsHtml(scales.y) +
+         pictureHtml(plot, scales) + bottomLabelsHtml(scales.x) + "</div></figure>\n";
 }
 
 }  // namespace vtlcmd::runner

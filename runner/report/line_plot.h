@@ -1,10 +1,13 @@
 #pragma once
 
 #include <algorithm>
+#include <cmath>
 #include <cstdint>
 #include <limits>
 #include <string>
 #include <vector>
+
+#include "report/axis.h"
 
 namespace vtlcmd::runner {
 
@@ -29,11 +32,16 @@ struct PlotSeries {
 struct FrameRange {
   double low = std::numeric_limits<double>::infinity();
   double high = -std::numeric_limits<double>::infinity();
+  /// No frame has a fraction.
+  bool isWhole = true;
 
   void add(double frame) {
     low = std::min(low, frame);
     high = std::max(high, frame);
+    isWhole &= frame == std::floor(frame);
   }
+
+  Axis axis() const { return Axis::exact(low, high, 6, isWhole); }
 };
 
 struct LinePlot {
@@ -42,7 +50,13 @@ struct LinePlot {
 };
 
 /// The plot as an inline `figure` with a picture of lines over all frames of the range. Stretches
-/// without a point leave gaps. Series are styled by the classes `s0` to `s3`, in turn.
+/// without a point leave gaps. Series are styled by the classes `s0` to `s3`, in turn, but "min",
+/// "max" and "avg" by these names, with a band between the first two.
 std::string linePlotHtml(const LinePlot& plot, const FrameRange& frames);
+
+/// The labels of an axis as elements that are placed by the share of a length, from the left or the
+/// top.
+std::string bottomLabelsHtml(const Axis& axis);
+std::string leftLabelsHtml(const Axis& axis);
 
 }  // namespace vtlcmd::runner

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <utility>
 
 namespace vtlcmd::runner {
 namespace {
@@ -18,78 +17,98 @@ constexpr std::array componentNames{"x", "y", "z", "w"};
 constexpr std::array<std::pair<const char*, const char*>, 3> statistics{
     {{"min", "min"}, {"max", "max"}, {"average", "avg"}}};
 
-/// The plots of one output in one frame.
-class FramePlots {
- public:
-  FramePlots(std::vector<LinePlot>& plots, std::uint64_t stretch, double frame)
-      : plots_(plots), stretch_(stretch), frame_(frame) {}
+template <typename T, typename Name>
+T& findOrAdd(std::vector<T>& items, Name name, const std::string& wanted) {
+  const auto found =
+      std::find_if(items.begin(), items.end(), [&](T& item) { return name(item) == wanted; });
+  if (found != items.end()) return *found;
+  name(items.emplace_back()) = wanted;
+  return items.back();
+}
 
-  void addOutput(const Json& value) {
-    if (value.is_object() && !value.contains("sizes")) {
-      for (const auto& [name, property] : value.items()) addValue(name, property);
-    } else {
-      addValue("", value);
-    }
-  }
-
- private:
-  void addValue(const std::string& title, const Json& value) {
-    if (value.is_object()) {
-      if (value.contains("count")) addNumber(title, "count", value["count"]);
-      for (const auto& [key, name] : statistics) {
-        if (value.contains(key)) addStatistic(title, name, value[key]);
-      }
-    } else if (value.is_array()) {
-      for (std::size_t i = 0; i < std::min(value.size(), componentNames.size()); ++i)
-        addNumber(title, componentNames[i], value[i]);
-    } else {
-      addNumber(title, "value", value);
-    }
-  }
-
-  /// Each component of vectors has a plot of its own.
-  void addStatistic(const std::string& title, const char* name, const Json& value) {
-    if (!value.is_array()) return addNumber(title, name, value);
-    for (std::size_t i = 0; i < std::min(value.size(), componentNames.size()); ++i)
-      addNumber(title + (title.empty() ? "" : " ") + componentNames[i], name, value[i]);
-  }
-
-  /// Texts, those of numbers that aren't finite too, and truths leave gaps.
-  void addNumber(const std::string& title, const std::string& name, const Json& number) {
-    if (!number.is_number()) return;
-    findOrAdd(findOrAdd(plots_, &LinePlot::title, title).series, &PlotSeries::name, name)
-        .add({stretch_, frame_, number.get<double>()});
-  }
-
-  template <typename T>
-  static T& findOrAdd(std::vector<T>& items, std::string T::*name, const std::string& wanted) {
-    const auto found = std::find_if(items.begin(), items.end(),
-                                    [&](const T& item) { return item.*name == wanted; });
-    if (found != items.end()) return *found;
-    items.emplace_back().*name = wanted;
-    return items.back();
-  }
-
-  std::vector<LinePlot>& plots_;
-  std::uint64_t stretch_;
-  double frame_;
-};
+/// The number's own text; what isn't finite is written as a text.
+std::string exactText(const Json& number) {
+  return number.is_string() ? number.get<std::string>() : number.dump();
+}
 
 }  // namespace
 
 OutputPlots::OutputPlots(std::uint64_t frameCount)
     : stretch_(frameCount <= mostPoints ? 1 : (2 * frameCount + mostPoints - 1) / mostPoints) {}
 
-void OutputPlots::add(std::uint64_t index, double frame, const Json& outputs) {
-  frames_.add(frame);
-  for (const auto& [name, output] : outputs.items()) {
-    if (!output.contains("value")) continue;
-    std::vector<LinePlot> plots;
-    const auto known = outputs_.find(name);
-    std::vector<LinePlot>& target = known == outputs_.end() ? plots : known->second;
-    FramePlots(target, index / stretch_, frame).addOutput(output["value"]);
-    if (!plots.empty()) outputs_.emplace(name, std::move(plots));
+void OutputPlots::add(std::uint64_t index, double frame, const Json& value) {
+  const Place place{index / stretch_, frame};
+  if (value.is_object() && !value.contains("sizes")) {
+    for (const auto& [name, property] : value.items()) addValue(place, name, property);
+  } else {
+    addValue(place, "", value);
   }
+}
+
+void OutputPlots::addValue(const Place& place, const std::string& title, const Json& value) {
+  if (value.is_object()) {
+    if (value.contains("count")) addNumber(place, title, "count", value["count"]);
+    if (value.contains("sizes")) {
+      const Json& sizes = value["sizes"];
+      for (std::size_t i = 0; i < sizes.size(); ++i)
+        addNumber(place, title, sizes.size() == 1 ? "size" : "size " + std::to_string(i + 1),
+                  sizes[i]);
+    }
+    for (const auto& [key, name] : statistics) {
+      if (value.contains(key)) addStatistic(place, title, name, value[key]);
+    }
+  } else if (value.is_array()) {
+    for (std::size_t i = 0; i < std::min(value.size(), componentNames.size()); ++i)
+      addNumber(place, title, componentNames[i], value[i]);
+  } else {
+    addNumber(place, title, "value", value);
+  }
+}
+
+/// Each component of vectors is a thing of its own.
+void OutputPlots::addStatistic(const Place& place, const std::string& title, const char* name,
+                               const Json& value) {
+  if (!value.is_array()) return addNumber(place, title, name, value);
+  for (std::size_t i = 0; i < std::min(value.size(), componentNames.size()); ++i)
+    addNumber(place, title + (title.empty() ? "" : " ") + componentNames[i], name, value[i]);
+}
+
+/// Numbers that aren't finite leave gaps; truths and nothing are no numbers.
+void OutputPlots::addNumber(const Place& place, const std::string& title, const std::string& name,
+                            const Json& number) {
+  const bool isFinite = number.is_number();
+  if (!isFinite && !number.is_string()) return;
+  Thing& thing = findOrAdd(
+      things_, [](Thing& each) -> std::string& { return each.title; }, title);
+  Series& series = findOrAdd(
+      thing.series, [](Series& each) -> std::string& { return each.plot.name; }, name);
+  if (series.first.is_null()) series.first = number;
+  series.changes |= series.first != number;
+  if (isFinite) series.plot.add({place.stretch, place.frame, number.get<double>()});
+}
+
+std::vector<LinePlot> OutputPlots::changing() const {
+  std::vector<LinePlot> plots;
+  for (const Thing& thing : things_) {
+    LinePlot plot{thing.title, {}};
+    for (const Series& series : thing.series) {
+      if (series.changes && !series.plot.points.empty()) plot.series.push_back(series.plot);
+    }
+    if (!plot.series.empty()) plots.push_back(std::move(plot));
+  }
+  return plots;
+}
+
+std::vector<OutputPlots::Constants> OutputPlots::constants() const {
+  std::vector<Constants> rows;
+  for (const Thing& thing : things_) {
+    Constants row{thing.title, {}};
+    for (const Series& series : thing.series) {
+      if (!series.changes) row.numbers.emplace_back(series.plot.name, exactText(series.first));
+    }
+    if (!row.numbers.empty()) rows.push_back(std::move(row));
+  }
+  return rows;
 }
 
 }  // namespace vtlcmd::runner

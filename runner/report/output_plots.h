@@ -1,35 +1,58 @@
 #pragma once
 
 #include <cstdint>
-#include <map>
 #include <nlohmann/json.hpp>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "report/line_plot.h"
 
 namespace vtlcmd::runner {
 
-/// Collects the numbers of outputs over the frames of a run, from their exact values: numbers, the
-/// components of vectors, sizes of components and statistics of arrays, alone and in objects.
+/// Collects the numbers of one output over the frames of a run, from its exact values: numbers, the
+/// components of vectors, sizes and statistics of arrays, alone and in objects.
 class OutputPlots {
  public:
-  /// `frameCount` frames at most are added.
+  /// `frameCount` is that of the whole job.
   explicit OutputPlots(std::uint64_t frameCount);
 
-  /// The outputs of a frame as its journal line has them; `index` is below the count.
-  void add(std::uint64_t index, double frame, const nlohmann::ordered_json& outputs);
+  /// The exact value of a frame as its journal line has it; `index` is below the count.
+  void add(std::uint64_t index, double frame, const nlohmann::ordered_json& value);
 
-  /// By the output's name; an output without numbers has no row.
-  const std::map<std::string, std::vector<LinePlot>>& outputs() const noexcept { return outputs_; }
+  /// A plot for the numbers of one thing, as far as they change.
+  std::vector<LinePlot> changing() const;
 
-  /// Of all frames that were added.
-  const FrameRange& frames() const noexcept { return frames_; }
+  /// Numbers of one thing that are the same in every frame that has them, by name, exact.
+  struct Constants {
+    std::string title;
+    std::vector<std::pair<std::string, std::string>> numbers;
+  };
+  std::vector<Constants> constants() const;
 
  private:
+  struct Series {
+    PlotSeries plot;
+    nlohmann::ordered_json first;
+    bool changes = false;
+  };
+  struct Thing {
+    std::string title;
+    std::vector<Series> series;
+  };
+  struct Place {
+    std::uint64_t stretch;
+    double frame;
+  };
+
+  void addValue(const Place& place, const std::string& title, const nlohmann::ordered_json& value);
+  void addStatistic(const Place& place, const std::string& title, const char* name,
+                    const nlohmann::ordered_json& value);
+  void addNumber(const Place& place, const std::string& title, const std::string& name,
+                 const nlohmann::ordered_json& number);
+
   std::uint64_t stretch_;
-  FrameRange frames_;
-  std::map<std::string, std::vector<LinePlot>> outputs_;
+  std::vector<Thing> things_;
 };
 
 }  // namespace vtlcmd::runner

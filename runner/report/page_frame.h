@@ -1,0 +1,23 @@
+#pragma once
+
+#include <cstdint>
+#include <nlohmann/json.hpp>
+#include <string>
+
+namespace vtlcmd::runner {
+
+/// A frame of a journal, for the sections of a page. They are handed the frames by rising place in
+/// the job.
+struct PageFrame {
+  /// The place in the job.
+  std::uint64_t index = 0;
+  /// As the user knows it, and as a number.
+  std::string text;
+  double number = 0;
+  /// What its line tells.
+  const nlohmann::ordered_json& content;
+  /// Null when times are left out.
+  const nlohmann::ordered_json& times;
+};
+
+}  // namespace vtlcmd::runner
