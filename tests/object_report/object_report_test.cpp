@@ -9,6 +9,7 @@
 #include "orvel_sdk/value_factory.h"
 #include "output/statistics/array_statistics.h"
 #include "support/built_text.h"
+#include "support/scoped_locale.h"
 #include "support/type_samples.h"
 #include "vantrel_geometry/geometry_builder.h"
 #include "vantrel_object/object_builder.h"
@@ -89,6 +90,17 @@ TEST_F(ObjectReport, ComponentsStandBeforeDataEachInTheLibrarysOrder) {
             "  corners: count: 0\n"
             "  z: (1 float)\n  {\n     min: 1\n     max: 1\n     avg: 1\n  }\n"
             "  a: (1 float)\n  {\n     min: 2\n     max: 2\n     avg: 2\n  }\n"
+            "}");
+}
+
+TEST_F(ObjectReport, NumbersFollowTheGlobalLocale) {
+  addComponent("faces", 4294967295);
+  addData<std::uint16_t>("s", {65535});
+  const testing::GroupingLocale locale;
+  EXPECT_EQ(report(),
+            "{\n"
+            "  faces: count: 4.294.967.295\n"
+            "  s: (1 ushort)\n  {\n     min: 65.535\n     max: 65.535\n     avg: 65.535\n  }\n"
             "}");
 }
 

@@ -121,6 +121,8 @@ TYPED_TEST(ArrayPrinters, LimitZeroIsAShortNoteOfAFilledArray) {
   EXPECT_EQ((print<T, 1>(arrayOf<T>(this->five_), 0)), note(0, 5, this->name()));
   EXPECT_EQ(printValue<T>(Orvel::makeValue(arrayOf<T>(this->five_)), 1, 0),
             note(0, 5, this->name()));
+  EXPECT_EQ((print<T, 2>(nestedArray<T, 2>(this->five_[0]), 0)), note(0, 1, this->name()));
+  EXPECT_EQ((print<T, 3>(nestedArray<T, 3>(this->five_[0]), 0)), note(0, 1, this->name()));
 }
 
 TYPED_TEST(ArrayPrinters, LowestLevelGoesByItsClassAndTheLimitCapsListsAlone) {

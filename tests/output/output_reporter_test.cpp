@@ -7,6 +7,7 @@
 #include <string>
 
 #include "support/allocation_count.h"
+#include "support/scoped_locale.h"
 #include "support/test_host.h"
 #include "support/type_samples.h"
 
@@ -151,6 +152,15 @@ TEST(OutputReporter, ThreeDimensionalArray) {
             "     avg: 2\n"
             "  } ]\n"
             " ]\n");
+}
+
+TEST(OutputReporter, NumbersFollowTheGlobalLocale) {
+  const testing::GroupingLocale locale;
+  expectBoth(std::int32_t{-1234567}, "Output port 'result': (int) -1.234.567");
+  expectBoth(1.5, "Output port 'result': (double) 1,5");
+  expectBoth(Math::float2{{1.5F, 2}}, "Output port 'result': (Math::float2) {1,5, 2}");
+  expectBoth(arrayOf(std::vector<Orvel::String>(1000, "a")),
+             "Output port 'result': (array<string>) \n(1 out of 1.000 string)[\n\"a\" ]\n", 1);
 }
 
 TEST(OutputReporter, StatisticsCoverEveryElementWhateverTheLimit) {

@@ -6,8 +6,10 @@
 #include <string>
 #include <vector>
 
+#include "output/statistics/average.h"
 #include "support/allocation_count.h"
 #include "support/built_text.h"
+#include "support/scoped_locale.h"
 #include "support/type_samples.h"
 
 namespace vtlcmd {
@@ -69,6 +71,9 @@ TEST(ArrayStatistics, BoolsHaveABlankInFrontAndAnAverageOfTheirOwn) {
   EXPECT_EQ(statistics<bool>({false, true, true}), block(" (3 bool)", "0", "1", "1"));
   EXPECT_EQ(statistics<bool>({true, true, false}), block(" (3 bool)", "0", "1", "0"));
   EXPECT_EQ(statistics<bool>({true, true, true}), block(" (3 bool)", "1", "1", "1"));
+  EXPECT_EQ(statistics<bool>({true, true}), block(" (2 bool)", "1", "1", "0"));
+  EXPECT_EQ(statistics<bool>({false, true, true, false}), block(" (4 bool)", "0", "1", "0"));
+  EXPECT_EQ(statistics<bool>({false, true, true, true}), block(" (4 bool)", "0", "1", "1"));
 }
 
 TEST(ArrayStatistics, AnyByteOfABoolArrayButZeroIsTrue) {
@@ -93,6 +98,12 @@ TEST(ArrayStatistics, IntegerAveragesTruncateTowardZero) {
   EXPECT_EQ(statistics<uint16_t>({1, 2}), block("(2 ushort)", "1", "2", "1"));
 }
 
+TEST(ArrayStatistics, AveragesAreQuotientsNotProductsWithAReciprocal) {
+  for (std::size_t count = 1; count <= 100; ++count)
+    EXPECT_EQ(statistics(std::vector<int32_t>(count, 1)),
+              block("(" + std::to_string(count) + " int)", "1", "1", "1"));
+}
+
 TEST(ArrayStatistics, IntegerSumsWrap) {
   EXPECT_EQ(statistics<int32_t>({2147483647, 1}),
             block("(2 int)", "1", "2147483647", "-1073741824"));
@@ -108,6 +119,9 @@ TEST(ArrayStatistics, IntegerSumsWrap) {
 TEST(ArrayStatistics, IntegerSumsPassThroughSinglePrecision) {
   EXPECT_EQ(statistics<int32_t>({16777217, 16777217}),
             block("(2 int)", "16777217", "16777217", "16777216"));
+  // Rounded to double precision first, this would round up.
+  EXPECT_EQ(statistics<int64_t>({4611686293305294849}),
+            block("(1 long)", "4611686293305294849", "4611686293305294849", "4611686568183201792"));
 }
 
 TEST(ArrayStatistics, ConversionsThatOverflowGiveTheReferenceResults) {
@@ -130,6 +144,19 @@ TEST(ArrayStatistics, DoublesSumAndDivideInDoublePrecision) {
             block("(2 double)", "1.67772e+07", "1.67772e+07", "1.67772e+07"));
   EXPECT_EQ(statistics<double>({1e300, 1e300}), block("(2 double)", "1e+300", "1e+300", "1e+300"));
   EXPECT_EQ(statistics<double>({0.1, 0.2, 0.3}), block("(3 double)", "0.1", "0.3", "0.2"));
+}
+
+TEST(ArrayStatistics, CountOfDoublesIsNotRoundedToSinglePrecision) {
+  EXPECT_EQ(averageOf(16777217.0, 16777217), 1.0);
+  EXPECT_EQ(averageOf(16777217.0F, 16777217), 1.0F);
+}
+
+TEST(ArrayStatistics, NumbersFollowTheGlobalLocale) {
+  const testing::GroupingLocale locale;
+  EXPECT_EQ(statistics<int32_t>({1234567, 1234569}),
+            block("(2 int)", "1.234.567", "1.234.569", "1.234.568"));
+  EXPECT_EQ(statistics<float>({1.5F, 2.5F}), block("(2 float)", "1,5", "2,5", "2"));
+  EXPECT_EQ(statistics(std::vector<bool>(1000)), block(" (1.000 bool)", "0", "0", "0"));
 }
 
 TEST(ArrayStatistics, FloatSumsRoundAtEveryStep) {
