@@ -82,6 +82,9 @@ void addCommands(CLI::App& app, CommandState& state) {
   app.set_version_flag("--version", versionText());
   addRunCommand(app, state);
   addReportCommand(app, state);
+  addSubmitCommand(app, state);
+  addResubmitCommand(app, state);
+  addStatusCommand(app);
   addPortsCommand(app);
   addTypesCommand(app);
   addNodesCommand(app);

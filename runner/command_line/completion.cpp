@@ -108,10 +108,15 @@ struct ValueKind {
 };
 
 const ValueKind valueKinds[]{
-    {"GRAPH", offerFiles},    {"FILE", offerFiles},
-    {"PATH", offerFiles},     {"PORT=PATH", [](const Place& place) { offerPortFiles(place); }},
-    {"LEVEL", offerLevels},   {"PORT=TEXT", offerPortTexts},
-    {"OUTPUT", offerOutputs}, {"TOPIC", offerTopics},
+    {"GRAPH", offerFiles},
+    {"FILE", offerFiles},
+    {"PATH", offerFiles},
+    {"FOLDER", offerFiles},
+    {"PORT=PATH", [](const Place& place) { offerPortFiles(place); }},
+    {"LEVEL", offerLevels},
+    {"PORT=TEXT", offerPortTexts},
+    {"OUTPUT", offerOutputs},
+    {"TOPIC", offerTopics},
 };
 
 void completeValue(const CLI::Option& option, Place place) {

@@ -10,25 +10,22 @@
 #include "text/shortest_text.h"
 
 namespace vtlcmd::runner {
-namespace {
 
-void refuseRepeated(const FrameList& job, const std::string& text) {
+void refuseRepeated(const std::string& option, const FrameList& job, const std::string& text) {
   std::vector<double> frames;
   frames.reserve(job.size());
   for (std::size_t i = 0; i < job.size(); ++i) frames.push_back(job[i]);
   std::sort(frames.begin(), frames.end());
   const auto found = std::adjacent_find(frames.begin(), frames.end());
   if (found != frames.end())
-    throw UsageError("--job-frames: " + inQuotes(text) + " has frame " + shortestText(*found) +
+    throw UsageError(option + ": " + inQuotes(text) + " has frame " + shortestText(*found) +
                      " twice");
 }
-
-}  // namespace
 
 FrameList parsePartOfJob(const std::string& frames, const std::string& jobFrames) {
   const FrameList wanted = parseFrames(frames);
   const FrameList job = parseFrames(jobFrames);
-  refuseRepeated(job, jobFrames);
+  refuseRepeated("--job-frames", job, jobFrames);
   FrameList part;
   for (std::size_t i = 0; i < wanted.size(); ++i) {
     const std::optional<std::size_t> place = job.placeOf(wanted[i]);

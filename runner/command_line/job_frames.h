@@ -11,4 +11,7 @@ namespace vtlcmd::runner {
 /// that has one twice too: nobody could tell which of the two has run.
 FrameList parsePartOfJob(const std::string& frames, const std::string& jobFrames);
 
+/// Throws UsageError, which names the option, for a job that has a frame twice.
+void refuseRepeated(const std::string& option, const FrameList& job, const std::string& text);
+
 }  // namespace vtlcmd::runner
