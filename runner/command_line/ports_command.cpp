@@ -9,6 +9,7 @@
 #include "command_line/port_kinds.h"
 #include "graph/graph_file.h"
 #include "text/control_characters.h"
+#include "text/json_text.h"
 #include "text/shell_quoting.h"
 
 namespace vtlcmd::runner {
@@ -84,7 +85,7 @@ void printJson(const Graph& graph) {
     ports.push_back(std::move(port));
   }
   const nlohmann::ordered_json document{{"graph", graph.name}, {"ports", std::move(ports)}};
-  std::cout << document.dump(2) << '\n';
+  std::cout << jsonText(document, 2) << '\n';
 }
 
 }  // namespace

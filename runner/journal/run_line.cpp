@@ -7,6 +7,7 @@
 #include "journal/process_identity.h"
 #include "journal/sha256.h"
 #include "journal/time_text.h"
+#include "text/json_text.h"
 #include "text/library_text.h"
 #include "text/path_text.h"
 #include "text/program_version.h"
@@ -15,10 +16,6 @@ namespace vtlcmd::runner {
 namespace {
 
 using Json = nlohmann::ordered_json;
-
-std::string textOf(const Json& json) {
-  return json.dump(-1, ' ', false, Json::error_handler_t::replace);
-}
 
 std::string hashOfText(std::string_view text) {
   Sha256 hash;
@@ -98,24 +95,24 @@ std::string runContent(const Graph& graph, const RunSettings& settings,
     content["job_frame_count"] = settings.frames.wholeSize();
   }
   content["key"] = key;
-  return textOf(content);
+  return jsonText(content);
 }
 
 std::string unloadedRunContent(const std::filesystem::path& graphFile) {
-  return textOf({{"form", journalForm},
-                 {"program", programVersion()},
-                 {"graph", fileText(graphFile)},
-                 {"graph_file", fileText(graphFile)},
-                 {"loaded", false},
-                 {"frame_count", 0}});
+  return jsonText({{"form", journalForm},
+                   {"program", programVersion()},
+                   {"graph", fileText(graphFile)},
+                   {"graph_file", fileText(graphFile)},
+                   {"loaded", false},
+                   {"frame_count", 0}});
 }
 
 std::string runTimes(const std::vector<std::string>& arguments) {
-  return textOf({{"arguments", arguments},
-                 {"host", hostName()},
-                 {"process", processNumber()},
-                 {"attempt", 1},
-                 {"started", timeText(std::chrono::system_clock::now())}});
+  return jsonText({{"arguments", arguments},
+                   {"host", hostName()},
+                   {"process", processNumber()},
+                   {"attempt", 1},
+                   {"started", timeText(std::chrono::system_clock::now())}});
 }
 
 }  // namespace vtlcmd::runner

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "journal/journal_reader.h"
+#include "text/json_text.h"
 
 namespace vtlcmd::runner {
 namespace {
@@ -12,10 +13,6 @@ using Json = nlohmann::ordered_json;
 
 /// The version of the report's form.
 constexpr int reportForm = 2;
-
-std::string textOf(const Json& json, int indent = -1) {
-  return json.dump(indent, ' ', false, Json::error_handler_t::replace);
-}
 
 Json headOf(const JournalSurvey& survey) {
   const Json& end = survey.end;
@@ -52,14 +49,14 @@ void writeFrames(std::ostream& stream, const JournalSource& source,
 
 void writeJsonReport(std::ostream& stream, const JournalSource& source,
                      const JournalSurvey& survey) {
-  std::string head = textOf(headOf(survey), 2);
+  std::string head = jsonText(headOf(survey), 2);
   // Open again for what follows.
   head.resize(head.size() - std::string_view("\n}").size());
   stream << head << ",\n  \"frames\": ";
   writeFrames(stream, source, &JournalLine::content);
   if (!survey.runTimes.is_null()) {
-    stream << ",\n  \"times\": {\"run\": " << textOf(survey.runTimes)
-           << ", \"end\": " << textOf(survey.endTimes) << ", \"frames\": ";
+    stream << ",\n  \"times\": {\"run\": " << jsonText(survey.runTimes)
+           << ", \"end\": " << jsonText(survey.endTimes) << ", \"frames\": ";
     writeFrames(stream, source, &JournalLine::times);
     stream << "}";
   }

@@ -2,11 +2,10 @@
 
 #include <nlohmann/json.hpp>
 
+#include "text/json_text.h"
+
 namespace vtlcmd::runner {
 
-void JsonWriter::text(std::string_view value) {
-  using nlohmann::json;
-  raw(json(value).dump(-1, ' ', false, json::error_handler_t::replace));
-}
+void JsonWriter::text(std::string_view value) { raw(jsonText(value)); }
 
 }  // namespace vtlcmd::runner

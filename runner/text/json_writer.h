@@ -24,7 +24,7 @@ class JsonWriter {
     text_ += ':';
   }
 
-  /// Bytes that are no UTF-8 text become replacement characters.
+  /// As `jsonText` writes it.
   void text(std::string_view value);
   void boolean(bool value) { raw(value ? "true" : "false"); }
   void null() { raw("null"); }

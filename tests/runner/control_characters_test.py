@@ -41,8 +41,8 @@ def piped(words):
     return subprocess.run([*arguments.program, *words], capture_output=True).stdout
 
 
-evil = "a\x1b]0;title\x07\u009b2J"
-spelled = rb"a\x1b]0;title\x07\xc2\x9b2J"
+evil = "a\x1b]0;title\x07\u009b2J\x7f"
+spelled = rb"a\x1b]0;title\x07\xc2\x9b2J\x7f"
 graph = {
     "inputs": [{"name": "text", "type": "string", "default": evil, "description": evil},
                {"name": "file", "type": "string", "default": evil + ".npy"}],
@@ -58,6 +58,11 @@ with tempfile.TemporaryDirectory() as folder:
     refusal = on_terminal(["run", file, "-s", evil + "=1"])
     del graph["nodes"]
     file.write_text(json.dumps(graph))
+    documents = [on_terminal(words) for words in (
+        ["ports", "--json", file], ["run", "-q", "--no-progress", "--report", "-", file])]
+    table = pathlib.Path(folder) / "table.csv"
+    table.write_text(evil + "\n1\n")
+    documents.append(on_terminal(["show", "--json", table]))
     report = on_terminal(["run", file])
     raw_report = piped(["run", file])
 
@@ -65,9 +70,12 @@ check(f"errors of nodes: {node_error}", spelled + b".npy: No such file" in node_
 check(f"descriptions: {ports}", spelled in ports)
 check(f"the program's own errors: {refusal}", b"has no port '" + spelled + b"'" in refusal)
 check(f"reports: {report}", b'(string) "' + spelled + b'"' in report)
-for text in (node_error, ports, refusal, report):
+for text in (node_error, ports, refusal, report, *documents):
     check(f"no control character: {text}",
-          not any(byte < 32 and byte not in b"\r\n" for byte in text))
+          not any((character < " " and character not in "\r\n") or "\x7f" <= character < "\xa0"
+                  for character in text.decode()))
+for document in documents:
+    check(f"documents have it escaped: {document}", rb"a\u001b]0;title\u0007\u009b2J\u007f" in document)
 check("a pipe gets the report as it is", evil.encode() in raw_report)
 
 print("\n".join(failed))
