@@ -17,7 +17,8 @@ namespace {
 template <typename Function>
 auto naming(const std::filesystem::path& file, Function&& function) {
   try {
-    requireRegularFile(file);
+    // Some libraries don't tell why a file can't be opened.
+    const InputFile readable(file);
     return function();
   } catch (const ReadError& error) {
     throw ReadError(fileText(file) + ": " + error.what(), error.isTransient());

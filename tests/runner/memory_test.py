@@ -14,7 +14,7 @@ arguments = parser.parse_args()
 
 FEW, MANY = 100, 10_000
 # In KiB. The least that a frame leaves behind is its entry in the run report, of about 1 KiB.
-MOST_GROWTH = 4 << 10
+MOST_GROWTH = 2 << 10
 problems = []
 
 
