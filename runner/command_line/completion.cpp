@@ -93,6 +93,17 @@ void offerOutputs(const Place& place) {
   for (const GraphOutput& output : graph.outputs) offer(place, output.name, output.description);
 }
 
+/// Of what is typed of OUTPUT=FILE.
+void offerOutputFiles(Place place) {
+  if (const std::optional<std::string> name = portName(place)) {
+    place.before += *name + "=";
+    return offerFiles(place);
+  }
+  const Graph graph = graphAt(place);
+  for (const GraphOutput& output : graph.outputs)
+    offer(place, output.name + "=", output.description);
+}
+
 void offerLevels(const Place& place) {
   for (const char* name : VtlCmdLogger::levelNames) offer(place, name, "");
 }
@@ -117,6 +128,7 @@ const ValueKind valueKinds[]{
     {"PORT=TEXT", offerPortTexts},
     {"OUTPUT", offerOutputs},
     {"TOPIC", offerTopics},
+    {"OUTPUT=FILE", [](const Place& place) { offerOutputFiles(place); }},
 };
 
 void completeValue(const CLI::Option& option, Place place) {

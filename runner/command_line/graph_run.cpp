@@ -6,8 +6,8 @@
 
 #include "command_line/frame_run.h"
 #include "command_line/journal_place.h"
-#include "command_line/output_targets.h"
 #include "command_line/port_kinds.h"
+#include "command_line/save_options.h"
 #include "command_line/vector_notation.h"
 #include "graph/graph_file.h"
 #include "journal/run_journal.h"
@@ -105,18 +105,28 @@ LoadedRun loadRun(const RunOptions& options, const std::vector<std::string>& arg
   run.settings.filesRead = filesReadBy(run.graph, run.texts);
   std::vector<std::filesystem::path> filesRead = run.settings.filesRead;
   filesRead.insert(filesRead.end(), texts.files().begin(), texts.files().end());
-  refuseTargets(options, std::move(filesRead));
+  OutputTargets targets = refuseTargets(options, std::move(filesRead));
+  for (const SavedOutput& saved : savedOutputsFrom(options.saves, run.graph, run.settings.frames)) {
+    targets.addSeries("--save", saved.file, run.settings.frames);
+    run.settings.saves.push_back(
+        {saved.output, [saved](double frame, const Orvel::Value& value,
+                               const std::set<std::filesystem::path>& files) {
+           return saveValue(saved, frame, value, files);
+         }});
+  }
   run.plugInFile = options.report.plugInFile();
   run.plugIn = std::make_unique<PlugIn>(run.plugInFile);
   return run;
 }
 
-void refuseTargets(const RunOptions& options, std::vector<std::filesystem::path> filesRead) {
+OutputTargets refuseTargets(const RunOptions& options,
+                            std::vector<std::filesystem::path> filesRead) {
   filesRead.push_back(filePath(options.graph));
   filesRead.push_back(options.report.plugInFile());
   OutputTargets targets(std::move(filesRead));
   for (const std::string& report : options.reports) targets.add("--report", report);
   if (options.journal) targets.add("--journal", *options.journal);
+  return targets;
 }
 
 ExitCode runGraph(const LoadedRun& loaded, const RunOptions& options, RunReports& reports) {

@@ -7,6 +7,7 @@
 
 #include "command_line/exit_code.h"
 #include "command_line/frame_options.h"
+#include "command_line/output_targets.h"
 #include "command_line/run_options.h"
 #include "command_line/run_reports.h"
 #include "execution/plug_in.h"
@@ -28,7 +29,8 @@ struct LoadedRun {
 LoadedRun loadRun(const RunOptions& options, const std::vector<std::string>& arguments);
 
 /// Whatever a run writes must leave what it reads as it is. Throws UsageError.
-void refuseTargets(const RunOptions& options, std::vector<std::filesystem::path> filesRead);
+OutputTargets refuseTargets(const RunOptions& options,
+                            std::vector<std::filesystem::path> filesRead);
 
 /// Runs a graph: prints what comes, keeps the journal and makes the reports of it. Says on standard
 /// error what went wrong with these. Throws UsageError for files that can't be written.

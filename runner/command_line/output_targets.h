@@ -1,8 +1,13 @@
 #pragma once
 
 #include <filesystem>
+#include <map>
 #include <string>
+#include <utility>
 #include <vector>
+
+#include "execution/frame_list.h"
+#include "saving/frame_file_name.h"
 
 namespace vtlcmd::runner {
 
@@ -25,9 +30,15 @@ class OutputTargets {
   /// the system's reason. Leaves the file system as it is.
   void add(const std::string& option, const std::string& target);
 
+  /// Takes in a target a frame, as `add` does. To be called when all single targets are added.
+  void addSeries(const std::string& option, const FrameFileName& target, const FrameList& frames);
+
  private:
   std::vector<std::filesystem::path> inputs_;
   std::vector<std::filesystem::path> targets_;
+  /// By `fileIdentity`, the series that a file belongs to, and its name.
+  std::map<std::filesystem::path, std::pair<std::size_t, std::string>> ofSeries_;
+  std::size_t series_ = 0;
   bool takesOutput_ = false;
 };
 

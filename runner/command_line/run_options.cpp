@@ -1,15 +1,15 @@
 #include "command_line/run_options.h"
 
 #include <CLI/App.hpp>
-#include <algorithm>
+#include <set>
 
 #include "command_line/job_frames.h"
 #include "command_line/option_values.h"
 #include "command_line/port_texts.h"
+#include "command_line/save_options.h"
 #include "command_line/usage_error.h"
 #include "graph/needed_nodes.h"
 #include "text/library_text.h"
-#include "text/near_misses.h"
 #include "text/path_text.h"
 
 namespace vtlcmd::runner {
@@ -54,6 +54,10 @@ void addRunOptions(CLI::App& command, RunOptions& options) {
   command.add_flag("--strict", options.strict, "Fail on a warning too");
   addList("--only", options.only, "Evaluate and report only this output and what it needs")
       ->type_name("OUTPUT");
+  addList("--save", options.saves,
+          "Save an output's values, arrays of numbers and vectors to a .npy file, meshes to a .ply "
+          "file; {frame} or {frame:04} in the name is the frame")
+      ->type_name("OUTPUT=FILE");
   addList("--report", options.reports,
           "Write a report of the run: a page for people to a file named *.html, else a JSON "
           "document; '-' is the standard output, and the text then goes to standard error")
@@ -89,15 +93,15 @@ PortTexts textsFrom(const RunOptions& options, const Graph& graph) {
 }
 
 void selectOutputs(const RunOptions& options, Graph& graph) {
-  std::vector<std::string> known;
-  for (const GraphOutput& output : graph.outputs) known.push_back(output.name);
-  for (const std::string& name : options.only) {
-    if (std::find(known.begin(), known.end(), name) == known.end()) {
-      throw UsageError("the graph " + inQuotes(graph.name) + " has no output " + inQuotes(name) +
-                       nearMissHint(name, known));
-    }
+  if (options.only.empty()) return;
+  const std::set<std::string> wanted(options.only.begin(), options.only.end());
+  for (const std::string& name : wanted) requireOutput(graph, name);
+  for (const std::string& assignment : options.saves) {
+    const std::string name = assignment.substr(0, assignment.find('='));
+    if (!wanted.contains(name))
+      throw UsageError("--only leaves out " + inQuotes(name) + ", which --save wants");
   }
-  if (!options.only.empty()) keepOutputs(graph, {options.only.begin(), options.only.end()});
+  keepOutputs(graph, wanted);
 }
 
 RunSettings settingsFrom(const RunOptions& options, const PortTexts& texts,

@@ -31,6 +31,7 @@ struct RunOptions {
   std::string secondary;
   bool strict = false;
   std::vector<std::string> only;
+  std::vector<std::string> saves;
   std::vector<std::string> reports;
   bool noTimes = false;
   std::optional<std::string> journal;
@@ -49,7 +50,7 @@ void addRunOptions(CLI::App& command, RunOptions& options);
 PortTexts textsFrom(const RunOptions& options, const Graph& graph);
 
 /// Leaves only the outputs in a graph that the options want. Throws UsageError for a name that is
-/// no output's.
+/// no output's, and for an output that is left out but to be saved.
 void selectOutputs(const RunOptions& options, Graph& graph);
 
 /// Throws UsageError.

@@ -12,11 +12,6 @@
 namespace vtlcmd::runner {
 namespace {
 
-bool mayPass(const std::system_error& error) {
-  return error.code() == std::errc::no_space_on_device ||
-         error.code() == std::errc::not_enough_memory;
-}
-
 std::string refusal(const std::string& target) {
   return "the report can't be written to " + target;
 }

@@ -3,8 +3,10 @@
 #include <exception>
 #include <new>
 #include <stdexcept>
+#include <system_error>
 
 #include "readers/read_error.h"
+#include "text/system_reason.h"
 
 namespace vtlcmd::runner {
 
@@ -18,6 +20,8 @@ CaughtFailure caughtFailure(const std::string& frame) {
     return {noMemory, Failure::permanent};
   } catch (const ReadError& error) {
     return {error.what(), error.isTransient() ? Failure::transient : Failure::permanent};
+  } catch (const std::system_error& error) {
+    return {error.what(), mayPass(error) ? Failure::transient : Failure::permanent};
   } catch (const std::exception& error) {
     return {error.what(), Failure::permanent};
   }

@@ -7,6 +7,7 @@
 #include "execution/caught_failure.h"
 #include "execution/message_distribution.h"
 #include "orvel_sdk/any_bridge.h"
+#include "platform/file_identity.h"
 #include "platform/interrupt.h"
 #include "text/library_text.h"
 #include "text/shortest_text.h"
@@ -82,7 +83,10 @@ FrameRecord Session::runFrame() {
     failure_ = result.failure;
     logger_.setExecuted(result.outputs.has_value());
     logger_.setInterrupted(!result.outputs && result.failure == Failure::none);
-    if (result.outputs) reportOutputs(*result.outputs, record);
+    if (result.outputs) {
+      reportOutputs(*result.outputs, record);
+      saveOutputs(*result.outputs);
+    }
   }
   logger_.setWithoutErrors(!hasMessageUpTo(levelError));
   record.failure = failureOfFrame();
@@ -150,9 +154,30 @@ void Session::reportOutputs(const std::vector<Orvel::Value>& values, FrameRecord
   logger_.setOutputsReported(complete);
 }
 
+void Session::saveOutputs(const std::vector<Orvel::Value>& values) {
+  for (const OutputSave& saving : settings_.saves) {
+    for (std::size_t i = 0; i < values.size(); ++i) {
+      if (graph_.outputs[i].name == saving.output) save(saving, values[i]);
+    }
+  }
+}
+
+void Session::save(const OutputSave& saving, const Orvel::Value& value) {
+  try {
+    throwIfAbandoned();
+    const std::string remark = saving.save(context_.frame, value, allFilesRead_);
+    if (!remark.empty()) logger_.addMessage(vtlcmdSource, levelWarning, remark);
+  } catch (const FrameAbandoned&) {
+    logger_.setInterrupted(true);
+  } catch (const std::exception&) {
+    noteFailure("Saving output port " + inQuotes(saving.output) + " failed: ");
+  }
+}
+
 void Session::noteRead(const std::filesystem::path& file) {
   const std::vector<std::filesystem::path>& known = settings_.filesRead;
-  if (std::find(known.begin(), known.end(), file) == known.end()) filesRead_.insert(file);
+  if (std::find(known.begin(), known.end(), file) != known.end()) return;
+  if (filesRead_.insert(file).second) allFilesRead_.insert(fileIdentity(file));
 }
 
 void Session::noteFailure(const std::string& what) {

@@ -19,6 +19,17 @@
 
 namespace vtlcmd::runner {
 
+/// Keeps an output's values elsewhere.
+struct OutputSave {
+  std::string output;
+  /// Takes the value of a frame and, by `fileIdentity`, the files read so far whose names weren't
+  /// known before the run. Gives what a user should know of it, empty for nothing. What it throws
+  /// fails the frame.
+  std::function<std::string(double frame, const Orvel::Value& value,
+                            const std::set<std::filesystem::path>& filesRead)>
+      save;
+};
+
 /// What a user asks of a run.
 struct RunSettings {
   std::filesystem::path graphFile;
@@ -42,6 +53,7 @@ struct RunSettings {
   bool strict = false;
   /// The records of frames have their messages and the outputs' exact values, for reports.
   bool recordFrames = false;
+  std::vector<OutputSave> saves;
 };
 
 /// Runs frames of a graph, in one group with one entry a frame.
@@ -67,6 +79,8 @@ class Session {
   std::optional<std::vector<Orvel::Value>> setInputs();
   std::optional<Orvel::Value> setInput(std::size_t index);
   void reportOutputs(const std::vector<Orvel::Value>& values, FrameRecord& record);
+  void saveOutputs(const std::vector<Orvel::Value>& values);
+  void save(const OutputSave& saving, const Orvel::Value& value);
   /// Tells of the exception that is being handled.
   void noteFailure(const std::string& what);
   void noteRead(const std::filesystem::path& file);
@@ -89,6 +103,8 @@ class Session {
   Failure failure_ = Failure::none;
   /// By the current frame, of those that weren't known before the run.
   std::set<std::filesystem::path> filesRead_;
+  /// The same by all frames so far, by `fileIdentity`.
+  std::set<std::filesystem::path> allFilesRead_;
 };
 
 }  // namespace vtlcmd::runner

@@ -10,4 +10,10 @@ inline std::string reasonOf(const std::system_error& error) {
   return error.code().default_error_condition().message();
 }
 
+/// Whether there may be room at another time.
+inline bool mayPass(const std::system_error& error) {
+  return error.code() == std::errc::no_space_on_device ||
+         error.code() == std::errc::not_enough_memory;
+}
+
 }  // namespace vtlcmd::runner

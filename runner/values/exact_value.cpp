@@ -1,13 +1,11 @@
 #include "values/exact_value.h"
 
-#include <optional>
-#include <vector>
-
 #include "host/imports/vantrel_geometry.h"
 #include "host/value_types.h"
 #include "output/statistics/summary.h"
 #include "text/json_writer.h"
 #include "text/library_text.h"
+#include "values/level_sizes.h"
 #include "values/library_array.h"
 #include "values/type_dispatch.h"
 
@@ -54,30 +52,10 @@ void writeArrayFacts(JsonWriter& json, const Orvel::Array<T>& array) {
   if constexpr (valueType<T>().arrayClass == ArrayClass::summarised) writeStatistics(json, array);
 }
 
-/// What is known of the sizes at one level of a nested array.
-struct LevelSize {
-  std::optional<std::uint64_t> size;
-  bool isRagged = false;
-
-  void add(std::uint64_t other) {
-    if (!size) size = other;
-    isRagged |= *size != other;
-  }
-};
-
-void addSizes(std::vector<LevelSize>& levels, std::size_t level, const Orvel::Value& value) {
-  Orvel::ArrayValue array(value);
-  levels[level].add(array.size());
-  if (level + 1 == levels.size()) return;
-  for (std::uint64_t i = 0; i < array.size(); ++i) addSizes(levels, level + 1, array.getElement(i));
-}
-
 void writeNestedArray(JsonWriter& json, std::uint32_t depth, const Orvel::Value& value) {
-  std::vector<LevelSize> levels(depth);
-  addSizes(levels, 0, value);
   json.key("sizes");
   json.open('[');
-  for (const LevelSize& level : levels)
+  for (const LevelSize& level : levelSizes(value, depth))
     level.size && !level.isRagged ? json.number(*level.size) : json.null();
   json.close(']');
 }

@@ -52,6 +52,8 @@ with tempfile.TemporaryDirectory() as name:
     expect("a report onto what the run reads", run(graph, "--report", array),
            (1, f"vtlcmd: the report can't be written to {array}: the run has read it\n"
                f"vtlcmd: the frames that ran are in {journal}\n"))
+    expect("saving onto what the run reads", run(graph, "-q", "--save", f"array={array}"),
+           (1, f"[vtlcmd]  Error:    Saving output port 'array' failed: {array}: the run has read this file\n"))
     expect("the file is as it was", array.read_bytes(), content)
     expect("the journal is there", journal.exists(), True)
 

@@ -43,6 +43,12 @@ with tempfile.TemporaryDirectory() as name:
            outcome("run", "examples/animated.json", "--report", "/dev/full"),
            (75, "vtlcmd: the report can't be written to /dev/full: No space left on device\n"))
 
+    (folder / "full.npy").symlink_to("/dev/full")
+    expect("a saved array where no room is",
+           outcome("run", "examples/scatter.json", "--save", f"points={folder}/full.npy"),
+           (75, f"[vtlcmd]  Error:    Saving output port 'points' failed: {folder}/full.npy: "
+                "No space left on device\n"))
+
     def limit():
         resource.setrlimit(resource.RLIMIT_FSIZE, (100_000, 100_000))
 

@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include "command_line/option_values.h"
 #include "command_line/usage_error.h"
 #include "runner/support/temporary_folder.h"
 #include "text/path_text.h"
@@ -19,13 +20,32 @@ class OutputTargetsTest : public testing::Test {
     try {
       for (const fs::path& target : targets) outputs.add("--report", fileText(target));
     } catch (const UsageError& error) {
-      std::string text = error.what();
-      const std::string folder = fileText(folder_ / "");
-      for (std::size_t at = 0; (at = text.find(folder)) != std::string::npos;)
-        text.erase(at, folder.size());
-      return text;
+      return withoutFolder(error.what());
     }
     return "accepted";
+  }
+
+  /// What is said of series of targets for some frames, after single ones.
+  std::string refusalOfSeries(const std::vector<std::string>& series, const std::string& frames,
+                              const std::vector<fs::path>& inputs = {},
+                              const std::string& target = "-") {
+    OutputTargets outputs(inputs);
+    try {
+      outputs.add("--report", target);
+      for (const std::string& name : series) {
+        outputs.addSeries("--save", FrameFileName(fileText(folder_ / name)), parseFrames(frames));
+      }
+    } catch (const UsageError& error) {
+      return withoutFolder(error.what());
+    }
+    return "accepted";
+  }
+
+  std::string withoutFolder(std::string text) const {
+    const std::string folder = fileText(folder_ / "");
+    for (std::size_t at = 0; (at = text.find(folder)) != std::string::npos;)
+      text.erase(at, folder.size());
+    return text;
   }
 
   TemporaryFolder folder_;
@@ -98,6 +118,39 @@ TEST_F(OutputTargetsTest, LinksThatLeadNowhereAreRefused) {
             "--report: 'dangling.json' can't be written: No such file or directory");
   EXPECT_EQ(refusalOf({}, {folder_ / "loop.json"}),
             "--report: 'loop.json' can't be written: Too many levels of symbolic links");
+}
+
+TEST_F(OutputTargetsTest, ASeriesIsAFileAFrame) {
+  folder_.file("a.2.npy", "old");
+  EXPECT_EQ(refusalOfSeries({"a.{frame}.npy", "b.{frame}.npy"}, "1-3"), "accepted");
+  // A frame that runs twice writes its file twice.
+  EXPECT_EQ(refusalOfSeries({"a.{frame}.npy"}, "1,2,1"), "accepted");
+  EXPECT_EQ(folder_.fileCount(), 1U);
+}
+
+TEST_F(OutputTargetsTest, NoFileIsOfTwoSeries) {
+  EXPECT_EQ(refusalOfSeries({"{frame}1", "1{frame}"}, "2-10"), "accepted");
+  EXPECT_EQ(refusalOfSeries({"{frame}1", "1{frame}"}, "2-11"),
+            "--save: '111' would be written twice");
+  EXPECT_EQ(refusalOfSeries({"a", "./a"}, "1"), "--save: './a' would be written twice");
+  EXPECT_EQ(refusalOfSeries({"a{frame}"}, "1-3", {}, fileText(folder_ / "a3")),
+            "--save: 'a3' would be written twice");
+  folder_.file("2");
+  if (!makeLink("2", folder_ / "1")) return;
+  EXPECT_EQ(refusalOfSeries({"{frame}"}, "1-2"), "--save: '2' would be written twice");
+}
+
+TEST_F(OutputTargetsTest, EachFileOfASeriesIsLookedAt) {
+  const fs::path input = folder_.file("2");
+  EXPECT_EQ(refusalOfSeries({"{frame}"}, "1-3", {input}),
+            "--save: '2' is a file that this command reads");
+  fs::create_hard_link(input, folder_ / "3");
+  EXPECT_EQ(refusalOfSeries({"{frame}"}, "3", {input}),
+            "--save: '3' is a file that this command reads");
+  fs::create_directory(folder_ / "4");
+  EXPECT_EQ(refusalOfSeries({"{frame}"}, "1-4"), "--save: '4' can't be written: Is a directory");
+  EXPECT_EQ(refusalOfSeries({"{frame}/x"}, "4-5"),
+            "--save: '5/x' can't be written: No such file or directory");
 }
 
 }  // namespace
