@@ -70,7 +70,7 @@ class RecordedRun {
 
   void writeReports() {
     try {
-      reports_.write({journal_.file().lines(), fileText(journal_.file().path())});
+      reports_.write(Journals(journal_.file().lines(), fileText(journal_.file().path())));
     } catch (const OutputError& error) {
       note(error);
     }
@@ -144,7 +144,7 @@ void reportLoadFailure(const std::string& graph, const std::vector<std::string>&
   journal.end({"not loaded",
                static_cast<int>(ExitCode::notLoaded),
                {{vtlcmdSource, {{levelCritical, {text}}}}}});
-  reports.write({journal.file().lines(), "the journal"});
+  reports.write(Journals(journal.file().lines(), "the journal"));
   journal.file().remove();
 }
 }  // namespace vtlcmd::runner

@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "command_line/usage_error.h"
+#include "execution/frame_list_text.h"
 #include "logging/vtlcmd_logger.h"
 #include "text/library_text.h"
 #include "text/near_misses.h"
@@ -27,6 +28,14 @@ std::optional<T> numberIn(const std::string& text) {
 }
 
 }  // namespace
+
+FrameList parseFrames(const std::string& text) {
+  try {
+    return parseFrameList(text);
+  } catch (const FrameListError& error) {
+    throw UsageError(error.what());
+  }
+}
 
 double parseFramesPerSecond(const std::string& text) {
   const std::size_t slash = std::min(text.find('/'), text.size());

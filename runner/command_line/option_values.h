@@ -8,8 +8,7 @@
 
 namespace vtlcmd::runner {
 
-/// Frame numbers from a list like `1`, `1-10`, `10-1`, `1-10x2`, `1-10:2` or `1,5,7-9x0.5`, in the
-/// order given. Numbers may be negative or have a fraction. Throws UsageError.
+/// A list as `parseFrameList` takes it. Throws UsageError.
 FrameList parseFrames(const std::string& text);
 
 /// Frames a second: a number like `24`, or a quotient of two like `24000/1001`, that a double holds

@@ -1,14 +1,15 @@
 #include <CLI/App.hpp>
-#include <cerrno>
 #include <filesystem>
-#include <fstream>
 #include <iostream>
 #include <memory>
+#include <string>
 #include <system_error>
+#include <vector>
 
 #include "command_line/commands.h"
 #include "command_line/output_targets.h"
 #include "command_line/run_reports.h"
+#include "command_line/usage_error.h"
 #include "journal/journal_reader.h"
 #include "report/run_report.h"
 #include "text/path_text.h"
@@ -18,62 +19,68 @@ namespace {
 
 constexpr const char* footer = R"(Examples:
   vtlcmd report run.journal -o run.html
+  vtlcmd report part*.journal -o job.html
   vtlcmd report run.journal -o - | jq .totals
 
 The exit code is 1 when frames of the run are missing.
 )";
 
 struct ReportCommandOptions {
-  std::string journal;
+  std::vector<std::string> journals;
   std::string output;
   /// Empty: by the output's name.
   std::string format;
   bool noTimes = false;
 };
 
-std::ifstream openJournal(const std::string& journal) {
-  const std::filesystem::path file = filePath(journal);
-  std::error_code ignored;
-  const std::filesystem::file_status status = std::filesystem::status(file, ignored);
-  if (exists(status) && !is_regular_file(status))
-    throw JournalError(journal + " is no journal of a run");
-  errno = 0;
-  std::ifstream stream(file, std::ios::binary);
-  if (!stream) throw JournalError(journal + ": " + std::generic_category().message(errno));
-  return stream;
+ReportFormat formatOf(const ReportCommandOptions& options) {
+  if (options.format == "json") return ReportFormat::json;
+  if (options.format == "html") return ReportFormat::html;
+  return reportFormatOf(filePath(options.output));
 }
 
-ReportForm formOf(const ReportCommandOptions& options) {
-  ReportForm form{reportFormatOf(filePath(options.output)), !options.noTimes};
-  if (options.format == "json") form.format = ReportFormat::json;
-  if (options.format == "html") form.format = ReportFormat::html;
-  return form;
-}
-
-void write(const ReportCommandOptions& options, const JournalSource& source) {
+void write(const ReportCommandOptions& options, Journals& journals, const JournalSurvey& survey) {
+  const ReportFormat format = formatOf(options);
   if (options.output == OutputTargets::standardOutput)
-    return writeReport(std::cout, source, formOf(options));
+    return writeReport(std::cout, journals, survey, format);
   try {
-    writeReportFile(filePath(options.output), source, formOf(options));
+    writeReportFile(filePath(options.output), journals, survey, format);
   } catch (const std::system_error& error) {
     throw OutputError("the report can't be written to " + options.output, error);
   }
 }
 
-ExitCode report(const ReportCommandOptions& options) {
-  OutputTargets({filePath(options.journal)}).add("-o", options.output);
-  std::ifstream stream = openJournal(options.journal);
-  const JournalSource source{stream, options.journal};
-  const JournalSurvey survey = surveyJournal(source);
+JournalSurvey survey(Journals& journals) {
   try {
-    write(options, source);
+    return surveyJournals(journals);
+  } catch (const ForeignJournal& error) {
+    throw UsageError(error.what());
+  }
+}
+
+/// So many ranges at most, that the line can be read.
+std::string shortened(const std::string& frames) {
+  constexpr std::size_t mostLength = 60;
+  if (frames.size() <= mostLength) return frames;
+  return frames.substr(0, frames.rfind(',', mostLength)) + ",...";
+}
+
+ExitCode report(const ReportCommandOptions& options) {
+  std::vector<std::filesystem::path> files;
+  for (const std::string& journal : options.journals) files.push_back(filePath(journal));
+  OutputTargets(std::move(files)).add("-o", options.output);
+  Journals journals(options.journals);
+  JournalSurvey survey = vtlcmd::runner::survey(journals);
+  if (options.noTimes) dropTimes(survey);
+  try {
+    write(options, journals, survey);
   } catch (const OutputError& error) {
     std::cerr << "vtlcmd: " << error.what() << '\n';
     return error.isTransient() ? ExitCode::tryAgain : ExitCode::runFailed;
   }
   if (survey.missing() == 0) return ExitCode::success;
-  std::cerr << "vtlcmd: " << options.journal << ": " << survey.missing() << " of "
-            << survey.frameCount() << " frames are missing\n";
+  std::cerr << "vtlcmd: " << survey.missing() << " of " << survey.frameCount()
+            << " frames are missing: " << shortened(survey.missingFrames()) << '\n';
   return ExitCode::runFailed;
 }
 
@@ -82,7 +89,9 @@ ExitCode report(const ReportCommandOptions& options) {
 void addReportCommand(CLI::App& app, CommandState& state) {
   const auto options = std::make_shared<ReportCommandOptions>();
   CLI::App* command = app.add_subcommand("report", "Make a report of a run from its journal");
-  command->add_option("JOURNAL", options->journal, "Journal that 'vtlcmd run' kept")
+  command
+      ->add_option("JOURNAL", options->journals,
+                   "Journals that 'vtlcmd run' kept: of one run, or of parts of one job")
       ->required()
       ->type_name("");
   command

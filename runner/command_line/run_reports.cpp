@@ -50,11 +50,14 @@ void RunReports::keep(const std::filesystem::path& file) {
   }
 }
 
-void RunReports::write(const JournalSource& source) const {
+void RunReports::write(Journals journal) const {
+  if (empty()) return;
+  JournalSurvey survey = surveyJournals(journal);
+  if (!withTimes_) dropTimes(survey);
   std::optional<OutputError> failure;
   for (const std::string& target : targets_) {
     try {
-      write(target, source);
+      write(target, journal, survey);
     } catch (const std::system_error& error) {
       if (!failure) failure.emplace(refusal(target), error);
     } catch (const OutputError& error) {
@@ -64,13 +67,14 @@ void RunReports::write(const JournalSource& source) const {
   if (failure) throw OutputError(*failure);
 }
 
-void RunReports::write(const std::string& target, const JournalSource& source) const {
+void RunReports::write(const std::string& target, Journals& journal,
+                       const JournalSurvey& survey) const {
   // Of the standard output the program itself takes care at its end.
   if (target == OutputTargets::standardOutput)
-    return writeReport(std::cout, source, {ReportFormat::json, withTimes_});
+    return writeReport(std::cout, journal, survey, ReportFormat::json);
   if (kept_.contains(target)) throw OutputError(refusal(target) + ": the run has read it");
   const std::filesystem::path path = filePath(target);
-  writeReportFile(path, source, {reportFormatOf(path), withTimes_});
+  writeReportFile(path, journal, survey, reportFormatOf(path));
 }
 
 }  // namespace vtlcmd::runner

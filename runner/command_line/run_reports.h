@@ -50,10 +50,10 @@ class RunReports {
 
   /// Writes all of them. When one can't be written the others are all the same, then throws
   /// OutputError.
-  void write(const JournalSource& source) const;
+  void write(Journals journal) const;
 
  private:
-  void write(const std::string& target, const JournalSource& source) const;
+  void write(const std::string& target, Journals& journal, const JournalSurvey& survey) const;
 
   std::vector<std::string> targets_;
   /// Of the targets, those that the run has read.

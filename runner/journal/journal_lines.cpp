@@ -28,9 +28,6 @@ std::string checksumOf(std::string_view bytes) {
   return digits;
 }
 
-/// By Failure.
-constexpr std::array<std::string_view, 3> failureNames{"none", "transient", "permanent"};
-
 void writeOutputs(JsonWriter& json, const FrameRecord& record) {
   json.open('{');
   for (const auto& [name, output] : record.entry.outputs) {

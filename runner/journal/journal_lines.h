@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -28,6 +29,9 @@ inline constexpr std::string_view start = "start";
 inline constexpr std::string_view frame = "frame";
 inline constexpr std::string_view end = "end";
 }  // namespace line_kinds
+
+/// By Failure, what a frame's line calls it.
+inline constexpr std::array<std::string_view, 3> failureNames{"none", "transient", "permanent"};
 
 /// A line taken apart; `content` and `times` are JSON objects.
 struct JournalLine {

@@ -24,6 +24,8 @@ bool JournalReader::next() {
   if (stream_.bad()) throw JournalError(name_ + " can't be read to its end");
   if (!isWhole) return false;
   ++number_;
+  offset_ = nextOffset_;
+  nextOffset_ += text_.size() + 1;
   const std::optional<JournalLine> line = parseJournalText(text_);
   if (!line) fail();
   line_ = *line;

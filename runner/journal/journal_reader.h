@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <iosfwd>
 #include <nlohmann/json.hpp>
 #include <string>
@@ -32,6 +33,9 @@ class JournalReader {
   const JournalLine& line() const noexcept { return line_; }
   nlohmann::ordered_json parse(std::string_view object) const;
 
+  /// The place of the current line's first byte in the stream.
+  std::uint64_t offset() const noexcept { return offset_; }
+
   /// Throws JournalError about the current line.
   [[noreturn]] void fail() const;
 
@@ -40,6 +44,8 @@ class JournalReader {
   std::string name_;
   std::string text_;
   std::size_t number_ = 0;
+  std::uint64_t offset_ = 0;
+  std::uint64_t nextOffset_ = 0;
   JournalLine line_;
 };
 

@@ -1,12 +1,11 @@
 #include "report/html_report.h"
 
 #include <algorithm>
-#include <charconv>
 #include <ostream>
 #include <vector>
 
-#include "journal/journal_reader.h"
 #include "report/duration_timeline.h"
+#include "report/frame_reader.h"
 #include "report/html_text.h"
 #include "report/message_list.h"
 #include "report/output_section.h"
@@ -21,18 +20,10 @@ using Json = nlohmann::ordered_json;
 /// For report texts, in bytes, so that a page stays one that a browser opens at once.
 constexpr std::size_t roomForTexts = 1'500'000;
 
-/// The frame's number; of texts that are none, its place.
-double frameNumber(const Json& frame) {
-  double number = frame.at("index");
-  const auto& text = frame.at("frame").get_ref<const std::string&>();
-  std::from_chars(text.data(), text.data() + text.size(), number);
-  return number;
-}
-
 /// What a page tells of frames, read in one go.
 class FrameSections {
  public:
-  FrameSections(const JournalSource& source, const JournalSurvey& survey)
+  FrameSections(Journals& journals, const JournalSurvey& survey)
       : withTimes_(!survey.runTimes.is_null()),
         timeline_(survey.frameCount(), withTimes_ ? survey.runTimes.value("host", "") : "") {
     const Json outputs = survey.run.value("outputs", Json::array());
@@ -40,11 +31,11 @@ class FrameSections {
     for (const Json& output : outputs)
       outputs_.emplace_back(output.at("name"), output.at("type"), survey.frameCount(), room);
     if (!survey.end.is_null()) messages_.addOfRun(survey.end.at("messages"));
-    for (JournalReader reader(source.lines, source.name); reader.next();) {
-      if (reader.line().kind != line_kinds::frame) continue;
+    for (FrameReader reader(journals, survey); reader.next();) {
       const Json content = reader.parse(reader.line().content);
-      const Json times = withTimes_ ? reader.parse(reader.line().times) : Json();
-      add({content.at("index"), content.at("frame"), frameNumber(content), content, times});
+      Json times = withTimes_ ? reader.parse(reader.line().times) : Json();
+      if (withTimes_) times["host"] = reader.run().host();
+      add({reader.place(), content.at("frame"), reader.number(), content, times});
     }
   }
 
@@ -77,9 +68,8 @@ class FrameSections {
 
 }  // namespace
 
-void writeHtmlReport(std::ostream& stream, const JournalSource& source,
-                     const JournalSurvey& survey) {
-  const FrameSections sections(source, survey);
+void writeHtmlReport(std::ostream& stream, Journals& journals, const JournalSurvey& survey) {
+  const FrameSections sections(journals, survey);
   // Nothing may be loaded or run, whatever a text holds.
   stream << "<!DOCTYPE html>\n<html lang='en'>\n<head>\n<meta charset='utf-8'>\n"
             "<meta http-equiv='Content-Security-Policy' content=\"default-src 'none'; "

@@ -6,9 +6,8 @@
 
 namespace vtlcmd::runner {
 
-/// Writes the report of a journal as a page for people, which needs no other file. Throws
+/// Writes the report of journals as a page for people, which needs no other file. Throws
 /// JournalError.
-void writeHtmlReport(std::ostream& stream, const JournalSource& source,
-                     const JournalSurvey& survey);
+void writeHtmlReport(std::ostream& stream, Journals& journals, const JournalSurvey& survey);
 
 }  // namespace vtlcmd::runner

@@ -1,71 +1,91 @@
 #include "report/journal_survey.h"
 
+#include <utility>
+
+#include "execution/frame_list_text.h"
 #include "journal/journal_reader.h"
+#include "report/job_end.h"
 
 namespace vtlcmd::runner {
 namespace {
 
 using Json = nlohmann::ordered_json;
 
-void countProblems(std::map<std::string, std::uint64_t>& problems, const Json& messages) {
+/// The line's content, in which the report of a part of a job is one of the job.
+Json firstRun(Journals& journals, const ReportedRun& first, const Job& job) {
+  std::string text;
+  journals.readLine(first.journal, first.offset, text);
+  const std::optional<JournalLine> line = parseJournalText(text);
+  if (!line) throw JournalError(journals.name(first.journal) + " changed while it was read");
+  Json run = Json::parse(line->content);
+  if (run.at("loaded")) {
+    run["frames"] = job.framesText();
+    run["frame_count"] = job.size();
+  }
+  run.erase("job_frames");
+  run.erase("job_frame_count");
+  return run;
+}
+
+void count(JournalSurvey& survey, const FrameEntry& entry) {
+  if (entry.isThere == 0) return;
+  ++survey.frames;
+  if (!entry.succeeded()) ++survey.failed;
+  survey.graphErrors += entry.graphErrors;
+  survey.graphWarnings += entry.graphWarnings;
+  for (std::size_t level = 0; level < problemLevels.size(); ++level) {
+    if (entry.problems[level] > 0)
+      survey.problems[std::string(problemLevels[level])] += entry.problems[level];
+  }
+}
+
+void countMessages(JournalSurvey& survey, const Json& messages) {
   for (const auto& [source, levels] : messages.items()) {
-    for (const char* level : {"critical", "error", "warning"}) {
-      if (levels.contains(level)) problems[level] += levels[level].size();
+    for (const std::string_view name : problemLevels) {
+      const std::string level(name);
+      if (levels.contains(level)) survey.problems[level] += levels[level].size();
     }
   }
 }
 
-void addFrame(JournalSurvey& survey, const Json& frame) {
-  ++survey.frames;
-  if (!frame.at("succeeded").get<bool>()) ++survey.failed;
-  survey.graphErrors += frame.at("graph_errors").get<std::uint64_t>();
-  survey.graphWarnings += frame.at("graph_warnings").get<std::uint64_t>();
-  countProblems(survey.problems, frame.at("messages"));
-}
-
-/// The report of a part of a job is one of the job.
-void describeJob(Json& run) {
-  for (const std::string name : {"frames", "frame_count"}) {
-    const auto ofJob = run.find("job_" + name);
-    if (ofJob == run.end()) continue;
-    run[name] = *ofJob;
-    run.erase("job_" + name);
-  }
+JournalSurvey survey(Journals& journals) {
+  ReportedRuns reported = readRuns(journals);
+  JournalSurvey survey;
+  survey.runs = std::move(reported.runs);
+  survey.job = Job(std::move(reported.jobTexts));
+  survey.entries = readEntries(journals, survey.runs, survey.job);
+  const ReportedRun& first = survey.runs.front();
+  survey.run = firstRun(journals, first, survey.job);
+  survey.runTimes = Json::parse(first.times);
+  if (!first.endTimes.empty()) survey.endTimes = Json::parse(first.endTimes);
+  survey.end = endOfJob(survey.runs, survey.entries);
+  for (const FrameEntry& entry : survey.entries) count(survey, entry);
+  if (!survey.end.is_null()) countMessages(survey, survey.end.at("messages"));
+  return survey;
 }
 
 }  // namespace
 
-std::uint64_t JournalSurvey::frameCount() const { return run.at("frame_count"); }
+std::string JournalSurvey::missingFrames() const {
+  std::vector<double> numbers;
+  for (std::size_t place = 0; place < job.size(); ++place) {
+    if (entries[job.indexAt(place)].isThere == 0) numbers.push_back(job.frameAt(place));
+  }
+  return frameListText(numbers);
+}
 
 std::string JournalSurvey::outcome() const {
   return end.is_null() ? "cut off" : end.at("outcome").get<std::string>();
 }
 
-JournalSurvey surveyJournal(const JournalSource& source) {
-  JournalReader reader(source.lines, source.name);
-  JournalSurvey survey;
-  if (!reader.next()) throw JournalError(source.name + " holds no run: it ends in its first line");
-  if (reader.line().kind != line_kinds::run) reader.fail();
-  survey.run = reader.parse(reader.line().content);
-  describeJob(survey.run);
-  survey.runTimes = reader.parse(reader.line().times);
-  if (survey.run.value("form", 0) != journalForm)
-    throw JournalError(source.name + " has a form that this program doesn't know");
-  while (reader.next()) {
-    try {
-      const std::string_view kind = reader.line().kind;
-      if (kind == line_kinds::frame) {
-        addFrame(survey, reader.parse(reader.line().content));
-      } else if (kind == line_kinds::end) {
-        survey.end = reader.parse(reader.line().content);
-        survey.endTimes = reader.parse(reader.line().times);
-        countProblems(survey.problems, survey.end.at("messages"));
-      }
-    } catch (const Json::exception&) {
-      reader.fail();
-    }
+JournalSurvey surveyJournals(Journals& journals) {
+  try {
+    return survey(journals);
+  } catch (const Json::exception&) {
+    throw JournalError(journals.name(0) + " lacks something that journals have");
+  } catch (const FrameListError& error) {
+    throw JournalError(journals.name(0) + ": " + error.what());
   }
-  return survey;
 }
 
 }  // namespace vtlcmd::runner

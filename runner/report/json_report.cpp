@@ -3,7 +3,7 @@
 #include <ostream>
 #include <utility>
 
-#include "journal/journal_reader.h"
+#include "report/frame_reader.h"
 #include "text/json_text.h"
 
 namespace vtlcmd::runner {
@@ -29,36 +29,62 @@ Json headOf(const JournalSurvey& survey) {
             {"missing", survey.missing()},
             {"graph_errors", survey.graphErrors},
             {"graph_warnings", survey.graphWarnings}}},
+          {"missing_frames", survey.missingFrames()},
           {"messages", hasEnd ? end.at("messages") : Json::object()}};
 }
 
-/// A list of one part of each frame's line, as it stands in the journal.
-void writeFrames(std::ostream& stream, const JournalSource& source,
-                 std::string_view JournalLine::*part) {
+/// Without its closing bracket.
+std::string opened(std::string object, std::string_view ending) {
+  object.resize(object.size() - ending.size());
+  return object;
+}
+
+Json timesOf(const ReportedRun& run) {
+  Json times = Json::parse(run.times);
+  times["ended"] = run.endTimes.empty() ? Json(nullptr) : Json::parse(run.endTimes).at("ended");
+  return times;
+}
+
+void writeRuns(std::ostream& stream, const std::vector<ReportedRun>& runs) {
   const char* separator = "\n    ";
-  stream << '[';
-  for (JournalReader reader(source.lines, source.name); reader.next();) {
-    if (reader.line().kind != line_kinds::frame) continue;
-    stream << separator << reader.line().*part;
+  for (std::size_t i = 0; i < runs.size(); ++i) {
+    // Of copies the first one tells most.
+    if (i > 0 && runs[i].number == runs[i - 1].number) continue;
+    stream << separator << jsonText(timesOf(runs[i]));
     separator = ",\n    ";
   }
-  stream << "\n  ]";
+}
+
+/// The frames' lines as they stand in the journals.
+void writeFrames(std::ostream& stream, Journals& journals, const JournalSurvey& survey) {
+  const char* separator = "\n    ";
+  for (FrameReader reader(journals, survey); reader.next();) {
+    stream << separator << reader.line().content;
+    separator = ",\n    ";
+  }
+}
+
+void writeFrameTimes(std::ostream& stream, Journals& journals, const JournalSurvey& survey) {
+  const char* separator = "\n    ";
+  for (FrameReader reader(journals, survey); reader.next();) {
+    stream << separator << "{\"run\":" << reader.run().number << ','
+           << reader.line().times.substr(1);
+    separator = ",\n    ";
+  }
 }
 
 }  // namespace
 
-void writeJsonReport(std::ostream& stream, const JournalSource& source,
-                     const JournalSurvey& survey) {
-  std::string head = jsonText(headOf(survey), 2);
-  // Open again for what follows.
-  head.resize(head.size() - std::string_view("\n}").size());
-  stream << head << ",\n  \"frames\": ";
-  writeFrames(stream, source, &JournalLine::content);
+void writeJsonReport(std::ostream& stream, Journals& journals, const JournalSurvey& survey) {
+  stream << opened(jsonText(headOf(survey), 2), "\n}") << ",\n  \"frames\": [";
+  writeFrames(stream, journals, survey);
+  stream << "\n  ]";
   if (!survey.runTimes.is_null()) {
-    stream << ",\n  \"times\": {\"run\": " << jsonText(survey.runTimes)
-           << ", \"end\": " << jsonText(survey.endTimes) << ", \"frames\": ";
-    writeFrames(stream, source, &JournalLine::times);
-    stream << "}";
+    stream << ",\n  \"times\": {\"runs\": [";
+    writeRuns(stream, survey.runs);
+    stream << "\n  ], \"frames\": [";
+    writeFrameTimes(stream, journals, survey);
+    stream << "\n  ]}";
   }
   stream << "\n}\n";
 }

@@ -6,9 +6,8 @@
 
 namespace vtlcmd::runner {
 
-/// Writes the report of a journal as one JSON document, a line a frame. The block "times" is left
+/// Writes the report of journals as one JSON document, a line a frame. The block "times" is left
 /// out when the survey has none. Throws JournalError.
-void writeJsonReport(std::ostream& stream, const JournalSource& source,
-                     const JournalSurvey& survey);
+void writeJsonReport(std::ostream& stream, Journals& journals, const JournalSurvey& survey);
 
 }  // namespace vtlcmd::runner

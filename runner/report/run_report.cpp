@@ -12,22 +12,23 @@ ReportFormat reportFormatOf(const std::filesystem::path& file) {
   return extension == ".html" || extension == ".htm" ? ReportFormat::html : ReportFormat::json;
 }
 
-void writeReport(std::ostream& stream, const JournalSource& source, const ReportForm& form) {
+void writeReport(std::ostream& stream, Journals& journals, const JournalSurvey& survey,
+                 ReportFormat format) {
   try {
-    JournalSurvey survey = surveyJournal(source);
-    if (!form.withTimes) survey.runTimes = survey.endTimes = nullptr;
-    (form.format == ReportFormat::html ? writeHtmlReport : writeJsonReport)(stream, source, survey);
+    (format == ReportFormat::html ? writeHtmlReport : writeJsonReport)(stream, journals, survey);
   } catch (const nlohmann::json::exception&) {
-    throw JournalError(source.name + " lacks something that journals have");
+    throw JournalError(journals.name(0) + " lacks something that journals have");
   }
 }
 
-void writeReportFile(const std::filesystem::path& file, const JournalSource& source,
-                     const ReportForm& form) {
+void writeReportFile(const std::filesystem::path& file, Journals& journals,
+                     const JournalSurvey& survey, ReportFormat format) {
   WholeFile::removeLeftovers(file);
   WholeFile whole(file);
-  writeReport(whole.stream(), source, form);
+  writeReport(whole.stream(), journals, survey, format);
   whole.commit();
 }
+
+void dropTimes(JournalSurvey& survey) { survey.runTimes = survey.endTimes = nullptr; }
 
 }  // namespace vtlcmd::runner

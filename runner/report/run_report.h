@@ -12,18 +12,17 @@ enum class ReportFormat { json, html };
 /// A page for people in files named *.html and *.htm, else a document for scripts.
 ReportFormat reportFormatOf(const std::filesystem::path& file);
 
-struct ReportForm {
-  ReportFormat format = ReportFormat::json;
-  /// With what another run of the same would tell differently: times, arguments, machine.
-  bool withTimes = true;
-};
-
-/// Writes the report that a journal gives, in memory that doesn't grow with the frames. Throws
-/// JournalError, before anything is written.
-void writeReport(std::ostream& stream, const JournalSource& source, const ReportForm& form);
+/// Writes the report that journals give; the survey is theirs. Takes no memory that grows with the
+/// frames. Throws JournalError.
+void writeReport(std::ostream& stream, Journals& journals, const JournalSurvey& survey,
+                 ReportFormat format);
 
 /// Writes it to a file that appears whole or not at all. Throws std::system_error too.
-void writeReportFile(const std::filesystem::path& file, const JournalSource& source,
-                     const ReportForm& form);
+void writeReportFile(const std::filesystem::path& file, Journals& journals,
+                     const JournalSurvey& survey, ReportFormat format);
+
+/// Takes out of a survey what another run of the same would tell differently: times, arguments,
+/// machine.
+void dropTimes(JournalSurvey& survey);
 
 }  // namespace vtlcmd::runner

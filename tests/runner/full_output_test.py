@@ -35,7 +35,7 @@ with open("/dev/full", "wb") as full:
     # A run of so many frames would take minutes: it ends at the next frame.
     expect("run", outcome(*MANY_FRAMES, stdout=full), FULL)
     expect("report", outcome("report", "tests/runner/data/cut_off.journal", "-o", "-", stdout=full),
-           (1, "vtlcmd: tests/runner/data/cut_off.journal: 1 of 3 frames are missing\n" + FULL[1]))
+           (1, "vtlcmd: 1 of 3 frames are missing: 3\n" + FULL[1]))
 
 with tempfile.TemporaryDirectory() as name:
     folder = pathlib.Path(name)

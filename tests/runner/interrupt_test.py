@@ -211,7 +211,7 @@ def kill_at(folder, lines):
             f"{report_file}' makes a report of it, --restart begins it anew", 2))
     made = start("report", journal, "-o", report_file)
     expect("killed: frames are missing", (made.communicate()[1], made.returncode),
-           (f"vtlcmd: {journal}: {FRAMES - kept} of {FRAMES} frames are missing\n", 1))
+           (f"vtlcmd: {FRAMES - kept} of {FRAMES} frames are missing: {kept + 1}-{FRAMES}\n", 1))
     report = json.loads(report_file.read_text())
     expect("killed: the report", (report["outcome"], len(report["frames"])), ("cut off", kept))
     restarted = start("run", "examples/animated.json", "--report", report_file, "--restart")

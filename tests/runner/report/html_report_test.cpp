@@ -54,7 +54,10 @@ std::string endLine(const std::string& outcome, const std::string& messages) {
 std::string pageOf(const std::string& journal, bool withTimes = true) {
   std::istringstream lines(journal);
   std::ostringstream page;
-  writeReport(page, {lines, "J"}, {ReportFormat::html, withTimes});
+  Journals journals(lines, "J");
+  JournalSurvey survey = surveyJournals(journals);
+  if (!withTimes) dropTimes(survey);
+  writeReport(page, journals, survey, ReportFormat::html);
   return page.str();
 }
 
@@ -153,7 +156,8 @@ TEST(HtmlReport, AGraphThatCouldNotBeLoadedSaysWhy) {
       pageOf(journalText({line_kinds::run,
                           R"({"form":1,"program":"1","graph":"bad.json",)"
                           R"("graph_file":"bad.json","loaded":false,"frame_count":0})",
-                          "{}"}) +
+                          R"({"arguments":[],"host":"h","process":1,"attempt":1,)"
+                          R"("started":"then"})"}) +
              endLine("not loaded", R"({"vtlcmd":{"critical":["no graph"]}})"));
   EXPECT_THAT(page, HasSubstr("<span class='state failed'>not loaded</span>"));
   EXPECT_THAT(page, HasSubstr("1 critical message<"));

@@ -1,7 +1,6 @@
-#include <gtest/gtest.h>
+#include "execution/frame_list_text.h"
 
-#include "command_line/option_values.h"
-#include "command_line/usage_error.h"
+#include <gtest/gtest.h>
 
 namespace vtlcmd::runner {
 namespace {
@@ -9,19 +8,19 @@ namespace {
 using Frames = std::vector<double>;
 
 Frames framesIn(const std::string& text) {
-  const FrameList list = parseFrames(text);
+  const FrameList list = parseFrameList(text);
   Frames frames;
   for (std::size_t i = 0; i < list.size(); ++i) frames.push_back(list[i]);
   return frames;
 }
 
-TEST(Frames, Lists) {
+TEST(FrameListText, Lists) {
   EXPECT_EQ(framesIn("1"), (Frames{1}));
   EXPECT_EQ(framesIn("1,5,9"), (Frames{1, 5, 9}));
   EXPECT_EQ(framesIn("3,1,3"), (Frames{3, 1, 3}));
 }
 
-TEST(Frames, Ranges) {
+TEST(FrameListText, Ranges) {
   EXPECT_EQ(framesIn("1-4"), (Frames{1, 2, 3, 4}));
   EXPECT_EQ(framesIn("4-1"), (Frames{4, 3, 2, 1}));
   EXPECT_EQ(framesIn("1-10x4"), (Frames{1, 5, 9}));
@@ -30,17 +29,17 @@ TEST(Frames, Ranges) {
   EXPECT_EQ(framesIn("1-2x5,7"), (Frames{1, 7}));
 }
 
-TEST(Frames, FractionsAndNegativeNumbers) {
+TEST(FrameListText, FractionsAndNegativeNumbers) {
   EXPECT_EQ(framesIn("1.5"), (Frames{1.5}));
   EXPECT_EQ(framesIn("1-2x0.25"), (Frames{1, 1.25, 1.5, 1.75, 2}));
   EXPECT_EQ(framesIn("-2--1"), (Frames{-2, -1}));
   EXPECT_EQ(framesIn("-1-1"), (Frames{-1, 0, 1}));
 }
 
-TEST(Frames, InexactStepsReachTheEnd) {
-  EXPECT_EQ(parseFrames("0-0.3x0.1").size(), 4U);
-  EXPECT_EQ(parseFrames("0.3-0.9x0.1").size(), 7U);
-  EXPECT_EQ(parseFrames("0-1x0.1").size(), 11U);
+TEST(FrameListText, InexactStepsReachTheEnd) {
+  EXPECT_EQ(parseFrameList("0-0.3x0.1").size(), 4U);
+  EXPECT_EQ(parseFrameList("0.3-0.9x0.1").size(), 7U);
+  EXPECT_EQ(parseFrameList("0-1x0.1").size(), 11U);
 }
 
 struct Refusal {
@@ -48,19 +47,19 @@ struct Refusal {
   const char* message;
 };
 
-class RefusedFrames : public testing::TestWithParam<Refusal> {};
+class RefusedFrameList : public testing::TestWithParam<Refusal> {};
 
-TEST_P(RefusedFrames, SayWhy) {
+TEST_P(RefusedFrameList, SayWhy) {
   try {
-    parseFrames(GetParam().text);
+    parseFrameList(GetParam().text);
     FAIL() << "accepted " << GetParam().text;
-  } catch (const UsageError& error) {
+  } catch (const FrameListError& error) {
     EXPECT_STREQ(error.what(), GetParam().message);
   }
 }
 
 INSTANTIATE_TEST_SUITE_P(
-    All, RefusedFrames,
+    All, RefusedFrameList,
     testing::Values(
         Refusal{"", "the frames '' make no sense: a number is missing at the end"},
         Refusal{"1,", "the frames '1,' make no sense: a number is missing at the end"},
@@ -80,10 +79,32 @@ INSTANTIATE_TEST_SUITE_P(
                 "the frames '0-1x0.000000000000000000000000000001' make no sense: more than "
                 "1000000 frames"}));
 
-TEST(Frames, AMillionIsTheMost) {
-  EXPECT_EQ(parseFrames("1-999999").size(), 999999U);
-  EXPECT_EQ(parseFrames("1-1000000").size(), 1000000U);
-  EXPECT_EQ(parseFrames("1-1000000")[999999], 1000000);
+TEST(FrameListText, AMillionIsTheMost) {
+  EXPECT_EQ(parseFrameList("1-999999").size(), 999999U);
+  EXPECT_EQ(parseFrameList("1-1000000").size(), 1000000U);
+  EXPECT_EQ(parseFrameList("1-1000000")[999999], 1000000);
+}
+
+std::string textOf(const std::vector<double>& frames) {
+  const std::string text = frameListText(frames);
+  EXPECT_EQ(text.empty() ? Frames() : framesIn(text), frames);
+  return text;
+}
+
+TEST(FrameListText, RangesAreFound) {
+  EXPECT_EQ(textOf({}), "");
+  EXPECT_EQ(textOf({5}), "5");
+  EXPECT_EQ(textOf({1, 2}), "1-2");
+  EXPECT_EQ(textOf({1, 3}), "1,3");
+  EXPECT_EQ(textOf({1, 3, 5}), "1-5x2");
+  EXPECT_EQ(textOf({-2, -1, 0, 7, 9, 10, 11}), "-2-0,7,9-11");
+  EXPECT_EQ(textOf({0.25, 0.5, 0.75}), "0.25-0.75x0.25");
+  EXPECT_EQ(textOf({99999, 100000, 1000000}), "99999-100000,1000000");
+}
+
+TEST(FrameListText, NumbersKeepEveryBit) {
+  textOf({0.1, 0.2, 0.1 + 0.2, 0.4, 1.0 / 3});
+  textOf({-1e300, 5e-324, 2.2250738585072014e-308, 1e22, 1e300});
 }
 
 }  // namespace
