@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <chrono>
 #include <iostream>
+#include <nlohmann/json.hpp>
 #include <optional>
 #include <system_error>
 #include <thread>
@@ -80,10 +81,11 @@ FarmFolder farmFolder(const std::string& name) {
   throw UsageError(inQuotes(name) + " is no folder of 'vtlcmd submit'");
 }
 
-nlohmann::ordered_json keyOf(const LoadedRun& run, const RunOptions& options) {
+std::string keyOf(const LoadedRun& run, const RunOptions& options) {
   return nlohmann::ordered_json::parse(
              runContent(run.graph, run.settings, run.plugInFile, options.report.printLimit()))
-      .at("key");
+      .at("key")
+      .dump();
 }
 
 std::optional<std::size_t> mostTasks(bool dryRun) {

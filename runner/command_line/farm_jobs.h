@@ -23,8 +23,8 @@ std::vector<double> frameNumbers(const std::string& frames);
 /// The folder of a job, by its name on the command line. Throws UsageError for any other folder.
 FarmFolder farmFolder(const std::string& name);
 
-/// What the frames' values follow from, as a journal of the run tells it.
-nlohmann::ordered_json keyOf(const LoadedRun& run, const RunOptions& options);
+/// What the frames' values follow from, as a journal of the run tells it: a JSON object.
+std::string keyOf(const LoadedRun& run, const RunOptions& options);
 
 /// How many tasks the cluster allows in an array. Nothing when it can't be asked in a dry run, else
 /// throws SchedulerError.

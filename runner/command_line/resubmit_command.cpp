@@ -9,6 +9,7 @@
 #include "command_line/usage_error.h"
 #include "farm/frame_survey.h"
 #include "farm/shell_words.h"
+#include "journal/run_key.h"
 #include "text/path_text.h"
 #include "text/system_reason.h"
 
@@ -53,7 +54,7 @@ void refuseWhileRunning(const FarmFolder& folder) {
 }
 
 /// The key of what the job's words run today. Makes the job's working folder this process's.
-nlohmann::ordered_json keyOf(const FarmJob& job) {
+std::string keyOf(const FarmJob& job) {
   std::filesystem::current_path(job.workingFolder);
   CLI::App app;
   RunOptions options;
@@ -61,18 +62,15 @@ nlohmann::ordered_json keyOf(const FarmJob& job) {
   std::vector<std::string> words(job.runWords.rbegin(), job.runWords.rend());
   words.push_back(job.graph);
   app.parse(words);
+  options.frames = job.frames;
   const LoadedRun run = loadRun(options, {});
   return keyOf(run, options);
 }
 
 /// Frames of something else would fit no report.
 void refuseChanges(const FarmJob& job) {
-  const nlohmann::ordered_json key = keyOf(job);
-  std::string changed;
-  for (const auto& [name, value] : key.items()) {
-    if (job.key.value(name, nlohmann::ordered_json()) != value)
-      changed += (changed.empty() ? "" : ", ") + name;
-  }
+  using Json = nlohmann::ordered_json;
+  const std::string changed = keyDifference(Json::parse(job.key), Json::parse(keyOf(job)));
   if (!changed.empty())
     throw UsageError("since the job was submitted there have changed: " + changed +
                      "; 'vtlcmd submit' to a new folder runs all anew");

@@ -54,16 +54,22 @@ bool namesInput(const CLI::Option& option) {
   return nameOf(option) == "set-file" || nameOf(option) == "plugin";
 }
 
-/// Where the file's name begins in a value of such an option.
+/// Where the file's name begins in a value of such an option, or of one that is written.
 std::size_t filePlace(const CLI::Option& option, const std::string& value) {
-  return nameOf(option) == "set-file" ? value.find('=') + 1 : 0;
+  return nameOf(option) == "plugin" ? 0 : value.find('=') + 1;
 }
 
-/// The value with the name that the file and its copy have.
-std::string withRelativeName(const CLI::Option& option, const std::string& value) {
-  if (!namesInput(option)) return value;
+std::string absoluteName(const std::string& file) {
+  return fileText(std::filesystem::absolute(filePath(file)));
+}
+
+/// The value for tasks that run in the copy of this folder: a file that is read has the name that
+/// leads to its copy, one that is written stays where it is.
+std::string valueForCopy(const CLI::Option& option, const std::string& value) {
   const std::size_t place = filePlace(option, value);
-  return value.substr(0, place) + relativeName(value.substr(place));
+  if (namesInput(option)) return value.substr(0, place) + relativeName(value.substr(place));
+  if (nameOf(option) == "save") return value.substr(0, place) + absoluteName(value.substr(place));
+  return value;
 }
 
 }  // namespace
@@ -150,7 +156,7 @@ std::vector<std::string> taskWords(const SubmitOptions& options) {
       continue;
     }
     for (const std::string& value : option->results())
-      words.push_back(name + "=" + (options.copy ? withRelativeName(*option, value) : value));
+      words.push_back(name + "=" + (options.copy ? valueForCopy(*option, value) : value));
   }
   return words;
 }
@@ -169,7 +175,7 @@ std::vector<std::filesystem::path> reportFiles(const SubmitOptions& options,
                                                const FarmFolder& folder) {
   std::vector<std::filesystem::path> files;
   for (const std::string& report : options.run.reports)
-    files.push_back(std::filesystem::absolute(filePath(report)).lexically_normal());
+    files.push_back(filePath(absoluteName(report)).lexically_normal());
   if (files.empty()) files.push_back(folder.path() / "report.json");
   return files;
 }

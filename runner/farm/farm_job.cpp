@@ -1,5 +1,6 @@
 #include "farm/farm_job.h"
 
+#include <nlohmann/json.hpp>
 #include <system_error>
 
 #include "readers/file_text.h"
@@ -56,7 +57,7 @@ FarmJob jobFrom(const Json& json) {
   for (const std::string report : json.at("reports")) job.reports.push_back(filePath(report));
   job.reportWords = json.at("report_words");
   job.schedulerWords = json.at("scheduler_words");
-  job.key = json.at("key");
+  job.key = json.at("key").dump();
   return job;
 }
 
@@ -74,7 +75,7 @@ void writeFarmJob(const FarmFolder& folder, const FarmJob& job) {
                            {"reports", textsOf(job.reports)},
                            {"report_words", job.reportWords},
                            {"scheduler_words", job.schedulerWords},
-                           {"key", job.key}});
+                           {"key", Json::parse(job.key)}});
 }
 
 bool holdsFarmJob(const FarmFolder& folder) {

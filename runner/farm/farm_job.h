@@ -2,7 +2,6 @@
 
 #include <cstddef>
 #include <filesystem>
-#include <nlohmann/json.hpp>
 #include <string>
 #include <vector>
 
@@ -35,8 +34,8 @@ struct FarmJob {
   std::vector<std::string> reportWords;
   /// Words of the scheduler's command, for tasks and report.
   std::vector<std::string> schedulerWords;
-  /// What the frames' values follow from, as the runs' journals tell it.
-  nlohmann::ordered_json key;
+  /// What the frames' values follow from, as the runs' journals tell it: a JSON object.
+  std::string key;
 };
 
 /// Writes the job to its file. Throws std::system_error.

@@ -2,24 +2,17 @@
 
 #include <cerrno>
 #include <fstream>
+#include <nlohmann/json.hpp>
+#include <optional>
 #include <set>
 #include <system_error>
 
 #include "journal/journal_reader.h"
+#include "report/frame_facts.h"
 #include "text/path_text.h"
 
 namespace vtlcmd::runner {
 namespace {
-
-using Json = nlohmann::ordered_json;
-
-/// The texts, numbers and flags of an object, without the values that may be large.
-Json plainMembers(std::string_view object) {
-  return Json::parse(object, [](int depth, Json::parse_event_t event, Json&) {
-    return depth == 0 || (event != Json::parse_event_t::object_start &&
-                          event != Json::parse_event_t::array_start);
-  });
-}
 
 class Survey {
  public:
@@ -31,13 +24,7 @@ class Survey {
     if (!stream) throw JournalError(fileText(file) + ": " + std::generic_category().message(errno));
     JournalReader reader(stream, fileText(file));
     std::set<std::size_t> open;
-    while (reader.next()) {
-      try {
-        addLine(reader, open);
-      } catch (const Json::exception&) {
-        reader.fail();
-      }
-    }
+    while (reader.next()) addLine(reader, open);
     for (const std::size_t index : open) {
       if (states_[index] == FrameState::missing) states_[index] = FrameState::started;
     }
@@ -51,20 +38,27 @@ class Survey {
     // A run that has come to its end has none open.
     if (kind == line_kinds::end) open.clear();
     if (kind != line_kinds::start && kind != line_kinds::frame) return;
-    const Json line = plainMembers(reader.line().content);
-    const std::size_t index = line.at("index");
-    if (index >= states_.size()) reader.fail();
     if (kind == line_kinds::start) {
-      open.insert(index);
+      open.insert(indexOf(reader));
       return;
     }
-    open.erase(index);
-    if (states_[index] != FrameState::done) states_[index] = stateOf(line);
+    const std::optional<FrameFacts> facts = frameFacts(reader.line().content);
+    if (!facts || facts->index >= states_.size()) reader.fail();
+    open.erase(facts->index);
+    if (states_[facts->index] != FrameState::done) states_[facts->index] = stateOf(*facts);
   }
 
-  static FrameState stateOf(const Json& line) {
-    if (line.at("succeeded").get<bool>()) return FrameState::done;
-    return line.at("failure") == "transient" ? FrameState::failedForNow : FrameState::failed;
+  std::size_t indexOf(const JournalReader& reader) const {
+    const auto line = reader.parse(reader.line().content);
+    const auto index = line.find("index");
+    if (index == line.end() || !index->is_number_unsigned() || *index >= states_.size())
+      reader.fail();
+    return *index;
+  }
+
+  static FrameState stateOf(const FrameFacts& facts) {
+    if (facts.failure == Failure::none) return FrameState::done;
+    return facts.failure == Failure::transient ? FrameState::failedForNow : FrameState::failed;
   }
 
   std::vector<FrameState> states_;

@@ -43,11 +43,11 @@ std::string outputOf(ChildProcess& process) {
 std::string run(const std::vector<std::string>& words) {
   const std::string& command = words.front();
   // The shell finds the command, and its complaints are wanted too, which would lead nowhere.
-  std::vector<std::string> shell{"-c", "exec \"$0\" \"$@\" 2>&1"};
+  std::vector<std::string> shell{"-c", R"(exec "$0" "$@" 2>&1)"};
   shell.insert(shell.end(), words.begin(), words.end());
   try {
     ChildProcess process("/bin/sh", shell);
-    const std::string output = outputOf(process);
+    std::string output = outputOf(process);
     const ProcessEnd end = process.wait();
     if (end.kind == ProcessEnd::Kind::exited && end.exitCode == commandNotFound)
       failAbsent(command);

@@ -114,8 +114,8 @@ def status_of(**frames):
 def submits_and_reports(folder):
     farm = Farm(folder)
     out = farm.work / "out"
-    expect("the submission", farm.submit("-s", "label=two words", "--", "--mem=2G", "-p",
-                                         "main"), 0)
+    expect("the submission", farm.submit("-s", "label=two words", "--no-times", "--wait", "--",
+                                         "--mem=2G", "-p", "main"), 1)
     expect("its words", farm.output,
            f"job 11: 3 tasks\njob 12: report {out}/report.json\n")
     expect("its complaints", farm.errors, "")
@@ -127,6 +127,10 @@ def submits_and_reports(folder):
     expect("the journals", sorted(os.listdir(out / "journals")),
            ["1-1.journal", "1-2.journal", "1-3.journal"])
     expect("the status", farm.status(), status_of(done="1,2,4-10", failed="3"))
+    alone = farm.work / "alone.json"
+    farm.vtlcmd("run", "graph.json", "-f", "1-10", "-s", "label=two words", "-q", "--no-times",
+                "--report", alone)
+    expect("the report", (out / "report.json").read_text(), alone.read_text())
 
 
 def resubmits_what_is_left(folder):
@@ -139,7 +143,7 @@ def resubmits_what_is_left(folder):
     expect("a dry run", farm.vtlcmd("resubmit", "out", "--dry-run"), 0)
     expect("a dry run's script", "#SBATCH --array=1-2\n" in farm.output)
     expect("a dry run's files", (out / "submissions/2").exists(), False)
-    expect("the second submission", farm.vtlcmd("resubmit", "out"), 0)
+    expect("the second submission", farm.vtlcmd("resubmit", "out", "--wait"), 1)
     expect("its frames", (out / "submissions/2/frames").read_text(), "3,5-7\n8\n")
     expect("the status", farm.status(), status_of(done="1,2,4-10", failed="3"))
     expect("the journals", sorted(os.listdir(out / "journals")),
@@ -208,7 +212,8 @@ def copies_inputs(folder):
     absolute.write_text("elsewhere")
     (farm.fake / "hold").touch()
     (folder / "label.txt").write_text("a label")
-    expect("the submission", farm.submit("--copy", "--set-file", f"label={folder}/label.txt"), 0)
+    expect("the submission", farm.submit("--copy", "--set-file", f"label={folder}/label.txt",
+                                         "--save", "quotient=q{frame}.npy"), 0)
     expect("its words", farm.errors, "")
     tree = farm.work / "out/inputs" / str(farm.work).lstrip("/")
     expect("the copies", sorted(str(path.relative_to(tree)) for path in tree.rglob("*")),
@@ -220,6 +225,7 @@ def copies_inputs(folder):
         subprocess.run(["sh", farm.work / "out/submissions/1/tasks.sh"], capture_output=True,
                        env={**farm.environment, "SLURM_ARRAY_TASK_ID": task})
     expect("the copies are used", farm.status(), status_of(done="1,2,4-10", failed="3"))
+    expect("what is saved", (farm.work / "q9.npy").exists())
     journal = (farm.work / "out/journals/1-3.journal").read_text()
     expect("the copied texts", ("a text" in journal, '"a label"' in journal), (True, True))
 
@@ -310,7 +316,7 @@ def guards_resubmission(folder):
     (farm.work / "data/text.txt").write_text("another text\n")
     expect("a changed file", farm.vtlcmd("resubmit", "out"), 2)
     expect("its words", farm.errors, "vtlcmd: since the job was submitted there have changed: "
-           "files; 'vtlcmd submit' to a new folder runs all anew" + hint)
+           "files.data/text.txt; 'vtlcmd submit' to a new folder runs all anew" + hint)
     job = farm.work / "out/job.json"
     text = job.read_text()
     for damaged, complaint in ((text[:100], "is damaged"), ("{}", "is damaged"),
