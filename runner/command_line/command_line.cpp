@@ -10,11 +10,13 @@
 #include "command_line/help_formatter.h"
 #include "command_line/usage_error.h"
 #include "command_line/version_text.h"
+#include "command_line/worker_command.h"
 #include "readers/foreign_file.h"
 #include "text/control_characters.h"
 #include "text/library_text.h"
 #include "text/load_error.h"
 #include "text/near_misses.h"
+#include "workers/worker_process.h"
 
 namespace vtlcmd::runner {
 namespace {
@@ -105,6 +107,7 @@ ExitCode runCommandLine(const std::vector<std::string>& arguments) {
     serveForeignFile({arguments.begin() + 1, arguments.end()});
     return ExitCode::success;
   }
+  if (!arguments.empty() && arguments[0] == workerCommand) serveFrames();
   try {
     refuseMissingOrUnknownCommand(app, arguments);
     // The parser takes its words from the back.

@@ -1,11 +1,15 @@
 #include "command_line/frame_run.h"
 
+#include <algorithm>
 #include <iostream>
 #include <system_error>
 
 #include "command_line/terminal.h"
 #include "frames/own_frames.h"
 #include "platform/interrupt.h"
+#include "readers/read_limits.h"
+#include "text/control_characters.h"
+#include "workers/worker_pool.h"
 
 namespace vtlcmd::runner {
 namespace {
@@ -24,6 +28,14 @@ void printCounts(const RunTotals& totals) {
 }
 
 RunEnd endWith(const char* outcome, ExitCode code) { return {outcome, static_cast<int>(code), {}}; }
+
+RunEnd endAfter(const WorkerError& error, Failure ofFrames) {
+  std::cerr << "vtlcmd: " << withoutControls(error.what()) << '\n';
+  const bool mayPass = std::max(error.failure(), ofFrames) == Failure::transient;
+  RunEnd end = endWith("stopped", mayPass ? ExitCode::tryAgain : ExitCode::runFailed);
+  end.messages[vtlcmdSource][levelCritical] = {error.what()};
+  return end;
+}
 
 }  // namespace
 
@@ -44,15 +56,32 @@ FrameRun::FrameRun(const LoadedRun& loaded, const RunOptions& options, RunReport
 }
 
 RunEnd FrameRun::run() {
-  const RunSettings& settings = loaded_.settings;
-  Session session(loaded_.graph, loaded_.plugIn->translation(), settings, logger_);
-  runFrames(session, logger_, queue_, collector_, settings.recordFrames, loaded_.frames.retries);
+  std::optional<WorkerError> failure;
+  try {
+    runAll();
+  } catch (const WorkerError& error) {
+    failure = error;
+  }
   collector_.takeNoMore();
   printer_.printCounts();
   progress_.hide();
-  if (settings.verbosity >= levelVerbose) printCounts(collector_.totals());
+  if (loaded_.settings.verbosity >= levelVerbose) printCounts(collector_.totals());
   if (collector_.journalError()) throw std::system_error(*collector_.journalError());
-  return end();
+  return failure ? endAfter(*failure, collector_.totals().failure) : end();
+}
+
+void FrameRun::runAll() {
+  const RunSettings& settings = loaded_.settings;
+  const FrameSettings& frames = loaded_.frames;
+  if (frames.workers > 0) {
+    WorkerPool({readLimits().program, taskOf(loaded_), frames.timeout, frames.retries,
+                settings.recordFrames},
+               settings.frames, queue_, collector_)
+        .run();
+    return;
+  }
+  Session session(loaded_.graph, loaded_.plugIn->translation(), settings, logger_);
+  runFrames(session, logger_, queue_, collector_, settings.recordFrames, frames.retries);
 }
 
 RunEnd FrameRun::end() const {

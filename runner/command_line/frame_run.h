@@ -24,6 +24,8 @@ class FrameRun {
   RunEnd run();
 
  private:
+  /// Runs the frames, here or in processes of their own.
+  void runAll();
   RunEnd end() const;
 
   const LoadedRun& loaded_;

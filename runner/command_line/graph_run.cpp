@@ -90,24 +90,20 @@ class RecordedRun {
   bool hasOutputError_ = false;
 };
 
-}  // namespace
-
-LoadedRun loadRun(const RunOptions& options, const std::vector<std::string>& arguments) {
-  refuseSharedInput(options.graph, options.files);
+/// All but the plug-in.
+LoadedRun prepareRun(Graph graph, const RunOptions& options,
+                     const std::vector<std::string>& arguments) {
   LoadedRun run;
-  run.graph = loadGraph(options.graph);
+  run.graph = std::move(graph);
   const PortTexts texts = textsFrom(options, run.graph);
   run.texts = texts.byPort();
+  run.textFiles = texts.files();
   selectOutputs(options, run.graph);
   lookUpTextsInWorkingDirectory(run.graph, run.texts);
   run.settings = settingsFrom(options, texts, arguments);
   run.frames = options.frameOptions.settings(run.settings.frames.size());
   run.settings.filesRead = filesReadBy(run.graph, run.texts);
-  std::vector<std::filesystem::path> filesRead = run.settings.filesRead;
-  filesRead.insert(filesRead.end(), texts.files().begin(), texts.files().end());
-  OutputTargets targets = refuseTargets(options, std::move(filesRead));
   for (const SavedOutput& saved : savedOutputsFrom(options.saves, run.graph, run.settings.frames)) {
-    targets.addSeries("--save", saved.file, run.settings.frames);
     run.settings.saves.push_back(
         {saved.output, [saved](double frame, const Orvel::Value& value,
                                const std::set<std::filesystem::path>& files) {
@@ -115,6 +111,38 @@ LoadedRun loadRun(const RunOptions& options, const std::vector<std::string>& arg
          }});
   }
   run.plugInFile = options.report.plugInFile();
+  return run;
+}
+
+}  // namespace
+
+LoadedRun loadRun(const RunOptions& options, const std::vector<std::string>& arguments) {
+  refuseSharedInput(options.graph, options.files);
+  LoadedRun run = prepareRun(loadGraph(options.graph), options, arguments);
+  std::vector<std::filesystem::path> filesRead = run.settings.filesRead;
+  filesRead.insert(filesRead.end(), run.textFiles.begin(), run.textFiles.end());
+  OutputTargets targets = refuseTargets(options, std::move(filesRead));
+  for (const SavedOutput& saved : savedOutputsFrom(options.saves, run.graph, run.settings.frames))
+    targets.addSeries("--save", saved.file, run.settings.frames);
+  run.plugIn = std::make_unique<PlugIn>(run.plugInFile);
+  return run;
+}
+
+WorkerTask taskOf(const LoadedRun& loaded) {
+  WorkerTask task{loaded.settings.arguments, loaded.graph.text, {}, {}, loaded.frames.workers};
+  for (std::size_t i = 0; i < loaded.texts.size(); ++i) {
+    const GraphPort& port = loaded.graph.ports[i];
+    if (loaded.texts[i])
+      (port.isJob ? task.jobs : task.inputs).push_back(port.name + "=" + *loaded.texts[i]);
+  }
+  return task;
+}
+
+LoadedRun loadRun(RunOptions options, const WorkerTask& task) {
+  options.files.clear();
+  options.inputs = task.inputs;
+  options.jobs = task.jobs;
+  LoadedRun run = prepareRun(graphFrom(options.graph, task.graph), options, task.words);
   run.plugIn = std::make_unique<PlugIn>(run.plugInFile);
   return run;
 }

@@ -12,6 +12,7 @@
 #include "command_line/run_reports.h"
 #include "execution/plug_in.h"
 #include "graph/path_sources.h"
+#include "workers/worker_messages.h"
 
 namespace vtlcmd::runner {
 
@@ -19,6 +20,8 @@ namespace vtlcmd::runner {
 struct LoadedRun {
   Graph graph;
   TextsByPort texts;
+  /// The files that some of them came from.
+  std::vector<std::filesystem::path> textFiles;
   RunSettings settings;
   FrameSettings frames;
   std::filesystem::path plugInFile;
@@ -27,6 +30,12 @@ struct LoadedRun {
 
 /// Throws UsageError and LoadError.
 LoadedRun loadRun(const RunOptions& options, const std::vector<std::string>& arguments);
+
+/// What a worker process of the run is told of it.
+WorkerTask taskOf(const LoadedRun& loaded);
+
+/// The same run in that process. Throws what the other one throws.
+LoadedRun loadRun(RunOptions options, const WorkerTask& task);
 
 /// Whatever a run writes must leave what it reads as it is. Throws UsageError.
 OutputTargets refuseTargets(const RunOptions& options,

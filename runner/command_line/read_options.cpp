@@ -1,6 +1,7 @@
 #include "command_line/read_options.h"
 
 #include <CLI/App.hpp>
+#include <algorithm>
 #include <charconv>
 #include <cstdint>
 
@@ -51,13 +52,14 @@ void ReadOptions::addTo(CLI::App& command) {
                    "Let a mesh name further files outside its own folder");
 }
 
-void ReadOptions::apply() const {
+void ReadOptions::apply(unsigned processes) const {
   ReadLimits& limits = readLimits();
-  limits.memory = parseSize("--read-memory", readMemory_);
+  limits.memory = std::min(parseSize("--read-memory", readMemory_), mostMemory() / processes);
   limits.processorTime = parseSeconds("--read-cpu", readProcessorTime_);
   limits.wallTime = parseSeconds("--read-time", readTime_);
   limits.anywhere = readAnywhere_;
-  limitMemory(memoryLimit_ ? parseSize("--memory-limit", *memoryLimit_) : mostMemory());
+  limitMemory((memoryLimit_ ? parseSize("--memory-limit", *memoryLimit_) : mostMemory()) /
+              processes);
 }
 
 }  // namespace vtlcmd::runner

@@ -14,9 +14,10 @@ class ReadOptions {
  public:
   void addTo(CLI::App& command);
 
-  /// Limits this process and the readers that it starts. To be called once, when the command line
+  /// Limits this process, one of so many that share what there is, and the readers that it starts.
+  /// To be called once, when the command line
   /// has been read and before any file. Throws UsageError for a value that makes no sense.
-  void apply() const;
+  void apply(unsigned processes = 1) const;
 
  private:
   std::optional<std::string> memoryLimit_;

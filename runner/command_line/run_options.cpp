@@ -84,6 +84,16 @@ void addRunOptions(CLI::App& command, RunOptions& options) {
   options.report.addTo(command);
 }
 
+RunOptions runOptionsFrom(const std::vector<std::string>& words) {
+  RunOptions options;
+  CLI::App command;
+  command.allow_windows_style_options(false);
+  addRunOptions(command, options);
+  // The parser takes its words from the back; the first one is the command itself.
+  command.parse(std::vector<std::string>(words.rbegin(), words.rend() - 1));
+  return options;
+}
+
 PortTexts textsFrom(const RunOptions& options, const Graph& graph) {
   PortTexts texts(graph);
   for (const std::string& assignment : options.files) texts.setFromFile(assignment);

@@ -46,6 +46,9 @@ struct RunOptions {
 /// Adds them to the command; they must outlive the parse.
 void addRunOptions(CLI::App& command, RunOptions& options);
 
+/// Those of a command line that was read before, without the program's name.
+RunOptions runOptionsFrom(const std::vector<std::string>& words);
+
 /// The texts that the options give to the graph's ports. Throws UsageError.
 PortTexts textsFrom(const RunOptions& options, const Graph& graph);
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "graph/graph.h"
 
@@ -14,5 +15,8 @@ inline constexpr const char* standardInput = "-";
 /// that a link leads to, the working directory for the standard input. Throws GraphError, whose
 /// text begins with the file.
 Graph loadGraph(const std::string& name);
+
+/// The same of a text that was read before.
+Graph graphFrom(const std::string& name, std::string_view text);
 
 }  // namespace vtlcmd::runner

@@ -19,9 +19,13 @@ struct ProcessEnd {
   Kind kind;
   /// Of one that exited.
   int exitCode = 0;
-  /// What the system calls a crash: "Segmentation fault".
-  std::string crash = {};
+  /// What the system calls the signal or exception of one that crashed or, where there are signals,
+  /// was killed: "Segmentation fault".
+  std::string signal = {};
 };
+
+/// The exit code of a process of this program for which its memory was too small.
+inline constexpr int outOfMemoryExit = 99;
 
 /// Which streams of a child lead to its parent; the others lead nowhere.
 enum class ChildStreams { output, all };

@@ -110,12 +110,13 @@ ProcessEnd endFrom(int status) {
   if (WIFEXITED(status)) return {ProcessEnd::Kind::exited, WEXITSTATUS(status)};
   const int signal = WTERMSIG(status);
   if (signal == SIGXCPU) return {ProcessEnd::Kind::tookTooMuchTime};
+  // Only this thread asks for the text.
+  const std::string name = ::strsignal(signal);  // NOLINT(concurrency-mt-unsafe)
   // What others send, and not what a process does wrong.
   for (const int sent : {SIGKILL, SIGTERM, SIGINT, SIGHUP}) {
-    if (signal == sent) return {ProcessEnd::Kind::killed};
+    if (signal == sent) return {ProcessEnd::Kind::killed, 0, name};
   }
-  // Only this thread asks for the text.
-  return {ProcessEnd::Kind::crashed, 0, ::strsignal(signal)};  // NOLINT(concurrency-mt-unsafe)
+  return {ProcessEnd::Kind::crashed, 0, name};
 }
 
 }  // namespace

@@ -7,13 +7,14 @@ namespace vtlcmd::runner {
 /// From now on what asks the process to end (an interrupt, a termination, a hang-up; on Windows
 /// the events of the console) is only remembered, unless whoever started the process had it
 /// ignored. The second one asks to abandon the frame too; the third ends the process at once. The
-/// first one says on a terminal that it waits for the frame. A closed standard output is
-/// remembered, and writing to it then fails.
+/// first one says on a terminal that it waits for the frame. Failed writes are remembered too.
 void rememberInterrupts();
 
-/// Counts as if such a signal had come: the first call ends the run after its frame, the second one
-/// abandons the frame.
-void noteInterrupt(int signal) noexcept;
+/// Has the current frame abandoned as the second signal does.
+void abandonFrame() noexcept;
+
+/// A closed standard output is remembered, and a file that may not grow; writing there then fails.
+void rememberFailedWrites();
 
 /// The number of the first signal that asked for an end; 0 when none did.
 int interruptSignal() noexcept;

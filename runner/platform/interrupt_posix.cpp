@@ -52,14 +52,16 @@ void handle(int signal, void (*handler)(int)) {
 
 void rememberInterrupts() {
   for (const int signal : std::array{SIGINT, SIGTERM, SIGHUP}) handle(signal, onInterrupt);
+  rememberFailedWrites();
+}
+
+void rememberFailedWrites() {
   // Handlers and not SIG_IGN, which programs that are started here would inherit.
   handle(SIGPIPE, onBrokenPipe);
   handle(SIGXFSZ, onFileSize);
 }
 
-void noteInterrupt(int signal) noexcept {
-  if (++signalCount == 1) firstSignal = signal;
-}
+void abandonFrame() noexcept { signalCount = 2; }
 
 int interruptSignal() noexcept { return firstSignal; }
 

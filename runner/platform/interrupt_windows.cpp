@@ -38,9 +38,10 @@ BOOL WINAPI onEvent(DWORD event) {
 
 void rememberInterrupts() { SetConsoleCtrlHandler(onEvent, TRUE); }
 
-void noteInterrupt(int signal) noexcept {
-  if (++eventCount == 1) firstSignal = signal;
-}
+// The platform has no signals for it.
+void rememberFailedWrites() {}
+
+void abandonFrame() noexcept { eventCount = 2; }
 
 int interruptSignal() noexcept { return firstSignal; }
 

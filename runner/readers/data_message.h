@@ -28,7 +28,4 @@ enum class DataMessage : std::uint8_t {
 
 inline constexpr std::size_t longestMessageName = 1 << 16;
 
-/// The exit code of a process for which its memory was too small.
-inline constexpr int outOfMemoryExit = 99;
-
 }  // namespace vtlcmd::runner

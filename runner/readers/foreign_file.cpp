@@ -79,7 +79,7 @@ class ReaderOutput final : public ByteSource {
       case ProcessEnd::Kind::killed:
         throw ReadError("its reader was killed", true);
       case ProcessEnd::Kind::crashed:
-        throw ReadError("its reader crashed: " + end.crash);
+        throw ReadError("its reader crashed: " + end.signal);
       case ProcessEnd::Kind::exited:
         break;
     }
