@@ -36,15 +36,19 @@ bool FrameCollector::take(FinishedFrame frame) {
   ++taken_;
   if (!settings_.failFast) keep(frame);
   order_.add(std::move(frame));
-  while (const std::optional<FinishedFrame> next = order_.next()) {
-    if (!show(*next)) return false;
+  while (!hasEnded_) {
+    const std::optional<FinishedFrame> next = order_.next();
+    if (!next) break;
+    show(*next);
   }
-  return !journalError_;
+  return !hasEnded_ && !journalError_;
 }
 
 void FrameCollector::takeNoMore() {
-  while (const std::optional<FinishedFrame> next = order_.nextPresent()) {
-    if (!show(*next)) return;
+  while (!hasEnded_) {
+    const std::optional<FinishedFrame> next = order_.nextPresent();
+    if (!next) return;
+    show(*next);
   }
 }
 
@@ -61,7 +65,7 @@ void FrameCollector::keep(const FinishedFrame& frame) {
 }
 
 /// The frame is in the journal before anyone reads of it.
-bool FrameCollector::show(const FinishedFrame& frame) {
+void FrameCollector::show(const FinishedFrame& frame) {
   if (settings_.failFast) keep(frame);
   totals_.failure = std::max(totals_.failure, frame.record.failure);
   totals_.errors += frame.record.errors;
@@ -73,8 +77,7 @@ bool FrameCollector::show(const FinishedFrame& frame) {
     progress_.show();
   }
   printer_.print(frame.record.entry.frameText, frame.messages);
-  if (!report_.good() || journalError_) return false;
-  return !settings_.failFast || frame.record.succeeded();
+  hasEnded_ = !report_.good() || journalError_ || (settings_.failFast && !frame.record.succeeded());
 }
 
 }  // namespace vtlcmd::runner

@@ -63,7 +63,7 @@ class FrameCollector {
 
  private:
   void keep(const FinishedFrame& frame);
-  bool show(const FinishedFrame& frame);
+  void show(const FinishedFrame& frame);
 
   const FrameList& frames_;
   FrameOrder order_;
@@ -74,6 +74,8 @@ class FrameCollector {
   Settings settings_;
   RunTotals totals_;
   std::size_t taken_ = 0;
+  /// A frame has ended the run.
+  bool hasEnded_ = false;
   std::optional<std::system_error> journalError_;
 };
 

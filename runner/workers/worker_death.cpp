@@ -24,7 +24,7 @@ WorkerDeath deathFrom(const ProcessEnd& end) {
     case ProcessEnd::Kind::crashed:
       return {"crashed: " + end.signal, Failure::permanent};
     case ProcessEnd::Kind::killed:
-      return {"was killed: " + end.signal, Failure::transient};
+      return {"was killed (" + end.signal + ")", Failure::transient};
     case ProcessEnd::Kind::tookTooMuchTime:
       return {"took more processor time than it may", Failure::transient};
     case ProcessEnd::Kind::exited:

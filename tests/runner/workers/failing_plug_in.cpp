@@ -1,0 +1,92 @@
+#include <array>
+#include <chrono>
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <new>
+#include <string>
+#include <string_view>
+#include <thread>
+
+#include "host/host_records.h"
+#include "translation/entry.h"
+#include "translation/vtlcmd_type_translation.h"
+
+// The plug-in, but for some frames of a run: the environment says like "3=crash,5=exit" what
+// happens when the first output of a frame is to be reported. "load=crash" happens when the plug-in
+// is loaded for the second time, by a worker.
+
+namespace vtlcmd::failing {
+namespace {
+
+void raiseDefault(int signal) {
+  static_cast<void>(std::signal(signal, SIG_DFL));
+  static_cast<void>(std::raise(signal));
+}
+
+/// True once, over all processes: the environment names a file that marks it.
+bool isFirst(const char* variable) {
+  const char* const name = std::getenv(variable);
+  std::FILE* const mark = name == nullptr ? nullptr : std::fopen(name, "wx");
+  if (mark != nullptr) std::fclose(mark);
+  return mark != nullptr;
+}
+
+void say(const char* text) {
+  std::fputs(text, stderr);
+  std::fflush(stderr);
+}
+
+struct Mishap {
+  std::string_view name;
+  void (*happen)();
+};
+
+constexpr std::array<Mishap, 10> mishaps{{
+    {"crash", [] { raiseDefault(SIGSEGV); }},
+    {"abort", [] { raiseDefault(SIGABRT); }},
+    {"kill", [] { raiseDefault(SIGKILL); }},
+    {"exit", [] { std::_Exit(7); }},
+    {"hang", [] { std::this_thread::sleep_for(std::chrono::hours(1)); }},
+    {"nap", [] { std::this_thread::sleep_for(std::chrono::milliseconds(200)); }},
+    {"memory", [] { throw std::bad_alloc(); }},
+    {"say", [] { say("something is odd\n"); }},
+    {"cry",
+     [] {
+       say("first\nit hurts\n");
+       raiseDefault(SIGSEGV);
+     }},
+    {"killonce",
+     [] {
+       if (isFirst("VTLCMD_TEST_MARK")) raiseDefault(SIGKILL);
+     }},
+}};
+
+/// What happens at a frame, or at "load".
+void meet(const std::string& moment) {
+  const char* const plan = std::getenv("VTLCMD_TEST_MISHAPS");
+  const std::string text = "," + std::string(plan == nullptr ? "" : plan) + ",";
+  for (const Mishap& mishap : mishaps) {
+    const std::string row = "," + moment + "=" + std::string(mishap.name) + ",";
+    if (text.find(row) != std::string::npos) mishap.happen();
+  }
+}
+
+class Failing final : public VtlCmdTypeTranslation {
+ public:
+  bool getOutputValue(const Orvel::Value& value, OutputValueData* data) const override {
+    const double frame = data->context->frame;
+    char text[32];
+    static_cast<void>(std::snprintf(text, sizeof text, "%g", frame));
+    meet(text);
+    return VtlCmdTypeTranslation::getOutputValue(value, data);
+  }
+};
+
+}  // namespace
+}  // namespace vtlcmd::failing
+
+VantrelGraph::Executor::TypeTranslation* createVantrelTypeTranslation() noexcept {
+  if (!vtlcmd::failing::isFirst("VTLCMD_TEST_LOADED")) vtlcmd::failing::meet("load");
+  return new (std::nothrow) vtlcmd::failing::Failing;
+}

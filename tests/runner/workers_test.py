@@ -1,0 +1,235 @@
+"""Worker processes that end in a frame cost that frame, and none outlives the program."""
+
+import argparse
+import json
+import os
+import pathlib
+import signal
+import subprocess
+import sys
+import tempfile
+import time
+
+parser = argparse.ArgumentParser(description=__doc__)
+parser.add_argument("--program", required=True, nargs="+", help="the words that start it")
+parser.add_argument("--folder", required=True)
+parser.add_argument("--plug-in", required=True, help="the plug-in with mishaps")
+arguments = parser.parse_args()
+
+GRAPH = {
+    "inputs": [{"name": "time", "type": "Simulation::Time"}],
+    "nodes": [{"name": "frame", "op": "time_frame", "in": {"time": "time"}}],
+    "outputs": [{"name": "frame", "from": "frame"}],
+}
+program = [os.path.abspath(word) for word in arguments.program]
+problems = []
+
+
+def expect(what, found, wanted=True):
+    if found != wanted:
+        problems.append(f"{what}: {found!r:.1000}, not {wanted!r:.1000}")
+
+
+def default_signals():
+    """Whoever runs the tests may have them ignored, as nohup does."""
+    for number in (signal.SIGINT, signal.SIGTERM, signal.SIGHUP):
+        signal.signal(number, signal.SIG_DFL)
+
+
+def start(*words, mishaps="", mark="", loaded=None):
+    environment = {**os.environ, "VTLCMD_TEST_MISHAPS": mishaps, "VTLCMD_TEST_MARK": str(mark)}
+    environment.pop("VTLCMD_WORKERS", None)
+    if loaded:
+        environment["VTLCMD_TEST_LOADED"] = str(loaded)
+    return subprocess.Popen(
+        [*program, "run", folder / "graph.json", "--plugin", arguments.plug_in,
+         *map(str, words)],
+        cwd=folder, env=environment, text=True, stdout=subprocess.PIPE, stderr=subprocess.PIPE,
+        preexec_fn=default_signals)
+
+
+def run(*words, **options):
+    process = start(*words, **options)
+    output, errors = process.communicate(timeout=100)
+    return output, errors, process.returncode
+
+
+def lines(frames):
+    return "".join(f"[vtlcmd]            Frame {frame}:\n"
+                   f"[vtlcmd]            Output port 'frame': (double) {frame}\n" for frame in frames)
+
+
+def critical(frame, text):
+    return (f"[vtlcmd]            Frame {frame}:\n"
+            f"[vtlcmd]  Critical: {text.format(frame=frame)}\n")
+
+
+PROCESS = "The process that ran frame {frame} "
+DEATHS = [
+    ("crash", PROCESS + "crashed: Segmentation fault.", 1),
+    ("abort", PROCESS + "crashed: Aborted.", 1),
+    ("exit", PROCESS + "ended with exit code 7.", 1),
+    ("kill", PROCESS + "was killed (Killed).", 75),
+    ("cry", PROCESS + "crashed: Segmentation fault. Its process said last:\nfirst\nit hurts", 1),
+]
+
+
+def a_death_costs_its_frame():
+    for mishap, text, code in DEATHS:
+        for workers in (1, 2):
+            report = folder / "report.json"
+            found = run("-f", "1-6", "--workers", workers, "--report", report, mishaps=f"3={mishap}")
+            expect(f"{mishap}, {workers} workers", found,
+                   (lines([1, 2, 4, 5, 6]), critical(3, text), code))
+            document = json.loads(report.read_text())
+            frames = {frame["frame"]: frame for frame in document["frames"]}
+            expect(f"{mishap}: frames of the report", sorted(frames), list("123456"))
+            expect(f"{mishap}: its messages", frames["3"]["messages"],
+                   {"vtlcmd": {"critical": [text.format(frame=3)]}})
+            expect(f"{mishap}: its failure", frames["3"]["failure"],
+                   "transient" if code == 75 else "permanent")
+            expect(f"{mishap}: others", [frames[frame]["succeeded"] for frame in "12456"], [True] * 5)
+            expect(f"{mishap}: the report's exit code", document["exit_code"], code)
+            report.unlink()
+
+
+def one_lasting_failure_makes_it_1():
+    expect("killed and crashed", run("-f", "1-6", "--workers", "2", mishaps="2=kill,5=crash"),
+           (lines([1, 3, 4, 6]), critical(2, DEATHS[3][1]) + critical(5, DEATHS[0][1]), 1))
+
+
+def time_is_limited():
+    text = "Frame {frame} took longer than 0.5 seconds (--frame-timeout)."
+    for words in (["--workers", "2"], []):
+        expect(f"hangs {words}", run("-f", "1-4", "--frame-timeout", "0.5", *words, mishaps="2=hang"),
+               (lines([1, 3, 4]), critical(2, text), 75))
+
+
+def another_attempt_cures():
+    mark = folder / "mark"
+    report = folder / "report.json"
+    expect("killed once", run("-f", "1-4", "--workers", "2", "--retry", "1", "--report", report,
+                              mishaps="2=killonce", mark=mark), (lines([1, 2, 3, 4]), "", 0))
+    attempts = [frame["attempts"] for frame in json.loads(report.read_text())["times"]["frames"]]
+    expect("killed once: attempts", sorted(attempts), [1, 1, 1, 2])
+    report.unlink()
+    expect("killed each time", run("-f", "1-3", "--workers", "2", "--retry", "2", "--journal",
+                                   folder / "journal", mishaps="2=kill"),
+           (lines([1, 3]), critical(2, DEATHS[3][1]), 75))
+    starts = (folder / "journal").read_text().count('"start":{"index":1,')
+    expect("killed each time: attempts", starts, 3)
+    (folder / "journal").unlink()
+    expect("crashes aren't cured", run("-f", "1-3", "--workers", "2", "--retry", "2", "--journal",
+                                       folder / "journal", mishaps="2=crash")[2], 1)
+    starts = (folder / "journal").read_text().count('"start":{"index":1,')
+    expect("crashes aren't cured: attempts", starts, 1)
+    (folder / "journal").unlink()
+    for words in ([], ["--workers", "2"]):
+        _, errors, code = run("-f", "1-2", "--retry", "2", "--journal", folder / "journal", *words,
+                              mishaps="2=memory")
+        starts = (folder / "journal").read_text().count('"start":{"index":1,')
+        expect(f"memory {words}", ("enough memory" in errors, code, starts), (True, 75, 3))
+        (folder / "journal").unlink()
+
+
+def the_first_failure_ends_it():
+    """As with one process, also when a later frame is done before."""
+    expected = run("-f", "1-9", "--fail-fast", "--report", "-", "--no-times", mishaps="4=memory")
+    expect("fail-fast: the exit code", expected[2], 75)
+    expect("fail-fast: the frames", [frame["frame"] for frame in json.loads(expected[0])["frames"]],
+           list("1234"))
+    for workers in (1, 2, 3):
+        expect(f"fail-fast, {workers} workers",
+               run("-f", "1-9", "--fail-fast", "--report", "-", "--no-times", "--workers", workers,
+                   mishaps="4=memory,3=nap"), expected)
+
+
+def what_is_said_stays_with_its_frame():
+    expected = run("-f", "1-4", "--workers", "1", mishaps="2=say,4=say")
+    expect("said", expected, (lines([1, 2, 3, 4]), "something is odd\n" * 2, 0))
+    expect("said with two", run("-f", "1-4", "--workers", "2", mishaps="1=nap,2=say,4=say"), expected)
+
+
+def no_worker_loads():
+    output, errors, code = run("-f", "1-4", "--workers", "2", mishaps="load=crash",
+                               loaded=folder / "loaded")
+    expect("no worker loads", (output, errors, code),
+           ("", "vtlcmd: the frames' processes can't be started: a process crashed: "
+            "Segmentation fault\n", 1))
+    (folder / "loaded").unlink()
+
+
+def children_of(process):
+    return [int(word) for word in
+            pathlib.Path(f"/proc/{process.pid}/task/{process.pid}/children").read_text().split()]
+
+
+def are_gone(processes):
+    end = time.monotonic() + 60
+    while any(os.path.exists(f"/proc/{number}") and
+              "State:\tZ" not in pathlib.Path(f"/proc/{number}/status").read_text()
+              for number in processes):
+        if time.monotonic() > end:
+            return False
+        time.sleep(0.01)
+    return True
+
+
+def begin_hanging(journal):
+    """A run of two workers; one of them hangs in the second frame."""
+    process = start("-f", "1-2", "--workers", "2", "--journal", journal, mishaps="1=hang,2=hang")
+    while not journal.exists() or journal.read_text().count('"start"') < 2:
+        time.sleep(0.01)
+    children = children_of(process)
+    expect("two workers run", len(children), 2)
+    return process, children
+
+
+def none_is_left_behind():
+    journal = folder / "journal"
+    for signals in ([signal.SIGKILL], [signal.SIGINT] * 3, [signal.SIGTERM] * 3):
+        process, children = begin_hanging(journal)
+        for number in signals:
+            process.send_signal(number)
+            time.sleep(0.3)
+        process.communicate(timeout=60)
+        expect(f"{signals}: ended by the signal", process.returncode, -signals[0])
+        expect(f"{signals}: no worker is left", are_gone(children))
+        journal.unlink()
+
+
+def an_interrupt_ends_after_the_frames():
+    report = folder / "report.json"
+    process = start("-f", "1-100000", "--workers", "2", "--report", report)
+    output = process.stdout.readline()
+    children = children_of(process)
+    process.send_signal(signal.SIGINT)
+    output += process.stdout.read()
+    errors = process.stderr.read()
+    process.wait(timeout=60)
+    expect("interrupted", (process.returncode, errors), (130, ""))
+    document = json.loads(report.read_text())
+    expect("interrupted: the report", (document["outcome"], document["exit_code"]),
+           ("interrupted", 130))
+    expect("interrupted: what was printed", len(output.splitlines()), 2 * len(document["frames"]))
+    expect("interrupted: every frame is whole",
+           all(frame["succeeded"] for frame in document["frames"]))
+    expect("interrupted: no worker is left", are_gone(children))
+    report.unlink()
+
+
+with tempfile.TemporaryDirectory() as name:
+    folder = pathlib.Path(name)
+    (folder / "graph.json").write_text(json.dumps(GRAPH))
+    a_death_costs_its_frame()
+    one_lasting_failure_makes_it_1()
+    time_is_limited()
+    another_attempt_cures()
+    the_first_failure_ends_it()
+    what_is_said_stays_with_its_frame()
+    no_worker_loads()
+    none_is_left_behind()
+    an_interrupt_ends_after_the_frames()
+
+print("\n".join(problems))
+sys.exit(1 if problems else 0)
