@@ -1,5 +1,6 @@
 #include "command_line/frame_options.h"
 
+#include <CLI/App.hpp>
 #include <algorithm>
 #include <charconv>
 #include <cmath>

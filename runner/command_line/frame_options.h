@@ -1,11 +1,14 @@
 #pragma once
 
-#include <CLI/App.hpp>
 #include <chrono>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
+
+namespace CLI {
+class App;
+}
 
 namespace vtlcmd::runner {
 

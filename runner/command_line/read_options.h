@@ -15,8 +15,8 @@ class ReadOptions {
   void addTo(CLI::App& command);
 
   /// Limits this process, one of so many that share what there is, and the readers that it starts.
-  /// To be called once, when the command line
-  /// has been read and before any file. Throws UsageError for a value that makes no sense.
+  /// To be called once, when the command line has been read and before any file. Throws UsageError
+  /// for a value that makes no sense.
   void apply(unsigned processes = 1) const;
 
  private:
