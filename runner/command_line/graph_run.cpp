@@ -138,7 +138,7 @@ WorkerTask taskOf(const LoadedRun& loaded) {
   return task;
 }
 
-LoadedRun loadRun(RunOptions options, const WorkerTask& task) {
+LoadedRun loadRunInWorker(RunOptions options, const WorkerTask& task) {
   options.files.clear();
   options.inputs = task.inputs;
   options.jobs = task.jobs;

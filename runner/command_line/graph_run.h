@@ -35,7 +35,7 @@ LoadedRun loadRun(const RunOptions& options, const std::vector<std::string>& arg
 WorkerTask taskOf(const LoadedRun& loaded);
 
 /// The same run in that process. Throws what the other one throws.
-LoadedRun loadRun(RunOptions options, const WorkerTask& task);
+LoadedRun loadRunInWorker(RunOptions options, const WorkerTask& task);
 
 /// Whatever a run writes must leave what it reads as it is. Throws UsageError.
 OutputTargets refuseTargets(const RunOptions& options,

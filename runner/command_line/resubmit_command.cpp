@@ -1,3 +1,4 @@
+#include <CLI/App.hpp>
 #include <iostream>
 #include <memory>
 #include <system_error>

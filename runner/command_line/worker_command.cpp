@@ -64,7 +64,7 @@ void serve() {
     const RunOptions options = runOptionsFrom(input.task().words);
     options.read.apply(input.task().workers);
     printLimit = options.report.printLimit();
-    run = loadRun(options, input.task());
+    run = loadRunInWorker(options, input.task());
   } catch (const std::bad_alloc&) {
     throw;
   } catch (const std::exception& error) {
