@@ -53,7 +53,7 @@ std::string TaskScripts::tasks(std::size_t count) const {
   text += "set -eu\n";
   text += assignment("folder", fileText(folder_.path()));
   text += "# Line by line, the frames of the tasks.\n";
-  text += "frames=$(sed -n \"${SLURM_ARRAY_TASK_ID}p\" \"$folder/submissions/" + submission_ +
+  text += R"(frames=$(sed -n "${SLURM_ARRAY_TASK_ID}p" "$folder/submissions/)" + submission_ +
           "/frames\")\n";
   text += "# A task that was started again has a journal of its own.\n";
   text += "journal=$folder/journals/" + submission_ +
@@ -77,7 +77,7 @@ std::string TaskScripts::report() const {
     for (const std::string& word : job_.reportWords) text += " " + shellWord(word);
     text += " || code=$?\n";
   }
-  text += "echo \"$code\" >\"$folder/submissions/" + submission_ + "/reported\"\nexit \"$code\"\n";
+  text += R"(echo "$code" >"$folder/submissions/)" + submission_ + "/reported\"\nexit \"$code\"\n";
   return text;
 }
 
