@@ -63,8 +63,9 @@ void ShownFiles::add(const std::string& file) {
 
 void ShownFiles::report(ShownFile& shown, const DataValue& data) {
   const std::string name = data.name.empty() ? shown.file : shown.file + "/" + data.name;
-  if (data.facts) note(levelProgress, name + ": " + describe(*data.facts));
-  for (const std::string& warning : data.warnings) note(levelWarning, name + ": " + warning);
+  const std::string beginning = name + ": ";
+  if (data.facts) note(levelProgress, beginning + describe(*data.facts));
+  for (const std::string& warning : data.warnings) note(levelWarning, beginning + warning);
   if (!reportOutput(translation_, libraryText(name), data.value, form_.output, context_)) {
     allReported_ = false;
     return;
