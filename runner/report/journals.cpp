@@ -19,6 +19,8 @@ std::ifstream openJournal(const std::string& name) {
   const std::filesystem::path file = filePath(name);
   std::error_code ignored;
   const std::filesystem::file_status status = std::filesystem::status(file, ignored);
+  if (is_directory(status))
+    throw JournalError(name + ": " + std::generic_category().message(EISDIR));
   if (exists(status) && !is_regular_file(status))
     throw JournalError(name + " is no journal of a run");
   errno = 0;

@@ -39,7 +39,8 @@ def expect(file, reason, folder_reason=None, **options):
             (["run", "lines.json", "--set-file", f"path={file}"], 2,
              f"vtlcmd: the text for port 'path' can't be read: {file}: {reason}"),
             (["run", file], 3, graph),
-            (["ports", file], 3, graph)]:
+            (["ports", file], 3, graph),
+            (["report", file, "-o", "-"], 3, graph)]:
         found = outcome(*words, **options)
         if found != (code, line):
             problems.append(f"{words}: {found}, not {(code, line)}")
