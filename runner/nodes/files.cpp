@@ -48,9 +48,9 @@ Orvel::Value readArray(const NodeCall& call) {
 Orvel::Value readMeshNode(const NodeCall& call) {
   const std::filesystem::path file = fileArgument(call);
   call.onRead(file);
-  DataValue mesh = readMesh(file);
+  const DataValue mesh = readMesh(file);
   for (const std::string& warning : mesh.warnings) call.warn(fileText(file) + ": " + warning);
-  return std::move(mesh.value);
+  return mesh.value;
 }
 
 const std::vector<Parameter> path{{"path", &type_classes::path}};

@@ -28,7 +28,7 @@ auto naming(const std::filesystem::path& file, Function&& function) {
 std::vector<DataValue> readArrayFile(const std::filesystem::path& file, NpyForm form) {
   InputFile input(file);
   NpyArray array = parseNpy(input, form);
-  return {{"", std::move(array.value), std::move(array.facts), {}}};
+  return {{"", array.value, std::move(array.facts), {}}};
 }
 
 }  // namespace
@@ -60,7 +60,7 @@ std::vector<DataValue> readStandardInputArray(NpyForm form) {
   MemorySource input({reinterpret_cast<const unsigned char*>(file.data()), file.size()});
   try {
     NpyArray array = parseNpy(input, form);
-    return {{"", std::move(array.value), std::move(array.facts), {}}};
+    return {{"", array.value, std::move(array.facts), {}}};
   } catch (const ReadError& error) {
     throw ReadError("the standard input: " + std::string(error.what()));
   }
