@@ -9,6 +9,7 @@
 
 #include "command_line/usage_error.h"
 #include "execution/frame_list_text.h"
+#include "execution/session.h"
 #include "logging/vtlcmd_logger.h"
 #include "text/library_text.h"
 #include "text/near_misses.h"
@@ -64,6 +65,12 @@ std::uint32_t parseVerbosity(const std::string& text) {
 std::uint32_t parsePrintLimit(const std::string& text) {
   if (const std::optional<std::uint32_t> number = numberIn<std::uint32_t>(text)) return *number;
   throw UsageError("the print limit is a number from 0 to 4294967295, not " + inQuotes(text));
+}
+
+std::uint64_t parseElements(const std::string& text) {
+  if (text == "all") return allElements;
+  if (const std::optional<std::uint64_t> number = numberIn<std::uint64_t>(text)) return *number;
+  throw UsageError("--elements takes a number or 'all', not " + inQuotes(text));
 }
 
 HostPath parsePath(const std::string& option, const std::string& text) {

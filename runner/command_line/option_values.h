@@ -21,6 +21,9 @@ std::uint32_t parseVerbosity(const std::string& text);
 /// Throws UsageError.
 std::uint32_t parsePrintLimit(const std::string& text);
 
+/// A number of elements, or `allElements` for `all`. Throws UsageError.
+std::uint64_t parseElements(const std::string& text);
+
 /// A path as the plug-in wants it. Throws UsageError, which names the option, for a text that can't
 /// be converted.
 HostPath parsePath(const std::string& option, const std::string& text);

@@ -58,6 +58,12 @@ void addRunOptions(CLI::App& command, RunOptions& options) {
           "Save an output's values, arrays of numbers and vectors to a .npy file, meshes to a .ply "
           "file; {frame} or {frame:04} in the name is the frame")
       ->type_name("OUTPUT=FILE");
+  command
+      .add_option("--elements", options.elements,
+                  "First elements of each array that journal and JSON report have; all for all of "
+                  "them")
+      ->type_name("NUMBER")
+      ->capture_default_str();
   addList("--report", options.reports,
           "Write a report of the run: a page for people to a file named *.html, else a JSON "
           "document; '-' is the standard output, and the text then goes to standard error")
@@ -131,6 +137,7 @@ RunSettings settingsFrom(const RunOptions& options, const PortTexts& texts,
   settings.verbosity = options.report.verbosity();
   settings.outputForm = options.report.outputForm();
   settings.strict = options.strict;
+  settings.elements = parseElements(options.elements);
   settings.recordFrames = !options.reports.empty() || options.journal.has_value();
   return settings;
 }

@@ -32,6 +32,7 @@ struct RunOptions {
   bool strict = false;
   std::vector<std::string> only;
   std::vector<std::string> saves;
+  std::string elements = "0";
   std::vector<std::string> reports;
   bool noTimes = false;
   std::optional<std::string> journal;

@@ -71,7 +71,7 @@ void ShownFiles::report(ShownFile& shown, const DataValue& data) {
     return;
   }
   const ValueType type = parseValueType(data.value.getType().getFullyQualifiedName().c_str());
-  if (form_.exactValues) frame_.values[name] = exactValue(type, data.value);
+  if (form_.exactValues) frame_.values[name] = exactValue(type, data.value, 0);
   shown.values.push_back({name, type, data.facts});
 }
 

@@ -145,7 +145,8 @@ void Session::reportOutputs(const std::vector<Orvel::Value>& values, FrameRecord
           reportOutput(translation_, outputNames_[i], value, settings_.outputForm, context_);
       complete &= isReported;
       if (isReported && settings_.recordFrames)
-        record.values[output.name] = exactValue(graph_.typeOfSlot(output.source), value);
+        record.values[output.name] =
+            exactValue(graph_.typeOfSlot(output.source), value, settings_.elements);
     } catch (const std::exception&) {
       complete = false;
       noteFailure("Reporting output port " + inQuotes(output.name) + " failed: ");

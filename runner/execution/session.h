@@ -2,6 +2,8 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <functional>
+#include <limits>
 #include <optional>
 #include <set>
 #include <string>
@@ -18,6 +20,9 @@
 #include "logging/vtlcmd_logger.h"
 
 namespace vtlcmd::runner {
+
+/// More than an array can have.
+inline constexpr std::uint64_t allElements = std::numeric_limits<std::uint64_t>::max();
 
 /// Keeps an output's values elsewhere.
 struct OutputSave {
@@ -53,6 +58,8 @@ struct RunSettings {
   bool strict = false;
   /// The records of frames have their messages and the outputs' exact values, for reports.
   bool recordFrames = false;
+  /// So many of each array stand in its exact value; `allElements` of them for all.
+  std::uint64_t elements = 0;
   std::vector<OutputSave> saves;
 };
 

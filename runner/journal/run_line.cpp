@@ -64,6 +64,10 @@ Json outputNamesOf(const Graph& graph) {
   return names;
 }
 
+Json elementsOf(const RunSettings& settings) {
+  return settings.elements == allElements ? Json("all") : Json(settings.elements);
+}
+
 }  // namespace
 
 std::string runContent(const Graph& graph, const RunSettings& settings,
@@ -73,7 +77,8 @@ std::string runContent(const Graph& graph, const RunSettings& settings,
                      {"secondary_path", utf8Path(settings.secondaryPath)},
                      {"print_limit", printLimit},
                      {"through", settings.outputForm == OutputForm::any ? "any" : "value"},
-                     {"strict", settings.strict}};
+                     {"strict", settings.strict},
+                     {"elements", elementsOf(settings)}};
   const Json key{{"graph", hashOfText(graph.text)},
                  {"plug_in", hashOfFile(plugIn)},
                  {"files", filesOf(settings)},

@@ -1,5 +1,7 @@
 #include "values/exact_value.h"
 
+#include <algorithm>
+
 #include "host/imports/vantrel_geometry.h"
 #include "host/value_types.h"
 #include "output/statistics/summary.h"
@@ -30,6 +32,25 @@ void writeSingle(JsonWriter& json, const T& value) {
   }
 }
 
+void writeObject(JsonWriter& json, const ObjectPtr& object, std::uint64_t elements);
+
+template <typename T>
+void writeValue(JsonWriter& json, const T& value, std::uint64_t elements) {
+  if constexpr (std::is_same_v<T, ObjectPtr>) {
+    writeObject(json, value, elements);
+  } else {
+    writeSingle(json, value);
+  }
+}
+
+template <typename T>
+void writeElements(JsonWriter& json, const Orvel::Array<T>& array, std::uint64_t elements) {
+  json.open('[');
+  for (std::uint64_t i = 0; i < std::min(array.size, elements); ++i)
+    writeValue(json, array[i], elements);
+  json.close(']');
+}
+
 template <typename T>
 void writeStatistics(JsonWriter& json, const Orvel::Array<T>& array) {
   if (array.size == 0) return;
@@ -44,34 +65,56 @@ void writeStatistics(JsonWriter& json, const Orvel::Array<T>& array) {
 
 /// The properties "sizes" and so on of an array of one level, in an object that is open.
 template <typename T>
-void writeArrayFacts(JsonWriter& json, const Orvel::Array<T>& array) {
+void writeArrayFacts(JsonWriter& json, const Orvel::Array<T>& array, std::uint64_t elements) {
   json.key("sizes");
   json.open('[');
   json.number(array.size);
   json.close(']');
   if constexpr (valueType<T>().arrayClass == ArrayClass::summarised) writeStatistics(json, array);
+  if (elements == 0) return;
+  json.key("elements");
+  writeElements(json, array, elements);
 }
 
-void writeNestedArray(JsonWriter& json, std::uint32_t depth, const Orvel::Value& value) {
-  json.key("sizes");
+void writeNestedElements(JsonWriter& json, const ValueType& type, const Orvel::Value& value,
+                         std::uint64_t elements) {
+  if (type.depth == 1) {
+    withTypeNamed(registeredTypes, type.element,
+                  [&]<typename T>() { writeElements(json, arrayIn<T>(value), elements); });
+    return;
+  }
+  Orvel::ArrayValue array(value);
   json.open('[');
-  for (const LevelSize& level : levelSizes(value, depth))
-    level.size && !level.isRagged ? json.number(*level.size) : json.null();
+  for (std::uint64_t i = 0; i < std::min(array.size(), elements); ++i)
+    writeNestedElements(json, elementOf(type), array.getElement(i), elements);
   json.close(']');
 }
 
+void writeNestedArray(JsonWriter& json, const ValueType& type, const Orvel::Value& value,
+                      std::uint64_t elements) {
+  json.key("sizes");
+  json.open('[');
+  for (const LevelSize& level : levelSizes(value, type.depth))
+    level.size && !level.isRagged ? json.number(*level.size) : json.null();
+  json.close(']');
+  if (elements == 0) return;
+  json.key("elements");
+  writeNestedElements(json, type, value, elements);
+}
+
 template <typename List>
-void writeDataProperty(JsonWriter& json, const List& list, const Any& array) {
+void writeDataProperty(JsonWriter& json, const List& list, const Any& array,
+                       std::uint64_t elements) {
   forEachRow(list, [&]<typename Row>(const Row& row) {
     const auto* held = anyCast<StoredArray<typename Row::Type, 1>>(&array);
     if (held == nullptr || !*held) return;
     json.key("type");
     json.text("array<" + std::string(row.name) + ">");
-    writeArrayFacts(json, **held);
+    writeArrayFacts(json, **held, elements);
   });
 }
 
-void writeObject(JsonWriter& json, const ObjectPtr& object) {
+void writeObject(JsonWriter& json, const ObjectPtr& object, std::uint64_t elements) {
   if (!object) return json.null();
   json.open('{');
   const auto components = Geometry::getComponentGeoPropPrototype();
@@ -88,8 +131,8 @@ void writeObject(JsonWriter& json, const ObjectPtr& object) {
     const Any array = property->propertyByKey(Geometry::sData);
     json.key(standardText(name));
     json.open('{');
-    writeDataProperty(json, registeredTypes, array);
-    writeDataProperty(json, reportOnlyTypes, array);
+    writeDataProperty(json, registeredTypes, array, elements);
+    writeDataProperty(json, reportOnlyTypes, array, elements);
     json.close('}');
   }
   json.close('}');
@@ -97,19 +140,15 @@ void writeObject(JsonWriter& json, const ObjectPtr& object) {
 
 }  // namespace
 
-std::string exactValue(const ValueType& type, const Orvel::Value& value) {
+std::string exactValue(const ValueType& type, const Orvel::Value& value, std::uint64_t elements) {
   JsonWriter json;
   if (type.depth > 0) json.open('{');
-  if (type.depth > 1) writeNestedArray(json, type.depth, value);
+  if (type.depth > 1) writeNestedArray(json, type, value, elements);
   const bool isRegistered = withTypeNamed(registeredTypes, type.element, [&]<typename T>() {
     if (type.depth == 1) {
-      writeArrayFacts(json, arrayIn<T>(value));
+      writeArrayFacts(json, arrayIn<T>(value), elements);
     } else if (type.depth == 0) {
-      if constexpr (std::is_same_v<T, ObjectPtr>) {
-        writeObject(json, Orvel::valueAs<T>(value));
-      } else {
-        writeSingle(json, Orvel::valueAs<T>(value));
-      }
+      writeValue(json, Orvel::valueAs<T>(value), elements);
     }
   });
   if (type.depth > 0) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 
 #include "host/imports/orvel_values.h"
@@ -11,7 +12,9 @@ namespace vtlcmd::runner {
 /// they are, vectors as arrays of their components, an object as its properties by name ("count" of
 /// a component property, the array of a data property) or null. An array as its "sizes", the number
 /// of elements a level, null where a level is ragged or has none; arrays that the plug-in
-/// summarises have "min", "max" and "average" by its arithmetic too, unless they are empty.
-std::string exactValue(const ValueType& type, const Orvel::Value& value);
+/// summarises have "min", "max" and "average" by its arithmetic too, unless they are empty. Each
+/// array has so many of its first ones as "elements", unless none are wanted; those of a nested
+/// array are lists of the first ones at each level.
+std::string exactValue(const ValueType& type, const Orvel::Value& value, std::uint64_t elements);
 
 }  // namespace vtlcmd::runner

@@ -58,9 +58,10 @@ report_schema = json.loads((arguments.folder / "docs/report.schema.json").read_t
 jsonschema.Draft202012Validator.check_schema(report_schema)
 report_validator = jsonschema.Draft202012Validator(report_schema)
 for path in [*good, *arguments.folder.glob("tests/runner/data/bad_graphs/*.json")]:
-    for form in ("value", "any"):
+    for form, elements in (("value", "2"), ("any", "all")):
         run = subprocess.run(
-            [*arguments.program, "run", path, "--report", "-", "--through", form, "-f", "1-2"],
+            [*arguments.program, "run", path, "--report", "-", "--through", form, "-f", "1-2",
+             "--elements", elements],
             cwd=arguments.folder, capture_output=True)
         for error in report_validator.iter_errors(json.loads(run.stdout)):
             problems.append(f"report of {path.name}: {error.json_path}: {error.message}")

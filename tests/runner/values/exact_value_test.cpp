@@ -12,6 +12,10 @@
 namespace vtlcmd::runner {
 namespace {
 
+std::string exactValue(const ValueType& type, const Orvel::Value& value) {
+  return runner::exactValue(type, value, 0);
+}
+
 template <typename T>
 std::string single(const char* type, T value) {
   return exactValue({type, 0}, Orvel::makeValue<T>(std::move(value)));
@@ -71,6 +75,46 @@ TEST(ExactValue, ObjectsAreTheirProperties) {
                        Orvel::makeValue<ObjectPtr>(Orvel::MutablePtr<Vantrel::Object>(object))),
             R"({"points":{"count":2},)"
             R"("weight":{"type":"array<float>","sizes":[2],"min":0.5,"max":1,"average":0.75}})");
+}
+
+TEST(ExactValue, ArraysHaveAsManyElementsAsWanted) {
+  const Orvel::Value numbers = arrayOfValues<std::int64_t>({9007199254740993, -1, 4});
+  EXPECT_EQ(runner::exactValue({"long", 1}, numbers, 2),
+            R"({"sizes":[3],"min":-1,"max":9007199254740993,"average":3002399841058816,)"
+            R"("elements":[9007199254740993,-1]})");
+  EXPECT_EQ(
+      runner::exactValue({"string", 1},
+                         arrayOfValues<Orvel::String>({libraryText("a"), libraryText("b")}), 10),
+      R"({"sizes":[2],"elements":["a","b"]})");
+  EXPECT_EQ(
+      runner::exactValue(
+          {"Math::double2", 1},
+          arrayOfValues<Math::double2>({{{0.1, std::numeric_limits<double>::infinity()}}}), 1),
+      R"({"sizes":[1],"elements":[[0.1,"inf"]]})");
+  EXPECT_EQ(runner::exactValue({"bool", 1}, arrayOfValues<bool>({}), 1),
+            R"({"sizes":[0],"elements":[]})");
+  EXPECT_EQ(runner::exactValue({"int", 0}, Orvel::makeValue<std::int32_t>(3), 5), "3");
+}
+
+TEST(ExactValue, NestedArraysHaveTheFirstOfEachLevel) {
+  const Orvel::Type row = libraryTypeOf({"int", 1});
+  const Orvel::Value nested = Orvel::makeArray(
+      row, std::array{arrayOfValues<std::int32_t>({1, 2, 3}), arrayOfValues<std::int32_t>({4}),
+                      arrayOfValues<std::int32_t>({5})});
+  EXPECT_EQ(runner::exactValue({"int", 2}, nested, 2),
+            R"({"sizes":[3,null],"elements":[[1,2],[4]]})");
+}
+
+TEST(ExactValue, ArraysInObjectsHaveElementsToo) {
+  const Orvel::MutablePtr<Vantrel::Object> object = Vantrel::createObject();
+  Vantrel::Geometry::setDataProperty(*object, viewOf("code"),
+                                     Orvel::toAny(arrayOfValues<std::int8_t>({7, -7, 1})));
+  const ObjectPtr held{Orvel::MutablePtr<Vantrel::Object>(object)};
+  const std::string code =
+      R"({"code":{"type":"array<signed char>","sizes":[3],"elements":[7,-7]}})";
+  EXPECT_EQ(runner::exactValue({"Object", 0}, Orvel::makeValue<ObjectPtr>(held), 2), code);
+  EXPECT_EQ(runner::exactValue({"Object", 1}, arrayOfValues<ObjectPtr>({held, ObjectPtr{}}), 2),
+            R"({"sizes":[2],"elements":[)" + code + ",null]}");
 }
 
 }  // namespace
