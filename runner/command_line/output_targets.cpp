@@ -85,25 +85,24 @@ void OutputTargets::add(const std::string& option, const std::string& target) {
   requireWritable(option, target, file);
 }
 
-void OutputTargets::addSeries(const std::string& option, const FrameFileName& name,
+void OutputTargets::addSeries(const std::string& option, const FrameFileName& target,
                               const FrameList& frames) {
   const FileSet inputs(inputs_);
   const FileSet targets(targets_);
   std::set<fs::path> folders;
   ++series_;
   for (std::size_t i = 0; i < frames.size(); ++i) {
-    const std::string target = name.at(frames[i]);
-    const fs::path file = filePath(target);
+    const std::string name = target.at(frames[i]);
+    const fs::path file = filePath(name);
     const fs::path identity = fileIdentity(file);
-    if (inputs.holds(file, identity)) refuseInput(option, target);
+    if (inputs.holds(file, identity)) refuseInput(option, name);
     // A frame that runs twice writes the same again.
-    const std::pair owner(series_, target);
+    const std::pair owner(series_, name);
     const bool isTaken = ofSeries_.try_emplace(identity, owner).first->second != owner;
-    if (isTaken || targets.holds(file, identity)) refuseTwice(option, target);
+    if (isTaken || targets.holds(file, identity)) refuseTwice(option, name);
     std::error_code ignored;
     const bool isAbsent = !fs::exists(fs::symlink_status(file, ignored));
-    if (folders.insert(file.parent_path()).second || !isAbsent)
-      requireWritable(option, target, file);
+    if (folders.insert(file.parent_path()).second || !isAbsent) requireWritable(option, name, file);
   }
 }
 

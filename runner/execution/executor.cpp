@@ -80,17 +80,17 @@ Orvel::Value Executor::valueOf(std::size_t node, const Slots& slots) {
   return kept->value;
 }
 
-Executor::Evaluation Executor::evaluate(std::size_t index, const Slots& slots) const {
-  const GraphNode& node = graph_.nodes[index];
-  std::vector<std::vector<Orvel::Value>> arguments(node.sources.size());
-  for (std::size_t i = 0; i < node.sources.size(); ++i) {
-    arguments[i].reserve(node.sources[i].size());
-    for (const std::size_t slot : node.sources[i]) arguments[i].push_back(*slots[slot]);
+Executor::Evaluation Executor::evaluate(std::size_t node, const Slots& slots) const {
+  const GraphNode& declared = graph_.nodes[node];
+  std::vector<std::vector<Orvel::Value>> arguments(declared.sources.size());
+  for (std::size_t i = 0; i < declared.sources.size(); ++i) {
+    arguments[i].reserve(declared.sources[i].size());
+    for (const std::size_t slot : declared.sources[i]) arguments[i].push_back(*slots[slot]);
   }
-  const NodeTypes nodeTypes{types_[index], std::nullopt};
+  const NodeTypes nodeTypes{types_[node], std::nullopt};
   std::vector<std::string> warnings;
   const std::function<void(const std::string&)> onWarning = [&](const std::string& text) {
-    warnings.push_back(sentenceAbout(node, text));
+    warnings.push_back(sentenceAbout(declared, text));
     warn(warnings.back());
   };
   std::vector<FileStamp> files;
@@ -98,10 +98,10 @@ Executor::Evaluation Executor::evaluate(std::size_t index, const Slots& slots) c
     onRead_(file);
     files.push_back(stampOf(file));
   };
-  const Orvel::Value* literal = node.literal ? &*node.literal : nullptr;
-  Orvel::Value value = node.operation->evaluate(
-      {nodeTypes, node.type, arguments, literal, node.pathFolder, onWarning, onRead});
-  return {std::move(value), std::move(warnings), std::move(files)};
+  const Orvel::Value* literal = declared.literal ? &*declared.literal : nullptr;
+  const Orvel::Value value = declared.operation->evaluate(
+      {nodeTypes, declared.type, arguments, literal, declared.pathFolder, onWarning, onRead});
+  return {value, std::move(warnings), std::move(files)};
 }
 
 void Executor::warn(const std::string& sentence) const {

@@ -19,7 +19,7 @@ std::size_t widthFrom(std::string_view form) {
   if (form.empty()) return 0;
   std::size_t width = 0;
   const bool isPadded = form.starts_with(":0");
-  const char* end = form.data() + form.size();
+  const char* const end = form.data() + form.size();
   if (isPadded && std::from_chars(form.data() + 2, end, width).ptr == end && width > 0 &&
       width <= widest)
     return width;
@@ -30,10 +30,10 @@ std::size_t widthFrom(std::string_view form) {
 std::string paddedText(double frame, std::size_t width) {
   // As many as the largest double has.
   char digits[310];
-  const auto end =
+  const char* const end =
       std::to_chars(digits, digits + sizeof digits, std::abs(frame), std::chars_format::fixed, 0)
           .ptr;
-  const std::string number(digits, end);
+  const std::string number(static_cast<const char*>(digits), end);
   const std::string sign = frame < 0 ? "-" : "";
   const std::size_t used = sign.size() + number.size();
   return sign + std::string(width - std::min(width, used), '0') + number;

@@ -1,8 +1,9 @@
 #include "saving/ply_writer.h"
 
 #include <algorithm>
+#include <array>
 #include <bit>
-#include <cstring>
+#include <cstdint>
 #include <limits>
 #include <ostream>
 #include <stdexcept>
@@ -19,8 +20,13 @@ namespace {
 constexpr std::size_t none = std::numeric_limits<std::size_t>::max();
 
 template <typename T>
+auto bitsOf(const T& vector) {
+  return std::bit_cast<std::array<std::uint32_t, T::componentCount>>(vector.components);
+}
+
+template <typename T>
 bool sameBits(const std::vector<T>& elements, std::size_t a, std::size_t b) {
-  return elements.empty() || std::memcmp(&elements[a], &elements[b], sizeof(T)) == 0;
+  return elements.empty() || bitsOf(elements[a]) == bitsOf(elements[b]);
 }
 
 /// The vertices of a file: the points, each with what one of its corners has, and a further vertex
