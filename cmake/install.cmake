@@ -43,7 +43,7 @@ configure_file(cmake/vtlcmd.pc.in vtlcmd.pc @ONLY)
 install(FILES ${CMAKE_BINARY_DIR}/vtlcmd.pc DESTINATION lib/pkgconfig)
 
 install(FILES README.md CHANGELOG.md DESTINATION share/doc/vtlcmd)
-install(DIRECTORY docs DESTINATION share/doc/vtlcmd FILES_MATCHING PATTERN *.md)
+install(DIRECTORY docs DESTINATION share/doc/vtlcmd FILES_MATCHING PATTERN *.md PATTERN *.png)
 # The examples name their schema by its relative path.
 install(DIRECTORY docs DESTINATION share/vtlcmd FILES_MATCHING PATTERN *.schema.json)
 install(DIRECTORY examples DESTINATION share/vtlcmd)

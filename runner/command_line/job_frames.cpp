@@ -37,4 +37,15 @@ FrameList parsePartOfJob(const std::string& frames, const std::string& jobFrames
   return part;
 }
 
+FrameList parsePictureFrames(const std::string& frames, const std::string& jobFrames) {
+  FrameList wanted = parseFrames(frames);
+  const FrameList job = parseFrames(jobFrames);
+  for (std::size_t i = 0; i < wanted.size(); ++i) {
+    if (!job.placeOf(wanted[i]))
+      throw UsageError("--picture: frame " + shortestText(wanted[i]) + " of " + inQuotes(frames) +
+                       " isn't among the frames " + inQuotes(jobFrames));
+  }
+  return wanted;
+}
+
 }  // namespace vtlcmd::runner

@@ -14,4 +14,7 @@ FrameList parsePartOfJob(const std::string& frames, const std::string& jobFrames
 /// Throws UsageError, which names the option, for a job that has a frame twice.
 void refuseRepeated(const std::string& option, const FrameList& job, const std::string& text);
 
+/// The frames of a job that `--picture` names. Throws UsageError for one that the job lacks.
+FrameList parsePictureFrames(const std::string& frames, const std::string& jobFrames);
+
 }  // namespace vtlcmd::runner

@@ -68,6 +68,11 @@ void addRunOptions(CLI::App& command, RunOptions& options) {
           "Write a report of the run: a page for people to a file named *.html, else a JSON "
           "document; '-' is the standard output, and the text then goes to standard error")
       ->type_name("FILE");
+  command
+      .add_option("--picture", options.pictures,
+                  "Frames of which the page has histograms of arrays and pictures of points and "
+                  "meshes; the last one unless given")
+      ->type_name("FRAMES");
   command.add_flag("--no-times", options.noTimes,
                    "Leave out of reports what another run of the same would tell differently");
   command
@@ -131,6 +136,9 @@ RunSettings settingsFrom(const RunOptions& options, const PortTexts& texts,
                                       : parseFrames(options.frames);
   settings.framesText = options.frames;
   settings.jobFramesText = options.jobFrames.value_or("");
+  if (options.pictures)
+    settings.pictureFrames =
+        parsePictureFrames(*options.pictures, options.jobFrames.value_or(options.frames));
   settings.framesPerSecond = parseFramesPerSecond(options.framesPerSecond);
   settings.sceneFile = parsePath("--scene", options.scene);
   settings.secondaryPath = parsePath("--secondary", options.secondary);

@@ -34,6 +34,7 @@ struct RunOptions {
   std::vector<std::string> saves;
   std::string elements = "0";
   std::vector<std::string> reports;
+  std::optional<std::string> pictures;
   bool noTimes = false;
   std::optional<std::string> journal;
   bool restart = false;

@@ -39,6 +39,8 @@ struct FrameRecord {
   std::set<std::filesystem::path> filesRead;
   /// By output, its exact value as JSON; empty when no report wants to know.
   std::map<std::string, std::string> values;
+  /// By output, what its picture is drawn from as JSON, of those that have one in this frame.
+  std::map<std::string, std::string> pictures;
 
   bool succeeded() const noexcept { return failure == Failure::none; }
 };

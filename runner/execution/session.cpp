@@ -12,6 +12,7 @@
 #include "text/library_text.h"
 #include "text/shortest_text.h"
 #include "values/exact_value.h"
+#include "values/value_picture.h"
 
 namespace vtlcmd::runner {
 namespace {
@@ -61,7 +62,8 @@ FrameRecord Session::run(std::size_t place) {
   record.entry = std::move(logger_.currentEntry());
   logger_.currentGroup()->entries.clear();
   record.started = startTime;
-  record.seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+  record.seconds =
+      std::chrono::duration<double>(std::chrono::steady_clock::now() - start - picturing_).count();
   return record;
 }
 
@@ -76,6 +78,7 @@ FrameRecord Session::runFrame() {
   FrameRecord record;
   failure_ = Failure::none;
   filesRead_.clear();
+  picturing_ = {};
   const std::optional<std::vector<Orvel::Value>> inputs = setInputs();
   logger_.setInputsSet(inputs.has_value());
   if (inputs) {
@@ -153,6 +156,7 @@ void Session::reportOutputs(const std::vector<Orvel::Value>& values, FrameRecord
     }
   }
   logger_.setOutputsReported(complete);
+  if (settings_.recordFrames && isPictured()) recordPictures(values, record);
 }
 
 void Session::saveOutputs(const std::vector<Orvel::Value>& values) {
@@ -173,6 +177,27 @@ void Session::save(const OutputSave& saving, const Orvel::Value& value) {
   } catch (const std::exception&) {
     noteFailure("Saving output port " + inQuotes(saving.output) + " failed: ");
   }
+}
+
+/// Of the outputs whose values are recorded.
+void Session::recordPictures(const std::vector<Orvel::Value>& values, FrameRecord& record) {
+  const auto start = std::chrono::steady_clock::now();
+  for (std::size_t i = 0; i < values.size(); ++i) {
+    const GraphOutput& output = graph_.outputs[i];
+    if (!record.values.contains(output.name)) continue;
+    try {
+      std::string picture = valuePicture(graph_.typeOfSlot(output.source), values[i]);
+      if (!picture.empty()) record.pictures[output.name] = std::move(picture);
+    } catch (const std::exception&) {
+      noteFailure("Picturing output port " + inQuotes(output.name) + " failed: ");
+    }
+  }
+  picturing_ = std::chrono::steady_clock::now() - start;
+}
+
+bool Session::isPictured() const {
+  if (settings_.pictureFrames) return settings_.pictureFrames->placeOf(context_.frame).has_value();
+  return description_.frameIndex + 1 == description_.frameCount;
 }
 
 void Session::noteRead(const std::filesystem::path& file) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <filesystem>
 #include <functional>
@@ -61,6 +62,8 @@ struct RunSettings {
   /// So many of each array stand in its exact value; `allElements` of them for all.
   std::uint64_t elements = 0;
   std::vector<OutputSave> saves;
+  /// The frames whose records have pictures too; nothing for the last one of the job.
+  std::optional<FrameList> pictureFrames;
 };
 
 /// Runs frames of a graph, in one group with one entry a frame.
@@ -92,6 +95,9 @@ class Session {
   void noteFailure(const std::string& what);
   void noteRead(const std::filesystem::path& file);
   Failure failureOfFrame() const;
+  /// Whether the current frame's record has pictures.
+  bool isPictured() const;
+  void recordPictures(const std::vector<Orvel::Value>& values, FrameRecord& record);
   bool hasMessageUpTo(LogLevel level) const;
 
   const Graph& graph_;
@@ -112,6 +118,8 @@ class Session {
   std::set<std::filesystem::path> filesRead_;
   /// The same by all frames so far, by `fileIdentity`.
   std::set<std::filesystem::path> allFilesRead_;
+  /// What pictures of the current frame took, which is no work of the graph's.
+  std::chrono::steady_clock::duration picturing_{};
 };
 
 }  // namespace vtlcmd::runner

@@ -45,6 +45,10 @@ void writeOutputs(JsonWriter& json, const FrameRecord& record) {
       json.key("value");
       json.raw(value->second);
     }
+    if (const auto picture = record.pictures.find(name); picture != record.pictures.end()) {
+      json.key("picture");
+      json.raw(picture->second);
+    }
     json.close('}');
   }
   json.close('}');

@@ -40,8 +40,8 @@ Axis Axis::rounded(double low, double high, int marks) {
   if (step == 0 || !std::isfinite(first) || !std::isfinite(last))
     return exact(low, high, marks, false);
   Axis axis(first, last);
-  const double steps = std::round(last / step - first / step);
-  for (double i = 0; i <= steps; ++i) axis.addMark((std::floor(low / step) + i) * step, step);
+  const auto steps = static_cast<int>(std::round(last / step - first / step));
+  for (int i = 0; i <= steps; ++i) axis.addMark((std::floor(low / step) + i) * step, step);
   return axis;
 }
 
@@ -50,16 +50,31 @@ Axis Axis::exact(double low, double high, int marks, bool isWhole) {
   double step = roundStep(low, high, marks);
   if (isWhole) step = std::max(step, 1.0);
   axis.addMark(low, step);
-  if (step > 0 && high > low) {
-    const double first = std::ceil(low / step);
-    for (int i = 0; i <= 2 * marks; ++i) {
-      const double place = (first + i) * step;
-      const double share = axis.share(place);
-      if (share >= nearestToEnd && share <= 1 - nearestToEnd) axis.addMark(place, step);
-    }
-  }
-  if (high > low) axis.addMark(high, step);
+  axis.addInnerMarks(marks, step, nearestToEnd);
+  axis.addMark(high, step);
   return axis;
+}
+
+Axis Axis::inner(double low, double high, int marks) {
+  Axis axis(low, high);
+  axis.addInnerMarks(marks, roundStep(low, high, marks), 0);
+  return axis;
+}
+
+Axis Axis::widened(double by) const {
+  Axis axis = *this;
+  axis.low_ -= by;
+  axis.high_ += by;
+  return axis;
+}
+
+void Axis::addInnerMarks(int marks, double step, double nearest) {
+  if (!(step > 0 && high_ > low_)) return;
+  const double first = std::ceil(low_ / step);
+  for (int i = 0; i <= 2 * marks; ++i) {
+    const double place = (first + i) * step;
+    if (share(place) >= nearest && share(place) <= 1 - nearest) addMark(place, step);
+  }
 }
 
 double Axis::share(double number) const {

@@ -16,6 +16,12 @@ class Axis {
   /// marks at whole numbers only.
   static Axis exact(double low, double high, int marks, bool isWhole);
 
+  /// From `low` to `high` exactly, with marks at round numbers alone.
+  static Axis inner(double low, double high, int marks);
+
+  /// The same with so much more room at both ends.
+  Axis widened(double by) const;
+
   double low() const noexcept { return low_; }
   double high() const noexcept { return high_; }
 
@@ -30,6 +36,8 @@ class Axis {
 
  private:
   Axis(double low, double high) : low_(low), high_(high) {}
+  /// Not nearer to an end than that share.
+  void addInnerMarks(int marks, double step, double nearest);
   void addMark(double place, double step);
 
   double low_;

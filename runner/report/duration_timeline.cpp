@@ -103,8 +103,9 @@ void DurationTimeline::writeLane(std::ostream& page, const std::string& name, co
   for (const Bar& bar : lane.bars) {
     const double left = x.share(bar.frame) * (width - barWidth);
     const std::string top = shortNumber(y.share(bar.seconds) * height, 4);
-    (bar.failed ? failed : passed) +=
-        "M" + shortNumber(left, 5) + " 100v-" + top + "h" + thickness + "v" + top + "z";
+    std::string& data = bar.failed ? failed : passed;
+    data.append("M").append(shortNumber(left, 5)).append(" 100v-").append(top);
+    data.append("h").append(thickness).append("v").append(top).append("z");
   }
   if (lanes().size() > 1) writeLaneHead(page, name, lane);
   page << "<div class='plot'><div class='y'><span style='top:0'>" << durationText(y.high())

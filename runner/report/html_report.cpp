@@ -40,7 +40,7 @@ class FrameSections {
   }
 
   void write(std::ostream& page, const JournalSurvey& survey) const {
-    messages_.writeProblems(page);
+    messages_.writeProblems(page, survey.missingFrames());
     if (survey.run.at("loaded")) writeGivenTexts(page, survey);
     if (!outputs_.empty() && survey.frames > 0) {
       page << "<section><h2>Outputs</h2>\n";

@@ -97,6 +97,14 @@ std::string styleOf(const LinePlot& plot, std::size_t series) {
   return isStatistic(name) ? name : "s" + std::to_string(series % styles);
 }
 
+/// Empty without data.
+std::string pathHtml(const std::string& style, const std::string& data, const std::string& name) {
+  if (data.empty()) return "";
+  std::string html = "<path class='";
+  html.append(style).append("' d='").append(data).append("'><title>");
+  return html.append(htmlText(name)).append("</title></path>");
+}
+
 std::string pictureHtml(const LinePlot& plot, const Scales& scales) {
   std::string html =
       "<svg viewBox='0 0 1000 500' preserveAspectRatio='none' role='img' aria-label='" +
@@ -105,14 +113,9 @@ std::string pictureHtml(const LinePlot& plot, const Scales& scales) {
     html += "M0 " + shortNumber((1 - scales.y.share(mark.place)) * height, 5) + "H1000";
   html += "'/>" + bandHtml(plot, scales);
   for (std::size_t i = 0; i < plot.series.size(); ++i) {
-    const auto addPath = [&](const std::string& style, const std::string& data) {
-      if (data.empty()) return;
-      html += "<path class='" + style + "' d='" + data + "'><title>" +
-              htmlText(plot.series[i].name) + "</title></path>";
-    };
     const Drawing drawing = drawingOf(plot.series[i], scales);
-    addPath(styleOf(plot, i), drawing.lines);
-    addPath(styleOf(plot, i) + " dot", drawing.dots);
+    html += pathHtml(styleOf(plot, i), drawing.lines, plot.series[i].name);
+    html += pathHtml(styleOf(plot, i) + " dot", drawing.dots, plot.series[i].name);
   }
   return html + "</svg>";
 }
@@ -171,10 +174,12 @@ std::string bottomLabelsHtml(const Axis& axis) {
   return html + "</div>";
 }
 
-std::string leftLabelsHtml(const Axis& axis) {
+std::string leftLabelsHtml(const Axis& axis, bool isDown) {
   std::string html = "<div class='y'>";
-  for (const Axis::Mark& mark : axis.marks())
-    html += labelHtml("top", 1 - axis.share(mark.place), mark.label);
+  for (const Axis::Mark& mark : axis.marks()) {
+    const double share = axis.share(mark.place);
+    html += labelHtml("top", isDown ? share : 1 - share, mark.label);
+  }
   return html + "</div>";
 }
 

@@ -55,8 +55,8 @@ struct LinePlot {
 std::string linePlotHtml(const LinePlot& plot, const FrameRange& frames);
 
 /// The labels of an axis as elements that are placed by the share of a length, from the left or the
-/// top.
+/// top. `isDown`: the low end is on top.
 std::string bottomLabelsHtml(const Axis& axis);
-std::string leftLabelsHtml(const Axis& axis);
+std::string leftLabelsHtml(const Axis& axis, bool isDown = false);
 
 }  // namespace vtlcmd::runner

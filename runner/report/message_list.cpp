@@ -81,11 +81,14 @@ MessageList::Message* MessageList::find(const std::string& level, const std::str
   return &messages_.emplace_back(Message{level, source, text, {}});
 }
 
-void MessageList::writeProblems(std::ostream& page) const {
-  if (problems_.bytes == 0 && failed_.count() == 0 && interrupted_.count() == 0) return;
+void MessageList::writeProblems(std::ostream& page, const std::string& missing) const {
+  if (problems_.bytes == 0 && failed_.count() == 0 && interrupted_.count() == 0 && missing.empty())
+    return;
   page << "<section class='problems'><h2>Problems</h2>\n";
   writeFrames(page, "failed", failed_);
   writeFrames(page, "interrupted", interrupted_);
+  if (!missing.empty())
+    page << "<p class='failed'>Frames missing: " << htmlText(missing) << "</p>\n";
   page << "<table class='log'>\n";
   for (const char* level : problemLevels) {
     for (const Message& message : messages_) {

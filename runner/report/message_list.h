@@ -18,8 +18,9 @@ class MessageList {
   /// Those of no frame, by who speaks and by level.
   void addOfRun(const nlohmann::ordered_json& messages);
 
-  /// Which frames failed, and critical messages, errors and warnings, the worst first.
-  void writeProblems(std::ostream& page) const;
+  /// Which frames are missing, by `missing`, and which failed, and critical messages, errors and
+  /// warnings, the worst first.
+  void writeProblems(std::ostream& page, const std::string& missing) const;
   /// The others but those that are the text of an output, behind a line that opens them.
   void writeOthers(std::ostream& page) const;
 

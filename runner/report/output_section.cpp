@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <ostream>
 
+#include "report/histogram_plot.h"
 #include "report/html_text.h"
+#include "report/point_views.h"
 
 namespace vtlcmd::runner {
 namespace {
@@ -44,12 +46,31 @@ void OutputSection::add(const PageFrame& frame) {
   // The exact value of a string is its text.
   if (found->contains("value") && type_ != "string")
     plots_.add(frame.index, frame.number, found->at("value"));
+  if (found->contains("picture")) addPicture(found->at("picture"), frame.text);
+}
+
+void OutputSection::addPicture(const Json& picture, const std::string& frame) {
+  // The first one may be larger.
+  if (!pictures_.empty() && pictures_.size() > room_ / 2) {
+    ++morePictures_;
+    return;
+  }
+  if (picture.contains("histogram")) pictures_ += histogramHtml(picture["histogram"], frame);
+  if (picture.contains("points")) pictures_ += pointViewsHtml(picture, frame);
+}
+
+void OutputSection::writePictures(std::ostream& page) const {
+  if (pictures_.empty()) return;
+  page << "<div class='pictures'>\n" << pictures_ << "</div>\n";
+  if (morePictures_ > 0)
+    page << "<p class='none'>" << counted(morePictures_, "picture") << " more in the journal</p>\n";
 }
 
 void OutputSection::write(std::ostream& page, const FrameRange& frames) const {
   page << "<article><h3>" << htmlText(name_) << " <span class='type'>" << htmlText(type_)
        << "</span></h3><div>\n";
   writePlots(page, frames);
+  writePictures(page);
   writeConstants(page);
   writeTexts(page);
   writeNote(page, "Shown without a value", notShown_);

@@ -1,9 +1,11 @@
 #include "report/page_head.h"
 
+#include <algorithm>
+#include <charconv>
 #include <chrono>
-#include <cstdio>
 #include <optional>
 #include <ostream>
+#include <vector>
 
 #include "report/duration_timeline.h"
 #include "report/frame_ranges.h"
@@ -17,6 +19,9 @@ using Json = nlohmann::ordered_json;
 
 /// So many digits of a hash tell files apart.
 constexpr std::size_t shortHash = 12;
+constexpr std::size_t mostHosts = 8;
+/// Of a time like 2026-01-31T23:59:59Z.
+constexpr std::size_t timeLength = 20;
 
 std::string html(const Json& text) { return htmlText(text.get_ref<const std::string&>()); }
 
@@ -24,38 +29,48 @@ void writeFact(std::ostream& page, const char* name, const std::string& content)
   page << "<div><dt>" << name << "</dt><dd>" << content << "</dd></div>\n";
 }
 
+/// Options aren't broken at their dashes.
 std::string commandHtml(const Json& arguments) {
-  std::string command = "vtlcmd";
-  for (const Json& argument : arguments)
-    command += " " + shellQuoted(argument.get_ref<const std::string&>());
-  return "<code>" + htmlText(command) + "</code>";
+  std::string html = "<code>vtlcmd";
+  for (const Json& argument : arguments) {
+    const std::string word = htmlText(shellQuoted(argument.get_ref<const std::string&>()));
+    html += word.starts_with('-') && word.size() < 40 ? " <span>" + word + "</span>" : " " + word;
+  }
+  return html + "</code>";
 }
 
-/// Seconds since some day of a time like 2026-01-31T23:59:59Z.
-std::optional<long long> secondsAt(const Json& time) {
-  int year = 0;
-  unsigned month = 0, day = 0;
-  int hours = 0, minutes = 0, seconds = 0;
-  if (!time.is_string() ||
-      std::sscanf(time.get_ref<const std::string&>().c_str(), "%d-%u-%uT%d:%d:%dZ", &year, &month,
-                  &day, &hours, &minutes, &seconds) != 6)
+/// The number in so many digits of a text from a place on; 0 without one.
+int numberAt(const std::string& text, std::size_t place, std::size_t digits) {
+  int number = 0;
+  std::from_chars(text.data() + place, text.data() + place + digits, number);
+  return number;
+}
+
+/// What a text like 2026-01-31T23:59:59Z says.
+std::optional<std::chrono::sys_seconds> timeIn(const Json& json) {
+  if (!json.is_string() || json.get_ref<const std::string&>().size() != timeLength)
     return std::nullopt;
+  const auto& text = json.get_ref<const std::string&>();
   using namespace std::chrono;
-  const sys_days date = std::chrono::year(year) / std::chrono::month(month) / std::chrono::day(day);
-  return date.time_since_epoch().count() * 86400LL + hours * 3600 + minutes * 60 + seconds;
+  const year_month_day date(year(numberAt(text, 0, 4)),
+                            month(static_cast<unsigned>(numberAt(text, 5, 2))),
+                            day(static_cast<unsigned>(numberAt(text, 8, 2))));
+  if (!date.ok()) return std::nullopt;
+  return sys_days(date) + hours(numberAt(text, 11, 2)) + minutes(numberAt(text, 14, 2)) +
+         seconds(numberAt(text, 17, 2));
 }
 
 std::string startText(const JournalSurvey& survey) {
   std::string text = html(survey.runTimes.at("started"));
-  if (text.size() == 20) {
+  if (text.size() == timeLength) {
     text.replace(10, 1, " ");
     text.replace(19, 1, " UTC");
   }
   const Json& ended = survey.endTimes.is_object() ? survey.endTimes.value("ended", Json()) : Json();
-  const auto begin = secondsAt(survey.runTimes.at("started"));
-  const auto end = secondsAt(ended);
+  const auto begin = timeIn(survey.runTimes.at("started"));
+  const auto end = timeIn(ended);
   if (begin && end && *end > *begin)
-    text += ", took " + durationText(static_cast<double>(*end - *begin));
+    text += ", took " + durationText(std::chrono::duration<double>(*end - *begin).count());
   return text;
 }
 
@@ -69,6 +84,20 @@ void writeState(std::ostream& page, const JournalSurvey& survey) {
          << counted(count, level == "critical" ? "critical message" : level) << "</span>";
   }
   page << "</p>\n";
+}
+
+/// The machines of the job, each once, from the earliest on.
+std::string hostsText(const JournalSurvey& survey) {
+  std::vector<std::string> hosts;
+  for (const ReportedRun& run : survey.runs) {
+    if (std::find(hosts.begin(), hosts.end(), run.host()) == hosts.end())
+      hosts.push_back(run.host());
+  }
+  std::string text;
+  for (std::size_t i = 0; i < std::min(hosts.size(), mostHosts); ++i)
+    text += (i == 0 ? "" : ", ") + hosts[i];
+  if (hosts.size() > mostHosts) text += " and " + groupedDigits(hosts.size() - mostHosts) + " more";
+  return text;
 }
 
 std::string countsText(const JournalSurvey& survey) {
@@ -87,7 +116,7 @@ void writeFacts(std::ostream& page, const JournalSurvey& survey) {
   writeFact(page, "Graph", html(run.at("graph_file")));
   if (!survey.runTimes.is_null() && survey.runTimes.contains("started")) {
     writeFact(page, "Started", startText(survey));
-    writeFact(page, "Host", html(survey.runTimes.at("host")));
+    writeFact(page, "Host", htmlText(hostsText(survey)));
   }
   std::string versions = "vtlcmd " + html(run.at("program"));
   const Json plugIn = run.contains("key") ? run["key"].at("plug_in") : Json();
@@ -96,8 +125,11 @@ void writeFacts(std::ostream& page, const JournalSurvey& survey) {
                 html(plugIn).substr(0, shortHash) + "</span>";
   writeFact(page, "Versions", versions);
   page << "</dl>\n";
-  if (!survey.runTimes.is_null() && survey.runTimes.contains("arguments"))
-    page << "<p class='command'>" << commandHtml(survey.runTimes.at("arguments")) << "</p>\n";
+  if (survey.runTimes.is_null() || !survey.runTimes.contains("arguments")) return;
+  page << "<p class='command'>" << commandHtml(survey.runTimes.at("arguments")) << "</p>\n";
+  if (survey.runs.size() > 1)
+    page << "<p class='none'>The first of " << counted(survey.runs.size(), "run")
+         << " of this job</p>\n";
 }
 
 void writeRow(std::ostream& page, const std::string& name, const std::string& kind,

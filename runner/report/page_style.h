@@ -40,6 +40,7 @@ dt { color: var(--faint); font-size: .8rem; }
 dd { margin: 0; overflow-wrap: anywhere; }
 .command { margin: 1rem 0 0; padding: .6rem .9rem; background: var(--box); border-radius: .4rem;
   overflow-wrap: anywhere; white-space: pre-wrap; }
+.command span { white-space: nowrap; }
 table { border-collapse: collapse; }
 th, td { text-align: left; vertical-align: top; padding: .2rem 1.2rem .2rem 0; }
 th { font-weight: 500; }
@@ -60,10 +61,12 @@ article > div { display: grid; gap: 1rem; justify-items: start; grid-template-co
 .numbers td, .numbers th { padding: .1rem 1.6rem .1rem 0; vertical-align: baseline; }
 .numbers td, .numbers th[scope=col] { text-align: right; }
 .numbers th[scope=row]:empty, .numbers td:first-child { padding: 0; }
-.plots { display: grid; gap: 1.4rem 2.2rem;
+.plots, .pictures { display: grid; gap: 1.4rem 2.2rem;
   grid-template-columns: repeat(auto-fit, minmax(min(100%, 17rem), 1fr)); }
 figure { margin: 0; min-width: 0; max-width: 38rem; }
 figcaption b { font-weight: 500; }
+figcaption b + .facts { margin-left: .4rem; }
+.pictures figure:not(.points) { max-width: 28rem; }
 figcaption { margin-bottom: .45rem; font-size: .85rem; }
 .key { color: var(--faint); margin-left: .6rem; white-space: nowrap; }
 .key:first-child { margin-left: 0; }
@@ -87,6 +90,12 @@ path.grid { stroke: var(--line); stroke-width: 1; }
 path.band { fill: var(--band); stroke: none; }
 path.bars { fill: var(--s0); stroke: none; }
 path.bars.bad { fill: var(--error); }
+figure.points { max-width: 64rem; grid-column: 1 / -1; }
+.views { display: grid; gap: 1rem 1.5rem;
+  grid-template-columns: repeat(auto-fit, minmax(min(100%, 11rem), 1fr)); font-size: .8rem; }
+.view { grid-template-columns: 2.8rem minmax(0, 1fr); margin-top: .4rem; }
+.view svg { height: auto; aspect-ratio: 1; }
+path.points { stroke: var(--s0); stroke-width: 4; } path.many { stroke-width: 2; }
 .lane { margin-top: .8rem; display: flex; flex-wrap: wrap; gap: 0 .8rem; font-size: .85rem; }
 .lane b { font-weight: 500; }
 .lanes .plot { grid-template-columns: 4.4rem minmax(0, 1fr); margin-top: .4rem; }

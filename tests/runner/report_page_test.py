@@ -46,6 +46,9 @@ return {
   lineColors: new Set([...document.querySelectorAll('figure path')]
       .map(p => getComputedStyle(p).stroke)).size,
   marks: texts('figure .x'), crowded: [...document.querySelectorAll('.x, .y')].filter(overlaps).length,
+  views: document.querySelectorAll('.view svg').length,
+  dots: [...document.querySelectorAll('.view svg')].every(svg =>
+      inside(box(svg.querySelector('path.points')), box(svg))),
   bars: document.querySelectorAll('path.bars').length, pairs: texts('.texts tr').length,
   shown: visible('pre'), commands: texts('.command'), numbers: texts('.numbers td'),
   problems: texts('.problems p, .problems .text'),
@@ -147,13 +150,22 @@ with tempfile.TemporaryDirectory() as folder, Browser() as browser:
 
     run(page, "examples/scatter.json", "-f", "1-20", "-s", "count=50", "-s", "offset=1,0,-5")
     facts = browser.open(page)
-    expect("captions of what doesn't change", facts["captions"], [])
+    expect("captions but those of pictures", [text for text in facts["captions"]
+                                               if not text.startswith("Frame 20 ")], [])
     expect("exact numbers", facts["numbers"][1], "50")
     expect("the given texts", facts["shown"][:2], ["50", "1,0,-5"])
     command = facts["commands"][0]
     expect("the command's words", shlex.split(command)[:9],
            ["vtlcmd", "run", "examples/scatter.json", "-f", "1-20", "-s", "count=50", "-s",
             "offset=1,0,-5"])
+
+    run(page, "examples/waves.json", "-f", "1-9", "--picture", "1,9")
+    facts = browser.open(page)
+    expect("plots and pictures", [" ".join(text.split()) for text in facts["captions"]],
+           ["value", "min max avg", "Frame 1 3,000 elements", "Frame 9 3,000 elements",
+            "y min max avg", "Frame 1 3,000 points", "Frame 9 3,000 points"])
+    expect("views of points", facts["views"], 6)
+    expect("their dots in sight", facts["dots"], True)
 
     run(page, "examples/division.json", "-f", "1-5", "-s", "divisor=0")
     facts = browser.open(page)
