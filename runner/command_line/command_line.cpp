@@ -84,6 +84,7 @@ void addCommands(CLI::App& app, CommandState& state) {
   app.set_version_flag("--version", versionText());
   addRunCommand(app, state);
   addReportCommand(app, state);
+  addDiffCommand(app, state);
   addSubmitCommand(app, state);
   addResubmitCommand(app, state);
   addStatusCommand(app);

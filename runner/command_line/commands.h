@@ -23,6 +23,7 @@ void addCommands(CLI::App& app, CommandState& state);
 // Each adds a subcommand whose callback does the work. App and state must outlive the parse.
 void addRunCommand(CLI::App& app, CommandState& state);
 void addReportCommand(CLI::App& app, CommandState& state);
+void addDiffCommand(CLI::App& app, CommandState& state);
 void addSubmitCommand(CLI::App& app, CommandState& state);
 void addResubmitCommand(CLI::App& app, CommandState& state);
 void addStatusCommand(CLI::App& app);

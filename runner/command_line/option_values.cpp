@@ -51,6 +51,21 @@ double parseFramesPerSecond(const std::string& text) {
                    ("not " + inQuotes(text)));
 }
 
+Tolerance parseTolerance(const std::string& text) {
+  const std::size_t comma = text.find(',');
+  const std::optional<double> absolute = numberIn<double>(text.substr(0, comma));
+  const std::optional<double> relative =
+      comma == std::string::npos ? 0.0 : numberIn<double>(text.substr(comma + 1));
+  for (const std::optional<double>& number : {absolute, relative}) {
+    if (!number || !std::isfinite(*number) || *number < 0)
+      throw UsageError(
+          "--tolerance takes one or two numbers of zero or more, like 1e-6 or "
+          "1e-9,1e-6, not " +
+          inQuotes(text));
+  }
+  return {*absolute, *relative};
+}
+
 std::uint32_t parseVerbosity(const std::string& text) {
   const auto& names = VtlCmdLogger::levelNames;
   const auto named = std::find(names.begin(), names.end(), text) - names.begin();

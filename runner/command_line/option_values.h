@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <string>
 
+#include "diff/tolerance.h"
 #include "execution/frame_list.h"
 #include "host/host_records.h"
 
@@ -23,6 +24,10 @@ std::uint32_t parsePrintLimit(const std::string& text);
 
 /// A number of elements, or `allElements` for `all`. Throws UsageError.
 std::uint64_t parseElements(const std::string& text);
+
+/// How far numbers may be apart: `ABS` or `ABS,REL`, both finite and at least zero. Throws
+/// UsageError.
+Tolerance parseTolerance(const std::string& text);
 
 /// A path as the plug-in wants it. Throws UsageError, which names the option, for a text that can't
 /// be converted.

@@ -20,9 +20,11 @@ namespace {
 constexpr const char* footer = R"(Examples:
   vtlcmd report run.journal -o run.html
   vtlcmd report part*.journal -o job.html
+  vtlcmd report run.journal -o run.csv
   vtlcmd report run.journal -o - | jq .totals
 
-The exit code is 1 when frames of the run are missing.
+Of a frame that ran more than once a success comes before a failure, then the
+later run. The exit code is 1 when frames of the run are missing.
 )";
 
 struct ReportCommandOptions {
@@ -36,6 +38,7 @@ struct ReportCommandOptions {
 ReportFormat formatOf(const ReportCommandOptions& options) {
   if (options.format == "json") return ReportFormat::json;
   if (options.format == "html") return ReportFormat::html;
+  if (options.format == "csv") return ReportFormat::csv;
   return reportFormatOf(filePath(options.output));
 }
 
@@ -96,13 +99,13 @@ void addReportCommand(CLI::App& app, CommandState& state) {
       ->type_name("");
   command
       ->add_option("-o,--output", options->output,
-                   "File of the report: a page for people when it is named *.html, else a JSON "
-                   "document; '-' is the standard output")
+                   "File of the report: a page for people when it is named *.html, a table when "
+                   "it is named *.csv, else a JSON document; '-' is the standard output")
       ->required()
       ->type_name("FILE");
   command->add_option("--format", options->format, "Form of the report, whatever its name")
       ->type_name("FORM")
-      ->check(CLI::IsMember({"json", "html"}));
+      ->check(CLI::IsMember({"json", "html", "csv"}));
   command->add_flag("--no-times", options->noTimes,
                     "Leave out what another run of the same would tell differently");
   command->footer(footer);

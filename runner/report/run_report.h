@@ -7,9 +7,10 @@
 
 namespace vtlcmd::runner {
 
-enum class ReportFormat { json, html };
+enum class ReportFormat { json, html, csv };
 
-/// A page for people in files named *.html and *.htm, else a document for scripts.
+/// A page for people in files named *.html and *.htm, a table in those named *.csv, else a document
+/// for scripts.
 ReportFormat reportFormatOf(const std::filesystem::path& file);
 
 /// Writes the report that journals give; the survey is theirs. Takes no memory that grows with the

@@ -37,6 +37,8 @@ class JsonWriter {
     if constexpr (std::floating_point<T>) {
       if (std::isnan(value)) return raw("\"nan\"");
       if (std::isinf(value)) return raw(value > 0 ? "\"inf\"" : "\"-inf\"");
+      // Without a point readers take it for an integer, and lose the sign.
+      if (value == 0 && std::signbit(value)) return raw("-0.0");
     }
     // Long enough for the shortest text of any number.
     char digits[32];

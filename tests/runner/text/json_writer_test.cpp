@@ -50,7 +50,7 @@ TEST(JsonWriter, FloatingTextsAreTheShortestOfTheirType) {
   EXPECT_EQ(numberText(0.1), "0.1");
   EXPECT_EQ(numberText(double{0.1F}), "0.10000000149011612");
   EXPECT_EQ(numberText(16777216.0F), "16777216");
-  EXPECT_EQ(numberText(-0.0), "-0");
+  EXPECT_EQ(numberText(-0.0), "-0.0");
   EXPECT_EQ(numberText(5e-324), "5e-324");
 }
 

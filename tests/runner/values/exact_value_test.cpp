@@ -33,7 +33,7 @@ TEST(ExactValue, SingleValuesKeepAllBits) {
   EXPECT_EQ(single("double", 0.1 + 0.2), "0.30000000000000004");
   EXPECT_EQ(single("ulong", std::numeric_limits<std::uint64_t>::max()), "18446744073709551615");
   EXPECT_EQ(single("string", libraryText("a\"b")), "\"a\\\"b\"");
-  EXPECT_EQ(single("Math::float3", Vantrel::Math::float3{{1, 0.1F, -0.0F}}), "[1,0.1,-0]");
+  EXPECT_EQ(single("Math::float3", Vantrel::Math::float3{{1, 0.1F, -0.0F}}), "[1,0.1,-0.0]");
   EXPECT_EQ(single("Object", ObjectPtr{}), "null");
 }
 
