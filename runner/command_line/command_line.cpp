@@ -36,6 +36,7 @@ Exit codes:
   128 + number of the signal that interrupted: 129, 130 or 143
 
 Environment:
+  VTLCMD_WORKERS               what --workers is when it isn't given
   NO_COLOR                     when set and not empty, --color auto means never
   QUILLON_DUMP_VERSION_INFO    when 1, the plug-in says at load who it is
 )";

@@ -40,14 +40,14 @@ RunEnd endAfter(const WorkerError& error, Failure ofFrames) {
 }  // namespace
 
 FrameRun::FrameRun(const LoadedRun& loaded, const RunOptions& options, RunReports& reports,
-                   RunJournal* journal)
+                   RunJournal* journal, const std::vector<bool>& isDone)
     : loaded_(loaded),
       report_(reports.useStandardOutput() ? standardErrors() : standardOutput()),
       logger_(options.report.printLimit()),
-      progress_(std::cerr, progressForm(options.progress), loaded.settings.frames.size()),
+      queue_(loaded.settings.frames.size(), isDone),
+      progress_(std::cerr, progressForm(options.progress), queue_.left()),
       printer_(logger_, static_cast<std::int16_t>(loaded.settings.verbosity),
                options.report.sinks(report_), progress_, loaded.settings.frames.wholeSize() > 1),
-      queue_(loaded.settings.frames.size()),
       collector_(loaded.settings.frames, queue_, journal, printer_, progress_, report_.stream,
                  {loaded.frames.failFast, [&reports](const FrameRecord& record) {
                     for (const std::filesystem::path& file : record.filesRead) reports.keep(file);

@@ -15,9 +15,10 @@ namespace vtlcmd::runner {
 /// The frames of a run, from the first one to the last: runs and prints them.
 class FrameRun {
  public:
-  /// The journal may be null. All must outlive this.
+  /// The journal may be null; `isDone` has the frames that needn't run, by place, or is empty. All
+  /// must outlive this.
   FrameRun(const LoadedRun& loaded, const RunOptions& options, RunReports& reports,
-           RunJournal* journal);
+           RunJournal* journal, const std::vector<bool>& isDone);
 
   /// Leaves the end of the journal to be written. Throws std::system_error when the journal can't
   /// be written. To be called once.
@@ -31,10 +32,10 @@ class FrameRun {
   const LoadedRun& loaded_;
   TextSink report_;
   VtlCmdLogger logger_;
+  FrameQueue queue_;
   Progress progress_;
   std::optional<ProgressTicker> ticker_;
   FramePrinter printer_;
-  FrameQueue queue_;
   FrameCollector collector_;
 };
 

@@ -36,14 +36,15 @@ OutputError journalError(const std::filesystem::path& file, const std::system_er
 class RecordedRun {
  public:
   RecordedRun(const LoadedRun& loaded, const RunOptions& options, RunReports& reports,
-              JournalFile file)
+              const std::string& content, OpenJournal journal)
       : loaded_(loaded),
         options_(options),
         reports_(reports),
-        journal_(std::move(file),
-                 runContent(loaded.graph, loaded.settings, loaded.plugInFile,
-                            options.report.printLimit()),
-                 runTimes(loaded.settings.arguments)) {}
+        isDone_(std::move(journal.earlier.isDone)),
+        journal_(std::move(journal.file), content,
+                 runTimes(loaded.settings.arguments, journal.earlier.attempt + 1)) {
+    for (const std::filesystem::path& file : journal.earlier.filesRead) reports.keep(file);
+  }
 
   ExitCode run() {
     runFrames();
@@ -60,7 +61,7 @@ class RecordedRun {
  private:
   void runFrames() {
     try {
-      const RunEnd end = FrameRun(loaded_, options_, reports_, &journal_).run();
+      const RunEnd end = FrameRun(loaded_, options_, reports_, &journal_, isDone_).run();
       code_ = static_cast<ExitCode>(end.exitCode);
       journal_.end(end);
     } catch (const std::system_error& error) {
@@ -85,6 +86,8 @@ class RecordedRun {
   const LoadedRun& loaded_;
   const RunOptions& options_;
   RunReports& reports_;
+  /// By place, what earlier runs have done; empty without such.
+  std::vector<bool> isDone_;
   RunJournal journal_;
   ExitCode code_ = ExitCode::success;
   bool hasOutputError_ = false;
@@ -159,10 +162,16 @@ OutputTargets refuseTargets(const RunOptions& options,
 
 ExitCode runGraph(const LoadedRun& loaded, const RunOptions& options, RunReports& reports) {
   if (loaded.settings.verbosity >= levelWarning) tellOfPorts(loaded);
-  std::optional<JournalFile> file = openJournal(options, reports);
+  if (!needsJournal(options, reports)) {
+    refuseLostResume(options);
+    rememberInterrupts();
+    return static_cast<ExitCode>(FrameRun(loaded, options, reports, nullptr, {}).run().exitCode);
+  }
+  const std::string content =
+      runContent(loaded.graph, loaded.settings, loaded.plugInFile, options.report.printLimit());
+  OpenJournal journal = openJournal(options, reports, content, loaded.settings.frames);
   rememberInterrupts();
-  if (file) return RecordedRun(loaded, options, reports, *std::move(file)).run();
-  return static_cast<ExitCode>(FrameRun(loaded, options, reports, nullptr).run().exitCode);
+  return RecordedRun(loaded, options, reports, content, std::move(journal)).run();
 }
 
 void reportLoadFailure(const std::string& graph, const std::vector<std::string>& arguments,

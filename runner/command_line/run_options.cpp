@@ -80,8 +80,13 @@ void addRunOptions(CLI::App& command, RunOptions& options) {
                   "Keep a journal of the run, a line a frame, that outlives the process; 'vtlcmd "
                   "report' makes reports of it")
       ->type_name("FILE");
-  command.add_flag("--restart", options.restart,
-                   "Begin the journal anew where one is there already");
+  CLI::Option* restart = command.add_flag("--restart", options.restart,
+                                          "Begin the journal anew where one is there already");
+  command
+      .add_flag("--resume", options.resume,
+                "Go on with the journal where one is there already: run the frames that are "
+                "missing in it or failed")
+      ->excludes(restart);
   options.frameOptions.addTo(command);
   CLI::Option* progress = command.add_flag_callback(
       "--progress", [&options] { options.progress = true; },

@@ -38,6 +38,7 @@ struct RunOptions {
   bool noTimes = false;
   std::optional<std::string> journal;
   bool restart = false;
+  bool resume = false;
   /// Nothing: on a terminal.
   std::optional<bool> progress;
   FrameOptions frameOptions;

@@ -19,6 +19,13 @@ JournalFile::JournalFile(const std::filesystem::path& file) : file_(file) {
   if (!stream_) throwLast();
 }
 
+JournalFile::JournalFile(const std::filesystem::path& file, std::uint64_t size) : file_(file) {
+  std::filesystem::resize_file(file, size);
+  errno = 0;
+  stream_.open(file, std::ios::in | std::ios::out | std::ios::binary | std::ios::ate);
+  if (!stream_) throwLast();
+}
+
 JournalFile JournalFile::temporary() {
   std::random_device random;
   const std::string name =

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <fstream>
 #include <iosfwd>
@@ -13,6 +14,9 @@ class JournalFile {
  public:
   /// Begins an empty file in the place of what is there. Throws std::system_error.
   explicit JournalFile(const std::filesystem::path& file);
+  /// Goes on behind the first `size` bytes of a file, and drops what follows. Throws
+  /// std::system_error.
+  JournalFile(const std::filesystem::path& file, std::uint64_t size);
   /// A file of nobody else's in the folder for temporary ones, where the platform allows it without
   /// a name. Throws std::system_error.
   static JournalFile temporary();

@@ -112,11 +112,11 @@ std::string unloadedRunContent(const std::filesystem::path& graphFile) {
                    {"frame_count", 0}});
 }
 
-std::string runTimes(const std::vector<std::string>& arguments) {
+std::string runTimes(const std::vector<std::string>& arguments, std::uint64_t attempt) {
   return jsonText({{"arguments", arguments},
                    {"host", hostName()},
                    {"process", processNumber()},
-                   {"attempt", 1},
+                   {"attempt", attempt},
                    {"started", timeText(std::chrono::system_clock::now())}});
 }
 

@@ -18,7 +18,7 @@ std::string runContent(const Graph& graph, const RunSettings& settings,
 /// The same of a run whose graph or plug-in couldn't be loaded.
 std::string unloadedRunContent(const std::filesystem::path& graphFile);
 
-/// The line's "times": who runs it, with which words, and when.
-std::string runTimes(const std::vector<std::string>& arguments);
+/// The line's "times": who runs it, with which words, when, and for the how manieth time.
+std::string runTimes(const std::vector<std::string>& arguments, std::uint64_t attempt = 1);
 
 }  // namespace vtlcmd::runner

@@ -208,7 +208,7 @@ def kill_at(folder, lines):
     again = start(*MANY_FRAMES, "--report", report_file)
     expect("killed: the next run refuses", (again.communicate()[1].splitlines()[0], again.returncode),
            (f"vtlcmd: {journal} holds the journal of another run: 'vtlcmd report {journal} -o "
-            f"{report_file}' makes a report of it, --restart begins it anew", 2))
+            f"{report_file}' makes a report of it, --resume goes on with it, --restart begins it anew", 2))
     made = start("report", journal, "-o", report_file)
     expect("killed: frames are missing", (made.communicate()[1], made.returncode),
            (f"vtlcmd: {FRAMES - kept} of {FRAMES} frames are missing: {kept + 1}-{FRAMES}\n", 1))
