@@ -19,8 +19,8 @@ namespace vtlcmd::runner {
 namespace {
 
 /// Of `run`, those that say what only the folder's own files are for.
-constexpr std::array leftOut{"--job-frames", "--journal", "--restart", "--progress",
-                             "--no-progress"};
+constexpr std::array leftOut{"--job-frames", "--journal",  "--restart",
+                             "--resume",     "--progress", "--no-progress"};
 
 /// Those that are the whole job's, not a task's.
 constexpr std::array ofTheJob{"frames", "report", "no-times"};
