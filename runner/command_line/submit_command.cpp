@@ -20,10 +20,10 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr const char* footer = R"(Examples:
-  vtlcmd submit scatter.json -f 1-1000 --chunk 50 --to /farm/scatter -s count=1000
-  vtlcmd submit scatter.json -f 1-1000 --to /farm/scatter --wait -- --partition=long --mem=4G
-  vtlcmd status /farm/scatter
-  vtlcmd resubmit /farm/scatter
+  vtlcmd submit scatter.json -f 1-1000 --chunk 50 --to /farm/a -s count=1000
+  vtlcmd submit scatter.json -f 1-1000 --to /farm/b --wait -- --mem=4G
+  vtlcmd status /farm/a
+  vtlcmd resubmit /farm/a
 
 Each task runs in the folder in which this command is given, or in its copy.
 )";
