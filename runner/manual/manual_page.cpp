@@ -81,6 +81,17 @@ void writeSynopsis(std::ostream& page, const CLI::App& program, const CLI::App& 
   page << '\n';
 }
 
+void writeArguments(std::ostream& page, const CLI::App& command) {
+  const char* heading = ".SH ARGUMENTS\n";
+  for (const CLI::Option* option : command.get_options()) {
+    if (!option->get_positional()) continue;
+    page << heading << ".TP\n"
+         << italic(option->get_name(true)) << '\n'
+         << escaped(option->get_description()) << ".\n";
+    heading = "";
+  }
+}
+
 void writeCommands(std::ostream& page, const CLI::App& program) {
   page << ".SH COMMANDS\n";
   for (const CLI::App* command : program.get_subcommands({}))
@@ -132,6 +143,7 @@ std::string manualPage(const CLI::App& program, const CLI::App& command,
   writeHead(page, name, "1", version, "User commands", command.get_description());
   writeSynopsis(page, program, command);
   if (&program == &command) writeCommands(page, program);
+  writeArguments(page, command);
   page << ".SH OPTIONS\n";
   for (const CLI::Option* option : command.get_options()) {
     if (option->nonpositional()) writeOption(page, *option);
