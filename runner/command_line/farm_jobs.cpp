@@ -12,12 +12,12 @@
 #include "command_line/usage_error.h"
 #include "farm/chunks.h"
 #include "farm/frame_survey.h"
-#include "farm/shell_words.h"
 #include "farm/submission.h"
 #include "farm/task_scripts.h"
 #include "journal/run_line.h"
 #include "text/library_text.h"
 #include "text/path_text.h"
+#include "text/shell_quoting.h"
 
 namespace vtlcmd::runner {
 namespace {
@@ -116,7 +116,7 @@ void printTasks(const FarmFolder& folder, const FarmJob& job, std::size_t submis
   std::cout << TaskScripts(folder, job, submission).tasks(chunks.size());
   std::cerr << "vtlcmd: a dry run: " << chunks.size() << " tasks, from frames " << chunks.front()
             << " to frames " << chunks.back() << ", for "
-            << shellWords(submitWords(job.schedulerWords, "SCRIPT", "")) << '\n';
+            << shellQuotedWords(submitWords(job.schedulerWords, "SCRIPT", "")) << '\n';
 }
 
 std::size_t submit(const FarmFolder& folder, const FarmJob& job,

@@ -9,9 +9,9 @@
 #include "command_line/submit_options.h"
 #include "command_line/usage_error.h"
 #include "farm/frame_survey.h"
-#include "farm/shell_words.h"
 #include "journal/run_key.h"
 #include "text/path_text.h"
+#include "text/shell_quoting.h"
 #include "text/system_reason.h"
 
 namespace vtlcmd::runner {
@@ -86,8 +86,8 @@ ExitCode resubmit(const ResubmitOptions& options, const std::vector<std::string>
   if (left.empty()) {
     std::cout << "all " << frames.size() << " frames are done; this makes the report of them:\n";
     for (const std::filesystem::path& report : job.reports) {
-      std::cout << "vtlcmd report " << shellWord(fileText(folder.journals())) << "/*.journal -o "
-                << shellWord(fileText(report)) << '\n';
+      std::cout << "vtlcmd report " << shellQuoted(fileText(folder.journals())) << "/*.journal -o "
+                << shellQuoted(fileText(report)) << '\n';
     }
     return ExitCode::success;
   }

@@ -3,8 +3,8 @@
 #include <filesystem>
 #include <string_view>
 
-#include "farm/shell_words.h"
 #include "text/path_text.h"
+#include "text/shell_quoting.h"
 
 namespace vtlcmd::runner {
 namespace {
@@ -33,7 +33,7 @@ std::string schedulerName(const std::filesystem::path& folder, const std::string
 }
 
 std::string assignment(const std::string& name, const std::string& value) {
-  return name + "=" + shellWord(value) + "\n";
+  return name + "=" + shellQuoted(value) + "\n";
 }
 
 }  // namespace
@@ -58,10 +58,10 @@ std::string TaskScripts::tasks(std::size_t count) const {
   text += "# A task that was started again has a journal of its own.\n";
   text += "journal=$folder/journals/" + submission_ +
           "-$SLURM_ARRAY_TASK_ID${SLURM_RESTART_COUNT:+-$SLURM_RESTART_COUNT}.journal\n\n";
-  text += "cd " + shellWord(fileText(job_.workingFolder)) + "\n";
-  text += "exec " + shellWord(fileText(job_.program)) + " run " + shellWord(job_.graph);
-  for (const std::string& word : job_.runWords) text += " \\\n  " + shellWord(word);
-  text += " \\\n  \"--frames=$frames\" " + shellWord("--job-frames=" + job_.frames) +
+  text += "cd " + shellQuoted(fileText(job_.workingFolder)) + "\n";
+  text += "exec " + shellQuoted(fileText(job_.program)) + " run " + shellQuoted(job_.graph);
+  for (const std::string& word : job_.runWords) text += " \\\n  " + shellQuoted(word);
+  text += " \\\n  \"--frames=$frames\" " + shellQuoted("--job-frames=" + job_.frames) +
           " \"--journal=$journal\"\n";
   return text;
 }
@@ -72,9 +72,9 @@ std::string TaskScripts::report() const {
   text += assignment("folder", fileText(folder_.path()));
   text += "code=0\ncd \"$folder/journals\"\n";
   for (const std::filesystem::path& report : job_.reports) {
-    text +=
-        shellWord(fileText(job_.program)) + " report *.journal -o " + shellWord(fileText(report));
-    for (const std::string& word : job_.reportWords) text += " " + shellWord(word);
+    text += shellQuoted(fileText(job_.program)) + " report *.journal -o " +
+            shellQuoted(fileText(report));
+    for (const std::string& word : job_.reportWords) text += " " + shellQuoted(word);
     text += " || code=$?\n";
   }
   text += R"(echo "$code" >"$folder/submissions/)" + submission_ + "/reported\"\nexit \"$code\"\n";

@@ -27,4 +27,13 @@ std::string shellQuoted(std::string_view word) {
   return quoted + "'";
 }
 
+std::string shellQuotedWords(const std::vector<std::string>& words) {
+  std::string text;
+  for (const std::string& word : words) {
+    if (!text.empty()) text += ' ';
+    text += shellQuoted(word);
+  }
+  return text;
+}
+
 }  // namespace vtlcmd::runner

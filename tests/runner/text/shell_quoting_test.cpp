@@ -22,5 +22,10 @@ TEST(ShellQuoting, AQuoteEndsTheQuotes) {
   EXPECT_EQ(shellQuoted("'"), R"(''\''')");
 }
 
+TEST(ShellQuoting, WordsHaveBlanksBetweenThem) {
+  EXPECT_EQ(shellQuotedWords({"sbatch", "two words", "a"}), "sbatch 'two words' a");
+  EXPECT_EQ(shellQuotedWords({}), "");
+}
+
 }  // namespace
 }  // namespace vtlcmd::runner
