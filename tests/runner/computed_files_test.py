@@ -5,8 +5,9 @@ import hashlib
 import json
 import pathlib
 import subprocess
-import sys
 import tempfile
+
+from expectations import expect, finish
 
 parser = argparse.ArgumentParser(description=__doc__)
 parser.add_argument("--program", required=True, nargs="+", help="the words that start it")
@@ -21,12 +22,6 @@ GRAPH = {
               {"name": "array", "op": "read_npy", "type": "array<array<double>>", "in": {"path": "path"}}],
     "outputs": [{"name": "array", "from": "array"}],
 }
-problems = []
-
-
-def expect(what, found, wanted):
-    if found != wanted:
-        problems.append(f"{what}: {found!r}, not {wanted!r}")
 
 
 def run(*words):
@@ -57,5 +52,4 @@ with tempfile.TemporaryDirectory() as name:
     expect("the file is as it was", array.read_bytes(), content)
     expect("the journal is there", journal.exists(), True)
 
-print("\n".join(problems))
-sys.exit(1 if problems else 0)
+finish()

@@ -5,8 +5,9 @@ import csv
 import json
 import pathlib
 import subprocess
-import sys
 import tempfile
+
+from expectations import expect, finish
 
 parser = argparse.ArgumentParser(description=__doc__)
 parser.add_argument("--program", required=True, nargs="+", help="the words that start it")
@@ -45,13 +46,6 @@ VALUES = {"frame_": "2", "a, \"b\"": "a \"quoted\", text\r\nof two lines", "long
           "vectors.min.y": None, "vectors.max.x": None, "vectors.max.y": None,
           "vectors.average.x": None, "vectors.average.y": None, "nested.size.0": "2",
           "nested.size.1": "", "yes": "true"}
-
-problems = []
-
-
-def expect(what, found, wanted):
-    if found != wanted:
-        problems.append(f"{what}: {found!r:.500}, not {wanted!r:.500}")
 
 
 def vtlcmd(*words):
@@ -122,5 +116,4 @@ with tempfile.TemporaryDirectory() as folder:
     check(pathlib.Path(folder))
     check_failures(pathlib.Path(folder))
 
-print("\n".join(problems))
-sys.exit(1 if problems else 0)
+finish()

@@ -4,20 +4,14 @@ import argparse
 import json
 import pathlib
 import subprocess
-import sys
 import tempfile
+
+from expectations import expect, finish
 
 parser = argparse.ArgumentParser(description=__doc__)
 parser.add_argument("--program", required=True, nargs="+", help="the words that start it")
 parser.add_argument("--folder", required=True)
 arguments = parser.parse_args()
-
-problems = []
-
-
-def expect(what, found, wanted):
-    if found != wanted:
-        problems.append(f"{what}: {found!r:.500}, not {wanted!r:.500}")
 
 
 def vtlcmd(*words):
@@ -152,5 +146,4 @@ with tempfile.TemporaryDirectory() as name:
         folder.mkdir()
         check(folder)
 
-print("\n".join(problems))
-sys.exit(1 if problems else 0)
+finish()

@@ -5,8 +5,9 @@ import json
 import os
 import pathlib
 import subprocess
-import sys
 import tempfile
+
+from expectations import expect, fail, finish, problems
 
 parser = argparse.ArgumentParser(description=__doc__)
 parser.add_argument("--program", required=True, nargs="+", help="the words that start it")
@@ -56,13 +57,6 @@ echo "MaxArraySize            = $(cat "$FAKE/array_size")"
 """
 SQUEUE = '#!/bin/sh\ncat "$FAKE/queue"\n'
 SCANCEL = '#!/bin/sh\necho "$*" >>"$FAKE/cancelled"\n'
-
-problems = []
-
-
-def expect(what, found, wanted=True):
-    if found != wanted:
-        problems.append(f"{what}: {found!r:.400}, not {wanted!r:.400}")
 
 
 class Farm:
@@ -345,8 +339,7 @@ for test in (submits_and_reports, resubmits_what_is_left, has_nothing_left_to_re
         try:
             test(pathlib.Path(folder).resolve())
         except OSError as error:
-            problems.append(str(error))
+            fail(str(error))
     problems[before:] = [f"{test.__name__}: {problem}" for problem in problems[before:]]
 
-print("\n".join(problems))
-sys.exit(1 if problems else 0)
+finish()

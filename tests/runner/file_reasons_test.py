@@ -5,8 +5,9 @@ import json
 import os
 import pathlib
 import subprocess
-import sys
 import tempfile
+
+from expectations import fail, finish
 
 parser = argparse.ArgumentParser(description=__doc__)
 parser.add_argument("--program", required=True, nargs="+", help="the words that start it")
@@ -16,7 +17,6 @@ program = [os.path.abspath(word) for word in arguments.program]
 is_root = os.geteuid() == 0
 # Root may read everything: somebody else has to try.
 somebody = {"user": 65534, "group": 65534, "extra_groups": []} if is_root else {}
-problems = []
 
 
 def outcome(*words, **options):
@@ -43,7 +43,7 @@ def expect(file, reason, folder_reason=None, **options):
             (["report", file, "-o", "-"], 3, graph)]:
         found = outcome(*words, **options)
         if found != (code, line):
-            problems.append(f"{words}: {found}, not {(code, line)}")
+            fail(f"{words}: {found}, not {(code, line)}")
 
 
 def refused(target, reason, **options):
@@ -51,7 +51,7 @@ def refused(target, reason, **options):
         found = outcome("run", "empty.json", option, target, **options)
         line = f"vtlcmd: {option}: '{target}' can't be written: {reason}"
         if found != (2, line):
-            problems.append(f"{option} {target}: {found}, not {(2, line)}")
+            fail(f"{option} {target}: {found}, not {(2, line)}")
 
 
 def graph_of(name, operation):
@@ -92,9 +92,8 @@ with tempfile.TemporaryDirectory() as folder:
             os.chmod(name, 0)
             found = outcome("show", name, **somebody)
             if found != (1, f"[vtlcmd]  Error:    {name}: Permission denied"):
-                problems.append(f"{name}: {found}")
+                fail(f"{name}: {found}")
         os.mkdir("locked", 0o555)
         refused("locked/run.json", "Permission denied", **somebody)
 
-print("\n".join(problems))
-sys.exit(1 if problems else 0)
+finish()

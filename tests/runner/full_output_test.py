@@ -6,8 +6,9 @@ import os
 import pathlib
 import resource
 import subprocess
-import sys
 import tempfile
+
+from expectations import expect, finish
 
 parser = argparse.ArgumentParser(description=__doc__)
 parser.add_argument("--program", required=True, nargs="+", help="the words that start it")
@@ -15,12 +16,6 @@ parser.add_argument("--folder", required=True)
 arguments = parser.parse_args()
 
 MANY_FRAMES = ["run", "examples/animated.json", "-f", "1-900000"]
-problems = []
-
-
-def expect(what, found, wanted):
-    if found != wanted:
-        problems.append(f"{what}: {found!r:.500}, not {wanted!r}")
 
 
 def outcome(*words, **options):
@@ -65,5 +60,4 @@ with tempfile.TemporaryDirectory() as name:
     expect("a report of it can be made",
            outcome("report", journal, "-o", folder / "again.json")[0], 1)
 
-print("\n".join(problems))
-sys.exit(1 if problems else 0)
+finish()

@@ -8,9 +8,10 @@ import pty
 import random
 import signal
 import subprocess
-import sys
 import tempfile
 import zlib
+
+from expectations import default_signals, expect, finish
 
 parser = argparse.ArgumentParser(description=__doc__)
 parser.add_argument("--program", required=True, nargs="+", help="the words that start it")
@@ -45,19 +46,6 @@ READER = {
     "outputs": [{"name": "mesh", "from": "mesh"}],
 }
 FILES = ["endless.gltf", "long.json", "mesh.obj", "reader.json"]
-
-problems = []
-
-
-def expect(what, found, wanted=True):
-    if found != wanted:
-        problems.append(f"{what}: {found!r:.300}, not {wanted!r}")
-
-
-def default_signals():
-    """Whoever runs the tests may have them ignored, as nohup does."""
-    for number in (signal.SIGINT, signal.SIGTERM, signal.SIGHUP):
-        signal.signal(number, signal.SIG_DFL)
 
 
 def start(*words, **streams):
@@ -263,5 +251,4 @@ with tempfile.TemporaryDirectory() as name:
     for _ in range(arguments.kills):
         kill_at(folder, moments.randrange(1, 2000))
 
-print("\n".join(problems))
-sys.exit(1 if problems else 0)
+finish()

@@ -6,9 +6,10 @@ import json
 import pathlib
 import random
 import subprocess
-import sys
 import tempfile
 import zlib
+
+from expectations import expect, finish
 
 parser = argparse.ArgumentParser(description=__doc__)
 parser.add_argument("--program", required=True, nargs="+", help="the words that start it")
@@ -18,13 +19,7 @@ arguments = parser.parse_args()
 JOB = "1-20"
 SEED = 20
 
-problems = []
 random.seed(SEED)
-
-
-def expect(what, found, wanted):
-    if found != wanted:
-        problems.append(f"{what}: {found!r:.400}, not {wanted!r:.400}")
 
 
 def vtlcmd(*words):
@@ -263,5 +258,4 @@ with tempfile.TemporaryDirectory() as name:
         folder.mkdir()
         check(folder)
 
-print("\n".join(problems))
-sys.exit(1 if problems else 0)
+finish()

@@ -6,9 +6,10 @@ import pathlib
 import re
 import shlex
 import subprocess
-import sys
 import tempfile
 import urllib.request
+
+from expectations import expect, finish
 
 parser = argparse.ArgumentParser(description=__doc__)
 parser.add_argument("--program", required=True)
@@ -107,14 +108,6 @@ class Browser:
         return self.call("/se/log", {"type": "browser"})
 
 
-problems = []
-
-
-def expect(what, found, wanted):
-    if found != wanted:
-        problems.append(f"{what}: {found!r:.500}, not {wanted!r}")
-
-
 def run(page, *words):
     subprocess.run([arguments.program, "run", *words, "-q", "--report", page],
                    cwd=arguments.folder, capture_output=True, check=False)
@@ -198,5 +191,4 @@ with tempfile.TemporaryDirectory() as folder, Browser() as browser:
     expect("the state of what never began", browser.open(page)["state"], ["not loaded"])
     expect("complaints of the browser", browser.complaints(), [])
 
-print("\n".join(problems))
-sys.exit(1 if problems else 0)
+finish()

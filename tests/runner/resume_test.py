@@ -8,8 +8,9 @@ import pathlib
 import random
 import signal
 import subprocess
-import sys
 import tempfile
+
+from expectations import expect, fail, finish
 
 parser = argparse.ArgumentParser(description=__doc__)
 parser.add_argument("--program", required=True, nargs="+", help="the words that start it")
@@ -21,12 +22,6 @@ FRAMES = 3000
 KILLS_OF_A_RUN = 5
 program = [os.path.abspath(word) for word in arguments.program]
 graph = pathlib.Path(arguments.folder, "examples/animated.json").resolve()
-problems = []
-
-
-def expect(what, found, wanted=True):
-    if found != wanted:
-        problems.append(f"{what}: {found!r:.600}, not {wanted!r:.600}")
 
 
 def start(*words):
@@ -81,7 +76,7 @@ def refusals():
         output, errors, found = run(*words, "--journal", journal, "--resume")
         expect(what, (output, text in errors, found), ("", True, code))
         if text not in errors:
-            problems.append(errors)
+            fail(errors)
         expect(f"{what}: the journal is as it was", journal.read_bytes() == kept)
 
     different = f"vtlcmd: {journal} is the journal of another run, which differs in "
@@ -142,5 +137,4 @@ with tempfile.TemporaryDirectory() as name:
     refusals()
     changed_files()
 
-print("\n".join(problems))
-sys.exit(1 if problems else 0)
+finish()

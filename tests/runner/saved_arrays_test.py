@@ -4,10 +4,11 @@ import argparse
 import json
 import pathlib
 import subprocess
-import sys
 import tempfile
 
 import numpy
+
+from expectations import expect, fail, finish
 
 parser = argparse.ArgumentParser(description=__doc__)
 parser.add_argument("--program", required=True, nargs="+", help="the words that start it")
@@ -19,12 +20,6 @@ VECTORS = {f"Math::{kind}{size}": (NUMBERS[kind], size) for kind in ("float", "d
 MATRICES = {"Math::float2x2": (2, 2), "Math::float4x4": (4, 4), "Math::double2x3": (2, 3)}
 
 random = numpy.random.default_rng(7)
-problems = []
-
-
-def expect(what, found, wanted):
-    if found != wanted:
-        problems.append(f"{what}: {found!r}, not {wanted!r}")
 
 
 def random_array(code, shape):
@@ -38,7 +33,7 @@ def random_array(code, shape):
 
 def expect_array(what, file, wanted):
     if not file.exists():
-        problems.append(f"{what}: not saved")
+        fail(f"{what}: not saved")
         return
     found = numpy.load(file)
     expect(f"{what}: type", found.dtype, wanted.dtype)
@@ -145,5 +140,4 @@ with tempfile.TemporaryDirectory() as name:
     expect_array("the other output", folder / "frame.npy", numpy.array([1.0]))
     expect("nothing is left", [file.name for file in folder.iterdir() if file.suffix == ".part"], [])
 
-print("\n".join(problems))
-sys.exit(1 if problems else 0)
+finish()

@@ -6,9 +6,10 @@ import os
 import pathlib
 import signal
 import subprocess
-import sys
 import tempfile
 import time
+
+from expectations import default_signals, expect, finish
 
 parser = argparse.ArgumentParser(description=__doc__)
 parser.add_argument("--program", required=True, nargs="+", help="the words that start it")
@@ -22,18 +23,6 @@ GRAPH = {
     "outputs": [{"name": "frame", "from": "frame"}],
 }
 program = [os.path.abspath(word) for word in arguments.program]
-problems = []
-
-
-def expect(what, found, wanted=True):
-    if found != wanted:
-        problems.append(f"{what}: {found!r:.1000}, not {wanted!r:.1000}")
-
-
-def default_signals():
-    """Whoever runs the tests may have them ignored, as nohup does."""
-    for number in (signal.SIGINT, signal.SIGTERM, signal.SIGHUP):
-        signal.signal(number, signal.SIG_DFL)
 
 
 def start(*words, mishaps="", mark="", loaded=None):
@@ -231,5 +220,4 @@ with tempfile.TemporaryDirectory() as name:
     none_is_left_behind()
     an_interrupt_ends_after_the_frames()
 
-print("\n".join(problems))
-sys.exit(1 if problems else 0)
+finish()
