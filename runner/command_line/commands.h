@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "command_line/exit_code.h"
+#include "execution/exit_code.h"
 
 namespace CLI {
 class App;

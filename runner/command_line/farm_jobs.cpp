@@ -65,14 +65,6 @@ ExitCode codeOf(const std::vector<FrameState>& states) {
 
 }  // namespace
 
-std::vector<double> frameNumbers(const std::string& frames) {
-  const FrameList list = parseFrames(frames);
-  std::vector<double> numbers;
-  numbers.reserve(list.size());
-  for (std::size_t i = 0; i < list.size(); ++i) numbers.push_back(list[i]);
-  return numbers;
-}
-
 FarmFolder farmFolder(const std::string& name) {
   if (!name.empty()) {
     FarmFolder folder(std::filesystem::absolute(filePath(name)).lexically_normal());

@@ -6,9 +6,9 @@
 #include <string>
 #include <vector>
 
-#include "command_line/exit_code.h"
 #include "command_line/graph_run.h"
 #include "command_line/run_options.h"
+#include "execution/exit_code.h"
 #include "farm/farm_folder.h"
 #include "farm/farm_job.h"
 #include "farm/scheduler.h"
@@ -16,9 +16,6 @@
 /// What the commands that hand frames to a farm share.
 
 namespace vtlcmd::runner {
-
-/// The numbers of a job's frames, by index.
-std::vector<double> frameNumbers(const std::string& frames);
 
 /// The folder of a job, by its name on the command line. Throws UsageError for any other folder.
 FarmFolder farmFolder(const std::string& name);

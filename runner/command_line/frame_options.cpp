@@ -2,12 +2,12 @@
 
 #include <CLI/App.hpp>
 #include <algorithm>
-#include <charconv>
 #include <cmath>
 
 #include "command_line/usage_error.h"
 #include "platform/usable_processors.h"
 #include "text/library_text.h"
+#include "text/spelled_number.h"
 
 namespace vtlcmd::runner {
 namespace {
@@ -20,12 +20,8 @@ constexpr double longestTimeout = 366.0 * 24 * 3600;
 /// The number that a whole text spells, between two bounds.
 template <typename T>
 std::optional<T> numberIn(const std::string& text, T least, T most) {
-  T number{};
-  const char* const end = text.data() + text.size();
-  const auto [stop, error] = std::from_chars(text.data(), end, number);
-  if (error != std::errc() || stop != end || !(number >= least && number <= most))
-    return std::nullopt;
-  return number;
+  const std::optional<T> number = spelledNumber<T>(text);
+  return number && *number >= least && *number <= most ? number : std::nullopt;
 }
 
 }  // namespace

@@ -88,15 +88,8 @@ RunEnd FrameRun::end() const {
   if (!report_.stream.good())
     return endWith("stopped", readerGone() ? ExitCode::readerGone : ExitCode::runFailed);
   if (interruptSignal() != 0) return endWith("interrupted", interruptedBy(interruptSignal()));
-  switch (collector_.totals().failure) {
-    case Failure::none:
-      return endWith("succeeded", ExitCode::success);
-    case Failure::transient:
-      return endWith("failed", ExitCode::tryAgain);
-    case Failure::permanent:
-      break;
-  }
-  return endWith("failed", ExitCode::runFailed);
+  const Failure worst = collector_.totals().failure;
+  return endWith(worst == Failure::none ? "succeeded" : "failed", exitCodeOf(worst));
 }
 
 }  // namespace vtlcmd::runner

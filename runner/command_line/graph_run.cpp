@@ -106,7 +106,8 @@ LoadedRun prepareRun(Graph graph, const RunOptions& options,
   run.settings = settingsFrom(options, texts, arguments);
   run.frames = options.frameOptions.settings(run.settings.frames.size());
   run.settings.filesRead = filesReadBy(run.graph, run.texts);
-  for (const SavedOutput& saved : savedOutputsFrom(options.saves, run.graph, run.settings.frames)) {
+  run.saves = savedOutputsFrom(options.saves, run.graph, run.settings.frames);
+  for (const SavedOutput& saved : run.saves) {
     run.settings.saves.push_back(
         {saved.output, [saved](double frame, const Orvel::Value& value,
                                const std::set<std::filesystem::path>& files) {
@@ -125,7 +126,7 @@ LoadedRun loadRun(const RunOptions& options, const std::vector<std::string>& arg
   std::vector<std::filesystem::path> filesRead = run.settings.filesRead;
   filesRead.insert(filesRead.end(), run.textFiles.begin(), run.textFiles.end());
   OutputTargets targets = refuseTargets(options, std::move(filesRead));
-  for (const SavedOutput& saved : savedOutputsFrom(options.saves, run.graph, run.settings.frames))
+  for (const SavedOutput& saved : run.saves)
     targets.addSeries("--save", saved.file, run.settings.frames);
   run.plugIn = std::make_unique<PlugIn>(run.plugInFile);
   return run;

@@ -5,13 +5,14 @@
 #include <string>
 #include <vector>
 
-#include "command_line/exit_code.h"
 #include "command_line/frame_options.h"
 #include "command_line/output_targets.h"
 #include "command_line/run_options.h"
 #include "command_line/run_reports.h"
+#include "execution/exit_code.h"
 #include "execution/plug_in.h"
 #include "graph/path_sources.h"
+#include "saving/output_saver.h"
 #include "workers/worker_messages.h"
 
 namespace vtlcmd::runner {
@@ -24,6 +25,7 @@ struct LoadedRun {
   std::vector<std::filesystem::path> textFiles;
   RunSettings settings;
   FrameSettings frames;
+  std::vector<SavedOutput> saves;
   std::filesystem::path plugInFile;
   std::unique_ptr<PlugIn> plugIn;
 };

@@ -12,9 +12,7 @@
 namespace vtlcmd::runner {
 
 void refuseRepeated(const std::string& option, const FrameList& job, const std::string& text) {
-  std::vector<double> frames;
-  frames.reserve(job.size());
-  for (std::size_t i = 0; i < job.size(); ++i) frames.push_back(job[i]);
+  std::vector<double> frames = job.numbers();
   std::sort(frames.begin(), frames.end());
   const auto found = std::adjacent_find(frames.begin(), frames.end());
   if (found != frames.end())

@@ -7,6 +7,7 @@
 #include "command_line/report_options.h"
 #include "execution/plug_in.h"
 #include "nodes/node_table.h"
+#include "text/json_text.h"
 
 namespace vtlcmd::runner {
 namespace {
@@ -69,7 +70,7 @@ void addTypesCommand(CLI::App& app) {
   command->callback([options] {
     const std::vector<std::string> types = supportedTypes(options->plugIn);
     if (options->json) {
-      std::cout << Json(types).dump(2) << '\n';
+      std::cout << jsonText(types, 2) << '\n';
     } else {
       for (const std::string& type : types) std::cout << type << '\n';
     }
@@ -95,7 +96,7 @@ void addNodesCommand(CLI::App& app) {
         }
       }
     }
-    if (*json) std::cout << document.dump(2) << '\n';
+    if (*json) std::cout << jsonText(document, 2) << '\n';
   });
 }
 

@@ -1,7 +1,6 @@
 #include "command_line/option_values.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
 #include <optional>
 #include <system_error>
@@ -14,21 +13,9 @@
 #include "text/library_text.h"
 #include "text/near_misses.h"
 #include "text/path_text.h"
+#include "text/spelled_number.h"
 
 namespace vtlcmd::runner {
-namespace {
-
-/// The number that a whole text spells.
-template <typename T>
-std::optional<T> numberIn(const std::string& text) {
-  T number{};
-  const char* end = text.data() + text.size();
-  const auto [stop, error] = std::from_chars(text.data(), end, number);
-  if (error != std::errc() || stop != end) return std::nullopt;
-  return number;
-}
-
-}  // namespace
 
 FrameList parseFrames(const std::string& text) {
   try {
@@ -40,9 +27,9 @@ FrameList parseFrames(const std::string& text) {
 
 double parseFramesPerSecond(const std::string& text) {
   const std::size_t slash = std::min(text.find('/'), text.size());
-  const std::optional<double> dividend = numberIn<double>(text.substr(0, slash));
+  const std::optional<double> dividend = spelledNumber<double>(text.substr(0, slash));
   const std::optional<double> divisor =
-      slash == text.size() ? 1.0 : numberIn<double>(text.substr(slash + 1));
+      slash == text.size() ? 1.0 : spelledNumber<double>(text.substr(slash + 1));
   if (dividend && divisor && *divisor > 0) {
     const double number = *dividend / *divisor;
     if (number > 0 && std::isnormal(number)) return number;
@@ -53,9 +40,9 @@ double parseFramesPerSecond(const std::string& text) {
 
 Tolerance parseTolerance(const std::string& text) {
   const std::size_t comma = text.find(',');
-  const std::optional<double> absolute = numberIn<double>(text.substr(0, comma));
+  const std::optional<double> absolute = spelledNumber<double>(text.substr(0, comma));
   const std::optional<double> relative =
-      comma == std::string::npos ? 0.0 : numberIn<double>(text.substr(comma + 1));
+      comma == std::string::npos ? 0.0 : spelledNumber<double>(text.substr(comma + 1));
   for (const std::optional<double>& number : {absolute, relative}) {
     if (!number || !std::isfinite(*number) || *number < 0)
       throw UsageError(
@@ -70,7 +57,7 @@ std::uint32_t parseVerbosity(const std::string& text) {
   const auto& names = VtlCmdLogger::levelNames;
   const auto named = std::find(names.begin(), names.end(), text) - names.begin();
   if (std::cmp_less(named, names.size())) return static_cast<std::uint32_t>(named);
-  const std::optional<std::uint32_t> number = numberIn<std::uint32_t>(text);
+  const std::optional<std::uint32_t> number = spelledNumber<std::uint32_t>(text);
   if (number && *number < names.size()) return *number;
   throw UsageError(inQuotes(text) + " is no level of messages: none, critical, error, warning, " +
                    "progress, verbose and debug are, or 0 to 6" +
@@ -78,13 +65,15 @@ std::uint32_t parseVerbosity(const std::string& text) {
 }
 
 std::uint32_t parsePrintLimit(const std::string& text) {
-  if (const std::optional<std::uint32_t> number = numberIn<std::uint32_t>(text)) return *number;
+  if (const std::optional<std::uint32_t> number = spelledNumber<std::uint32_t>(text))
+    return *number;
   throw UsageError("the print limit is a number from 0 to 4294967295, not " + inQuotes(text));
 }
 
 std::uint64_t parseElements(const std::string& text) {
   if (text == "all") return allElements;
-  if (const std::optional<std::uint64_t> number = numberIn<std::uint64_t>(text)) return *number;
+  if (const std::optional<std::uint64_t> number = spelledNumber<std::uint64_t>(text))
+    return *number;
   throw UsageError("--elements takes a number or 'all', not " + inQuotes(text));
 }
 

@@ -2,7 +2,6 @@
 
 #include <CLI/App.hpp>
 #include <algorithm>
-#include <charconv>
 #include <cstdint>
 
 #include "command_line/usage_error.h"
@@ -10,6 +9,7 @@
 #include "readers/read_limits.h"
 #include "text/library_text.h"
 #include "text/size_text.h"
+#include "text/spelled_number.h"
 
 namespace vtlcmd::runner {
 namespace {
@@ -21,10 +21,8 @@ std::uint64_t parseSize(const std::string& option, const std::string& text) {
 
 std::chrono::seconds parseSeconds(const std::string& option, const std::string& text) {
   // The processor's time limit is kept in 32 bits on some systems.
-  std::int32_t number = 0;
-  const char* const end = text.data() + text.size();
-  const auto [stop, error] = std::from_chars(text.data(), end, number);
-  if (error == std::errc() && stop == end && number > 0) return std::chrono::seconds(number);
+  const std::optional<std::int32_t> number = spelledNumber<std::int32_t>(text);
+  if (number && *number > 0) return std::chrono::seconds(*number);
   throw UsageError(option + " takes a whole number of seconds, not " + inQuotes(text));
 }
 

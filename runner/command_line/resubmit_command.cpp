@@ -5,6 +5,7 @@
 
 #include "command_line/commands.h"
 #include "command_line/farm_jobs.h"
+#include "command_line/option_values.h"
 #include "command_line/scheduler_words.h"
 #include "command_line/submit_options.h"
 #include "command_line/usage_error.h"
@@ -57,12 +58,9 @@ void refuseWhileRunning(const FarmFolder& folder) {
 /// The key of what the job's words run today. Makes the job's working folder this process's.
 std::string keyOf(const FarmJob& job) {
   std::filesystem::current_path(job.workingFolder);
-  CLI::App app;
-  RunOptions options;
-  addRunOptions(app, options);
-  std::vector<std::string> words(job.runWords.rbegin(), job.runWords.rend());
-  words.push_back(job.graph);
-  app.parse(words);
+  std::vector<std::string> words{"run", job.graph};
+  words.insert(words.end(), job.runWords.begin(), job.runWords.end());
+  RunOptions options = runOptionsFrom(words);
   options.frames = job.frames;
   const LoadedRun run = loadRun(options, {});
   return keyOf(run, options);
@@ -81,7 +79,7 @@ ExitCode resubmit(const ResubmitOptions& options, const std::vector<std::string>
   checkSchedulerWords(options.schedulerWords, arguments);
   const FarmFolder folder = farmFolder(options.folder);
   FarmJob job = readFarmJob(folder);
-  const std::vector<double> frames = frameNumbers(job.frames);
+  const std::vector<double> frames = parseFrames(job.frames).numbers();
   const std::vector<double> left = framesLeft(folder, frames);
   if (left.empty()) {
     std::cout << "all " << frames.size() << " frames are done; this makes the report of them:\n";

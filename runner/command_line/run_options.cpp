@@ -64,9 +64,10 @@ void addRunOptions(CLI::App& command, RunOptions& options) {
                   "them")
       ->type_name("NUMBER")
       ->capture_default_str();
-  addList("--report", options.reports,
-          "Write a report of the run: a page for people to a file named *.html, else a JSON "
-          "document; '-' is the standard output, and the text then goes to standard error")
+  addList(
+      "--report", options.reports,
+      "Write a report of the run: a page for people to a file named *.html, a table to *.csv, "
+      "else a JSON document; '-' is the standard output, and the text then goes to standard error")
       ->type_name("FILE");
   command
       .add_option("--picture", options.pictures,

@@ -9,7 +9,7 @@
 #include <utility>
 #include <vector>
 
-#include "command_line/exit_code.h"
+#include "execution/exit_code.h"
 #include "report/journal_survey.h"
 
 namespace vtlcmd::runner {

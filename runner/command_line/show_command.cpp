@@ -139,7 +139,8 @@ void addShowCommand(CLI::App& app, CommandState& state) {
   command
       ->add_option("--report", options->reports,
                    "Write a report as of a run of one frame: a page for people to a file named "
-                   "*.html, else a JSON document; '-' is the standard output, and the text then "
+                   "*.html, a table to *.csv, else a JSON document; '-' is the standard output, "
+                   "and the text then "
                    "goes to standard error")
       ->allow_extra_args(false)
       ->type_name("FILE");

@@ -6,10 +6,12 @@
 
 #include "command_line/commands.h"
 #include "command_line/farm_jobs.h"
+#include "command_line/option_values.h"
+#include "execution/frame_list_writer.h"
 #include "farm/frame_survey.h"
-#include "farm/frames_text.h"
 #include "farm/submission.h"
 #include "text/control_characters.h"
+#include "text/json_text.h"
 #include "text/path_text.h"
 
 namespace vtlcmd::runner {
@@ -39,7 +41,7 @@ std::vector<Group> groupsOf(const FarmFolder& folder, const std::vector<double>&
     for (std::size_t i = 0; i < frames.size(); ++i) {
       if (states[i] >= first && states[i] <= last) members.push_back(frames[i]);
     }
-    return Group{name, members.size(), framesText(members)};
+    return Group{name, members.size(), plainFramesText(members)};
   };
   return {group("done", FrameState::done, FrameState::done),
           group("failed", FrameState::failedForNow, FrameState::failed),
@@ -67,7 +69,7 @@ void printJson(const FarmFolder& folder, const FarmJob& job, const std::vector<d
   for (const Group& group : groupsOf(folder, frames))
     document[group.name] = {{"count", group.count}, {"frames", group.frames}};
   document["submissions"] = submissionsOf(folder);
-  std::cout << document.dump(2, ' ', false, Json::error_handler_t::replace) << '\n';
+  std::cout << jsonText(document, 2) << '\n';
 }
 
 void printText(const FarmFolder& folder, const FarmJob& job, const std::vector<double>& frames) {
@@ -103,7 +105,7 @@ void addStatusCommand(CLI::App& app) {
   command->callback([options] {
     const FarmFolder folder = farmFolder(options->folder);
     const FarmJob job = readFarmJob(folder);
-    (options->json ? printJson : printText)(folder, job, frameNumbers(job.frames));
+    (options->json ? printJson : printText)(folder, job, parseFrames(job.frames).numbers());
   });
 }
 

@@ -6,6 +6,7 @@
 #include "command_line/commands.h"
 #include "command_line/farm_jobs.h"
 #include "command_line/job_frames.h"
+#include "command_line/option_values.h"
 #include "command_line/submit_options.h"
 #include "command_line/usage_error.h"
 #include "farm/input_copies.h"
@@ -89,7 +90,7 @@ ExitCode submitGraph(SubmitOptions& options, const std::vector<std::string>& arg
   if (options.copy) options.run.graph = relativeName(options.run.graph);
   const LoadedRun loaded = loadRun(options.run, arguments);
   refuseRepeated("--frames", loaded.settings.frames, options.run.frames);
-  const std::vector<double> frames = frameNumbers(options.run.frames);
+  const std::vector<double> frames = loaded.settings.frames.numbers();
   const std::optional<std::size_t> most = mostTasks(options.dryRun);
   const FarmJob job = jobFrom(options, loaded, folder);
   const std::vector<std::string> chunks = chunksFor(job, frames, most);

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 #include <iostream>
 #include <span>
 
@@ -14,6 +13,7 @@
 #include "graph/graph_file.h"
 #include "text/library_text.h"
 #include "text/path_text.h"
+#include "text/spelled_number.h"
 
 namespace vtlcmd::runner {
 namespace {
@@ -27,10 +27,8 @@ constexpr std::array ofTheJob{"frames", "report", "no-times"};
 
 template <typename T>
 T parseAboveZero(const std::string& option, const std::string& what, const std::string& text) {
-  T number{};
-  const char* const end = text.data() + text.size();
-  const auto [stop, error] = std::from_chars(text.data(), end, number);
-  if (error == std::errc() && stop == end && number > T{}) return number;
+  const std::optional<T> number = spelledNumber<T>(text);
+  if (number && *number > T{}) return *number;
   throw UsageError(option + " takes " + what + " above zero, not " + inQuotes(text));
 }
 
@@ -80,8 +78,8 @@ void addSubmitOptions(CLI::App& command, SubmitOptions& options) {
   command.get_option("GRAPH")->description("Graph file");
   command.get_option("--report")
       ->description(
-          "Write a report of the whole run: a page for people to a file named *.html, else a JSON "
-          "document; without it report.json in the folder");
+          "Write a report of the whole run: a page for people to a file named *.html, a table "
+          "to *.csv, else a JSON document; without it report.json in the folder");
   command.get_option("--set-file")
       ->description("Text for a port from a file, without its last line end");
   for (const CLI::Option* option : command.get_options()) options.runOptions.push_back(option);

@@ -1,9 +1,7 @@
 #include "diff/compared_run.h"
 
 #include <algorithm>
-#include <cerrno>
 #include <filesystem>
-#include <fstream>
 #include <system_error>
 #include <utility>
 
@@ -65,14 +63,11 @@ class ReportRun : public ComparedRun {
 }  // namespace
 
 std::unique_ptr<ComparedRun> openRun(const std::string& file) {
-  const std::filesystem::path path = filePath(file);
   std::error_code ignored;
-  const std::filesystem::file_status status = std::filesystem::status(path, ignored);
+  const std::filesystem::file_status status = std::filesystem::status(filePath(file), ignored);
   const std::string isNeither = file + " is neither a journal nor a JSON report of a run";
   if (exists(status) && !is_regular_file(status)) throw JournalError(isNeither);
-  errno = 0;
-  std::ifstream stream(path, std::ios::binary);
-  if (!stream) throw JournalError(file + ": " + std::generic_category().message(errno));
+  std::ifstream stream = openJournalFile(file);
   std::string opening(journalOpening.size(), '\0');
   stream.read(opening.data(), static_cast<std::streamsize>(opening.size()));
   if (opening == journalOpening) return std::make_unique<JournalRun>(file);

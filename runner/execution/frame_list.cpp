@@ -32,6 +32,13 @@ double FrameList::operator[](std::size_t place) const {
   return range.first + static_cast<double>(range.skipped + place - range.begin) * range.step;
 }
 
+std::vector<double> FrameList::numbers() const {
+  std::vector<double> numbers;
+  numbers.reserve(size_);
+  for (std::size_t place = 0; place < size_; ++place) numbers.push_back((*this)[place]);
+  return numbers;
+}
+
 std::size_t FrameList::placeInWhole(std::size_t place) const {
   const Range& range = rangeAt(place);
   return range.placeInWhole + place - range.begin;

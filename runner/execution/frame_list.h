@@ -22,6 +22,8 @@ class FrameList {
 
   /// The frame at a place below the size.
   double operator[](std::size_t place) const;
+  /// All of them.
+  std::vector<double> numbers() const;
 
   /// Where a frame is in the list, be the number computed by other steps or not; the first place of
   /// several.

@@ -1,6 +1,5 @@
 #include "execution/frame_list_text.h"
 
-#include <array>
 #include <charconv>
 #include <cmath>
 #include <cstddef>
@@ -75,46 +74,8 @@ class FramesParser {
   FrameList frames_;
 };
 
-/// Without an exponent, as the parser wants it.
-std::string numberText(double number) {
-  // Long enough for any double: a sign, 309 digits before the point or a point and 324 behind it,
-  // and what is to be seen of 17 digits there.
-  std::array<char, 360> text;
-  const auto end =
-      std::to_chars(text.data(), text.data() + text.size(), number, std::chars_format::fixed).ptr;
-  return {text.data(), end};
-}
-
-/// How many frames from `begin` on a range gives, to the bit.
-std::size_t rangeLength(const std::vector<double>& frames, std::size_t begin) {
-  if (begin + 1 == frames.size()) return 1;
-  const double step = frames[begin + 1] - frames[begin];
-  std::size_t length = 2;
-  while (begin + length < frames.size() &&
-         frames[begin + length] == frames[begin] + static_cast<double>(length) * step)
-    ++length;
-  // A range of two is shorter only where the step isn't written.
-  return length > 2 || step == 1 ? length : 1;
-}
-
 }  // namespace
 
 FrameList parseFrameList(std::string_view text) { return FramesParser(text).parse(); }
-
-std::string frameListText(const std::vector<double>& frames) {
-  std::string text;
-  for (std::size_t begin = 0; begin < frames.size();) {
-    const std::size_t length = rangeLength(frames, begin);
-    const std::size_t end = begin + length;
-    text += (begin > 0 ? "," : "") + numberText(frames[begin]);
-    if (length > 1) {
-      const double step = frames[begin + 1] - frames[begin];
-      text += "-" + numberText(frames[end - 1]);
-      if (step != 1) text += "x" + numberText(step);
-    }
-    begin = end;
-  }
-  return text;
-}
 
 }  // namespace vtlcmd::runner

@@ -3,7 +3,6 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "execution/frame_list.h"
 
@@ -18,8 +17,5 @@ class FrameListError : public std::runtime_error {
 /// Frame numbers from a list like `1`, `1-10`, `10-1`, `1-10x2`, `1-10:2` or `1,5,7-9x0.5`, in the
 /// order given. Numbers may be negative or have a fraction. Throws FrameListError.
 FrameList parseFrameList(std::string_view text);
-
-/// A short list that gives these numbers again, which ascend and are finite; empty for none.
-std::string frameListText(const std::vector<double>& frames);
 
 }  // namespace vtlcmd::runner

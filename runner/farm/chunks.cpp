@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "farm/frames_text.h"
+#include "execution/frame_list_writer.h"
 
 namespace vtlcmd::runner {
 
@@ -19,7 +19,7 @@ std::vector<std::string> chunksOf(std::span<const double> frames, std::size_t si
   std::vector<std::string> chunks;
   while (!frames.empty()) {
     const std::span<const double> chunk = frames.first(std::min(size, frames.size()));
-    chunks.push_back(framesText(chunk));
+    chunks.push_back(plainFramesText(chunk));
     frames = frames.subspan(chunk.size());
   }
   return chunks;

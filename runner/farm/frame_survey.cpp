@@ -1,11 +1,8 @@
 #include "farm/frame_survey.h"
 
-#include <cerrno>
-#include <fstream>
 #include <nlohmann/json.hpp>
 #include <optional>
 #include <set>
-#include <system_error>
 
 #include "journal/journal_reader.h"
 #include "report/frame_facts.h"
@@ -19,9 +16,7 @@ class Survey {
   explicit Survey(std::size_t frames) : states_(frames, FrameState::missing) {}
 
   void addJournal(const std::filesystem::path& file) {
-    errno = 0;
-    std::ifstream stream(file, std::ios::binary);
-    if (!stream) throw JournalError(fileText(file) + ": " + std::generic_category().message(errno));
+    std::ifstream stream = openJournalFile(fileText(file));
     JournalReader reader(stream, fileText(file));
     std::set<std::size_t> open;
     while (reader.next()) addLine(reader, open);

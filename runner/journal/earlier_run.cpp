@@ -1,6 +1,5 @@
 #include "journal/earlier_run.h"
 
-#include <fstream>
 #include <map>
 #include <nlohmann/json.hpp>
 
@@ -94,8 +93,7 @@ class Reader {
 std::optional<EarlierRun> readEarlierRun(const std::filesystem::path& journal,
                                          const std::string& runContent, const FrameList& frames) {
   const std::string name = fileText(journal);
-  std::ifstream stream(journal, std::ios::binary);
-  if (!stream) throw JournalError(name + " can't be read");
+  std::ifstream stream = openJournalFile(name);
   return Reader(stream, name, runContent, frames).read();
 }
 

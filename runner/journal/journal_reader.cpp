@@ -1,9 +1,28 @@
 #include "journal/journal_reader.h"
 
+#include <cerrno>
+#include <filesystem>
 #include <istream>
+#include <system_error>
 #include <utility>
 
+#include "text/path_text.h"
+
 namespace vtlcmd::runner {
+
+std::ifstream openJournalFile(const std::string& name) {
+  const std::filesystem::path file = filePath(name);
+  std::error_code ignored;
+  const std::filesystem::file_status status = std::filesystem::status(file, ignored);
+  if (is_directory(status))
+    throw JournalError(name + ": " + std::generic_category().message(EISDIR));
+  if (exists(status) && !is_regular_file(status))
+    throw JournalError(name + " is no journal of a run");
+  errno = 0;
+  std::ifstream stream(file, std::ios::binary);
+  if (!stream) throw JournalError(name + ": " + std::generic_category().message(errno));
+  return stream;
+}
 
 JournalReader::JournalReader(std::istream& stream, std::string name)
     : stream_(stream), name_(std::move(name)) {

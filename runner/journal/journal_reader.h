@@ -2,7 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <iosfwd>
+#include <fstream>
 #include <nlohmann/json.hpp>
 #include <string>
 
@@ -16,6 +16,10 @@ class JournalError : public LoadError {
  public:
   using LoadError::LoadError;
 };
+
+/// Opens a journal's file by its name in the program's texts. Throws JournalError when it can't be
+/// opened, and for anything but a regular file.
+std::ifstream openJournalFile(const std::string& name);
 
 /// Reads a journal line by line. A last line that was cut off is as if it weren't there; any other
 /// line that isn't what was written is an error.

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "text/json_text.h"
+
 namespace vtlcmd::runner {
 namespace {
 
@@ -13,9 +15,7 @@ bool isHash(const Json& value) {
   return value.is_string() && value.get_ref<const std::string&>().size() == digits;
 }
 
-std::string shown(const Json* value) {
-  return value == nullptr ? "nothing" : value->dump(-1, ' ', false, Json::error_handler_t::replace);
-}
+std::string shown(const Json* value) { return value == nullptr ? "nothing" : jsonText(*value); }
 
 const Json* find(const Json& object, const std::string& name) {
   const auto found = object.find(name);

@@ -72,10 +72,7 @@ constexpr Reader readers[] = {
 }  // namespace
 
 const Reader& readerFor(const std::filesystem::path& file) {
-  std::string extension = fileText(file.extension());
-  for (char& c : extension) {
-    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
-  }
+  const std::string extension = extensionOf(file);
   return *std::find_if(std::begin(readers), std::end(readers) - 1,
                        [&](const Reader& reader) { return reader.extension == extension; });
 }

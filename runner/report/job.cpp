@@ -5,13 +5,14 @@
 #include <utility>
 
 #include "execution/frame_list_text.h"
+#include "execution/frame_list_writer.h"
 
 namespace vtlcmd::runner {
 
 Job::Job(std::set<std::string> texts) : texts_(std::move(texts)) {
   for (const std::string& text : texts_) {
-    const FrameList list = parseFrameList(text);
-    for (std::size_t i = 0; i < list.size(); ++i) frames_.push_back(list[i]);
+    const std::vector<double> frames = parseFrameList(text).numbers();
+    frames_.insert(frames_.end(), frames.begin(), frames.end());
   }
   if (!isPutTogether() && !std::is_sorted(frames_.begin(), frames_.end())) {
     indexes_.resize(frames_.size());
@@ -24,7 +25,7 @@ Job::Job(std::set<std::string> texts) : texts_(std::move(texts)) {
 }
 
 std::string Job::framesText() const {
-  return texts_.size() == 1 ? *texts_.begin() : frameListText(frames_);
+  return texts_.size() == 1 ? *texts_.begin() : exactFramesText(frames_);
 }
 
 std::optional<std::size_t> Job::indexOf(const FrameFacts& frame) const {

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <string>
 
-#include "command_line/exit_code.h"
+#include "execution/exit_code.h"
 
 namespace vtlcmd::runner {
 namespace {
@@ -35,12 +35,6 @@ Json messagesOf(const std::vector<Json>& ends) {
   return messages;
 }
 
-Json end(const char* outcome, ExitCode code, Json messages) {
-  return {{"outcome", outcome},
-          {"exit_code", static_cast<int>(code)},
-          {"messages", std::move(messages)}};
-}
-
 bool isFinished(const Json& end) {
   return !end.is_null() && (end.at("outcome") == "succeeded" || end.at("outcome") == "failed");
 }
@@ -62,17 +56,12 @@ Json endOfJob(const std::vector<ReportedRun>& runs, const std::vector<FrameEntry
     result["messages"] = std::move(messages);
     return result;
   }
-  std::uint64_t worst = 0;
-  for (const FrameEntry& entry : entries) worst = std::max<std::uint64_t>(worst, entry.failure);
-  switch (static_cast<Failure>(worst)) {
-    case Failure::none:
-      return end("succeeded", ExitCode::success, std::move(messages));
-    case Failure::transient:
-      return end("failed", ExitCode::tryAgain, std::move(messages));
-    case Failure::permanent:
-      break;
-  }
-  return end("failed", ExitCode::runFailed, std::move(messages));
+  std::uint64_t failure = 0;
+  for (const FrameEntry& entry : entries) failure = std::max<std::uint64_t>(failure, entry.failure);
+  const auto worst = static_cast<Failure>(failure);
+  return {{"outcome", worst == Failure::none ? "succeeded" : "failed"},
+          {"exit_code", static_cast<int>(exitCodeOf(worst))},
+          {"messages", std::move(messages)}};
 }
 
 }  // namespace vtlcmd::runner

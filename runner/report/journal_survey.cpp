@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "execution/frame_list_text.h"
+#include "execution/frame_list_writer.h"
 #include "journal/journal_reader.h"
 #include "report/job_end.h"
 
@@ -71,7 +72,7 @@ std::string JournalSurvey::missingFrames() const {
   for (std::size_t place = 0; place < job.size(); ++place) {
     if (entries[job.indexAt(place)].isThere == 0) numbers.push_back(job.frameAt(place));
   }
-  return frameListText(numbers);
+  return exactFramesText(numbers);
 }
 
 std::string JournalSurvey::outcome() const {

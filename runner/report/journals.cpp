@@ -1,33 +1,15 @@
 #include "report/journals.h"
 
 #include <algorithm>
-#include <cerrno>
-#include <filesystem>
-#include <system_error>
 #include <utility>
 
 #include "journal/journal_reader.h"
-#include "text/path_text.h"
 
 namespace vtlcmd::runner {
 namespace {
 
 /// Systems let a process have some hundreds open at least.
 constexpr std::size_t mostOpen = 64;
-
-std::ifstream openJournal(const std::string& name) {
-  const std::filesystem::path file = filePath(name);
-  std::error_code ignored;
-  const std::filesystem::file_status status = std::filesystem::status(file, ignored);
-  if (is_directory(status))
-    throw JournalError(name + ": " + std::generic_category().message(EISDIR));
-  if (exists(status) && !is_regular_file(status))
-    throw JournalError(name + " is no journal of a run");
-  errno = 0;
-  std::ifstream stream(file, std::ios::binary);
-  if (!stream) throw JournalError(name + ": " + std::generic_category().message(errno));
-  return stream;
-}
 
 }  // namespace
 
@@ -64,7 +46,7 @@ Journals::OpenJournal& Journals::open(std::size_t journal) {
     return open_.front();
   }
   if (open_.size() == mostOpen) open_.pop_back();
-  open_.push_front({journal, openJournal(name(journal)), nullptr, {}});
+  open_.push_front({journal, openJournalFile(name(journal)), nullptr, {}});
   open_.front().lines = &open_.front().file;
   return open_.front();
 }

@@ -1,18 +1,16 @@
 #include "report/message_list.h"
 
 #include <algorithm>
-#include <array>
 #include <ostream>
 #include <set>
 
+#include "report/frame_facts.h"
 #include "report/html_text.h"
 
 namespace vtlcmd::runner {
 namespace {
 
 using Json = nlohmann::ordered_json;
-
-constexpr std::array<const char*, 3> problemLevels{"critical", "error", "warning"};
 
 /// Of texts that a page has room for.
 constexpr std::uint64_t mostBytes = 400'000;
@@ -90,7 +88,7 @@ void MessageList::writeProblems(std::ostream& page, const std::string& missing) 
   if (!missing.empty())
     page << "<p class='failed'>Frames missing: " << htmlText(missing) << "</p>\n";
   page << "<table class='log'>\n";
-  for (const char* level : problemLevels) {
+  for (const std::string_view level : problemLevels) {
     for (const Message& message : messages_) {
       if (message.level == level) writeMessage(page, message);
     }

@@ -29,10 +29,7 @@ constexpr FileFormat formats[] = {
 }  // namespace
 
 const FileFormat* fileFormatOf(const std::filesystem::path& file) {
-  std::string extension = fileText(file.extension());
-  for (char& c : extension) {
-    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
-  }
+  const std::string extension = extensionOf(file);
   const auto* row = std::find_if(std::begin(formats), std::end(formats),
                                  [&](const auto& format) { return format.extension == extension; });
   return row == std::end(formats) ? nullptr : row;

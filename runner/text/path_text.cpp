@@ -56,4 +56,12 @@ std::filesystem::path filePath(std::string_view text) { return text; }
 std::string fileText(const std::filesystem::path& file) { return file.native(); }
 #endif
 
+std::string extensionOf(const std::filesystem::path& file) {
+  std::string extension = fileText(file.extension());
+  for (char& c : extension) {
+    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
+  }
+  return extension;
+}
+
 }  // namespace vtlcmd::runner

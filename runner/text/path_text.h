@@ -22,4 +22,7 @@ std::string utf8Path(const HostPath& path);
 std::filesystem::path filePath(std::string_view text);
 std::string fileText(const std::filesystem::path& file);
 
+/// Like ".npy"; letters A to Z are small ones.
+std::string extensionOf(const std::filesystem::path& file);
+
 }  // namespace vtlcmd::runner

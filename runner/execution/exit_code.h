@@ -1,5 +1,7 @@
 #pragma once
 
+#include "execution/frame_record.h"
+
 namespace vtlcmd::runner {
 
 /// What the program tells its caller.
@@ -16,6 +18,19 @@ enum class ExitCode : int {
   /// As a shell reports a process that the signal of a closed pipe ended.
   readerGone = 141,
 };
+
+/// Of a run whose frames failed in no worse way.
+constexpr ExitCode exitCodeOf(Failure worst) noexcept {
+  switch (worst) {
+    case Failure::none:
+      return ExitCode::success;
+    case Failure::transient:
+      return ExitCode::tryAgain;
+    case Failure::permanent:
+      break;
+  }
+  return ExitCode::runFailed;
+}
 
 /// As a shell reports a process that the signal ended.
 constexpr ExitCode interruptedBy(int signal) noexcept {
