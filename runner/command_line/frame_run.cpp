@@ -49,8 +49,8 @@ FrameRun::FrameRun(const LoadedRun& loaded, const RunOptions& options, RunReport
       printer_(logger_, static_cast<std::int16_t>(loaded.settings.verbosity),
                options.report.sinks(report_), progress_, loaded.settings.frames.wholeSize() > 1),
       collector_(loaded.settings.frames, queue_, journal, printer_, progress_, report_.stream,
-                 {loaded.frames.failFast, [&reports](const FrameRecord& record) {
-                    for (const std::filesystem::path& file : record.filesRead) reports.keep(file);
+                 {loaded.frames.failFast, [&reports](const FrameOutcome& outcome) {
+                    for (const std::filesystem::path& file : outcome.filesRead) reports.keep(file);
                   }}) {
   if (progressForm(options.progress) != ProgressForm::none) ticker_.emplace(progress_);
 }

@@ -31,7 +31,7 @@ RunSettings settingsOf(const ShowRecord& record) {
   for (const ShownFile& file : record.files) {
     if (file.file != standardInput) settings.filesRead.push_back(filePath(file.file));
   }
-  settings.framesText = record.frame.entry.frameText;
+  settings.framesText = record.frame.frameText;
   settings.frames.append(1, 1, 1);
   settings.outputForm = record.form;
   return settings;
@@ -81,7 +81,7 @@ void writeShowReports(const RunReports& reports, const ShowRecord& record) {
         JournalFile::temporary(),
         runContent(graphOf(record.files), settingsOf(record), record.plugInFile, record.printLimit),
         runTimes(record.arguments));
-    journal.startFrame(0, record.frame.entry.frameText, record.frame.worker);
+    journal.startFrame(0, record.frame.frameText, record.frame.worker);
     journal.addFrame(frameContent(record.frame), frameTimes(record.frame));
     journal.end(record.end);
     reports.write({journal.file().lines(), "the journal"});

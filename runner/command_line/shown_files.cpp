@@ -86,6 +86,7 @@ FrameRecord ShownFiles::takeFrame() {
   frame_.failure = logger_.currentEntry().succeeded() ? Failure::none : Failure::permanent;
   distributeMessages(logger_);
   frame_.entry = logger_.currentEntry();
+  frame_.frameText = frame_.entry.frameText;
   frame_.seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - begin_).count();
   return std::move(frame_);
 }

@@ -139,7 +139,7 @@ std::size_t wantedChunkSize(const SubmitOptions& options, const LoadedRun& loade
   Session session(loaded.graph, loaded.plugIn->translation(), loaded.settings, logger);
   const FrameRecord trial = session.run(0);
   if (!trial.succeeded())
-    std::cerr << "vtlcmd: the trial of frame " << trial.entry.frameText << " failed\n";
+    std::cerr << "vtlcmd: the trial of frame " << trial.frameText << " failed\n";
   return chunkSizeFor(parseChunkSeconds(options), trial.seconds, loaded.settings.frames.size());
 }
 

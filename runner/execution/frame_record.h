@@ -21,10 +21,10 @@ enum class Failure {
   permanent,
 };
 
-/// What is known of a frame that has run.
-struct FrameRecord {
-  /// With its messages handed out, when a report wants to know.
-  ReportEntry entry;
+/// What a frame that has run came to.
+struct FrameOutcome {
+  /// The frame's number as the user knows it.
+  std::string frameText;
   Failure failure = Failure::none;
   /// Of the graph system.
   std::uint64_t errors = 0;
@@ -37,12 +37,18 @@ struct FrameRecord {
   unsigned attempts = 1;
   /// Those whose names the graph computed.
   std::set<std::filesystem::path> filesRead;
+
+  bool succeeded() const noexcept { return failure == Failure::none; }
+};
+
+/// The same, and what a journal tells besides.
+struct FrameRecord : FrameOutcome {
+  /// With its messages handed out, when a report wants to know; else without anything.
+  ReportEntry entry;
   /// By output, its exact value as JSON; empty when no report wants to know.
   std::map<std::string, std::string> values;
   /// By output, what its picture is drawn from as JSON, of those that have one in this frame.
   std::map<std::string, std::string> pictures;
-
-  bool succeeded() const noexcept { return failure == Failure::none; }
 };
 
 }  // namespace vtlcmd::runner

@@ -58,8 +58,11 @@ FrameRecord Session::run(std::size_t place) {
   FrameRecord record = runFrame();
   record.errors = logger_.errorCount - errorsBefore;
   record.warnings = logger_.warningCount - warningsBefore;
-  if (settings_.recordFrames) distributeMessages(logger_);
-  record.entry = std::move(logger_.currentEntry());
+  record.frameText = description_.frameText;
+  if (settings_.recordFrames) {
+    distributeMessages(logger_);
+    record.entry = std::move(logger_.currentEntry());
+  }
   logger_.currentGroup()->entries.clear();
   record.started = startTime;
   record.seconds =

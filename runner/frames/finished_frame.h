@@ -13,8 +13,7 @@ namespace vtlcmd::runner {
 struct FinishedFrame {
   /// Among the frames of the run.
   std::size_t place = 0;
-  /// Without messages, outputs and values, which are in what follows.
-  FrameRecord record;
+  FrameOutcome outcome;
   /// In the order of their coming.
   std::vector<LogMessage> messages;
   /// What the journal tells of it, as `frameContent` gives it; empty when there is no journal.

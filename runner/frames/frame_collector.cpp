@@ -35,7 +35,11 @@ void FrameCollector::begin(std::size_t place, unsigned worker) {
 bool FrameCollector::take(FinishedFrame frame) {
   ++taken_;
   if (!settings_.failFast) keep(frame);
-  order_.add(std::move(frame));
+  if (!hasEnded_ && order_.takeTurn(frame.place)) {
+    show(frame);
+  } else {
+    order_.add(std::move(frame));
+  }
   while (!hasEnded_) {
     const std::optional<FinishedFrame> next = order_.next();
     if (!next) break;
@@ -58,7 +62,7 @@ bool FrameCollector::isFull() const { return order_.size() > mostWaiting; }
 void FrameCollector::keep(const FinishedFrame& frame) {
   if (journal_ == nullptr || journalError_) return;
   try {
-    journal_->addFrame(frame.content, frameTimes(frame.record));
+    journal_->addFrame(frame.content, frameTimes(frame.outcome));
   } catch (const std::system_error& error) {
     journalError_ = error;
   }
@@ -67,17 +71,18 @@ void FrameCollector::keep(const FinishedFrame& frame) {
 /// The frame is in the journal before anyone reads of it.
 void FrameCollector::show(const FinishedFrame& frame) {
   if (settings_.failFast) keep(frame);
-  totals_.failure = std::max(totals_.failure, frame.record.failure);
-  totals_.errors += frame.record.errors;
-  totals_.warnings += frame.record.warnings;
-  settings_.onFrame(frame.record);
+  totals_.failure = std::max(totals_.failure, frame.outcome.failure);
+  totals_.errors += frame.outcome.errors;
+  totals_.warnings += frame.outcome.warnings;
+  settings_.onFrame(frame.outcome);
   if (!frame.said.empty()) {
     progress_.hide();
     std::cerr << frame.said << std::flush;
     progress_.show();
   }
-  printer_.print(frame.record.entry.frameText, frame.messages);
-  hasEnded_ = !report_.good() || journalError_ || (settings_.failFast && !frame.record.succeeded());
+  printer_.print(frame.outcome.frameText, frame.messages);
+  hasEnded_ =
+      !report_.good() || journalError_ || (settings_.failFast && !frame.outcome.succeeded());
 }
 
 }  // namespace vtlcmd::runner

@@ -34,7 +34,7 @@ class FrameCollector {
     /// that those behind a failed one are as if they had never run.
     bool failFast = false;
     /// Called with each frame in its turn.
-    std::function<void(const FrameRecord&)> onFrame;
+    std::function<void(const FrameOutcome&)> onFrame;
   };
 
   /// `queue` has the frames that are to come; the journal may be null. All that is handed over must

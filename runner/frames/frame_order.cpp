@@ -15,6 +15,12 @@ std::size_t sizeOf(const FinishedFrame& frame) {
 
 FrameOrder::FrameOrder(FrameQueue order) : order_(std::move(order)), awaited_(order_.take()) {}
 
+bool FrameOrder::takeTurn(std::size_t place) {
+  if (awaited_ != place) return false;
+  awaited_ = order_.take();
+  return true;
+}
+
 void FrameOrder::add(FinishedFrame frame) {
   size_ += sizeOf(frame);
   waiting_.insert_or_assign(frame.place, std::move(frame));

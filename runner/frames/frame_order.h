@@ -15,6 +15,10 @@ class FrameOrder {
   /// `order` gives the frames in order.
   explicit FrameOrder(FrameQueue order);
 
+  /// For a frame that is handed on at once: whether it is its turn, which then is over.
+  bool takeTurn(std::size_t place);
+
+  /// Any other frame.
   void add(FinishedFrame frame);
 
   /// The frame whose turn it is; nothing while it isn't finished.

@@ -8,16 +8,19 @@
 namespace vtlcmd::runner {
 
 FinishedFrame runFrame(Session& session, std::size_t place, VtlCmdLogger& logger, bool isRecorded) {
+  FrameRecord record = session.run(place);
   FinishedFrame frame;
   frame.place = place;
-  frame.record = session.run(place);
+  if (isRecorded) frame.content = frameContent(record);
+  frame.outcome = std::move(record);
   frame.messages = std::exchange(logger.messages, {});
-  if (isRecorded) frame.content = frameContent(frame.record);
+  // The next frame is likely to say as much.
+  logger.messages.reserve(frame.messages.size());
   return frame;
 }
 
-bool mayRunAgain(const FrameRecord& record, unsigned attempt, unsigned retries) {
-  return record.failure == Failure::transient && attempt <= retries && interruptSignal() == 0;
+bool mayRunAgain(const FrameOutcome& outcome, unsigned attempt, unsigned retries) {
+  return outcome.failure == Failure::transient && attempt <= retries && interruptSignal() == 0;
 }
 
 void runFrames(Session& session, VtlCmdLogger& logger, FrameQueue& queue, FrameCollector& collector,
@@ -25,12 +28,13 @@ void runFrames(Session& session, VtlCmdLogger& logger, FrameQueue& queue, FrameC
   while (interruptSignal() == 0) {
     const std::optional<std::size_t> place = queue.take();
     if (!place) return;
-    FinishedFrame frame;
-    for (unsigned attempt = 1; attempt == 1 || mayRunAgain(frame.record, attempt - 1, retries);
-         ++attempt) {
+    collector.begin(*place, 0);
+    FinishedFrame frame = runFrame(session, *place, logger, isRecorded);
+    unsigned attempt = 1;
+    while (mayRunAgain(frame.outcome, attempt, retries)) {
       collector.begin(*place, 0);
       frame = runFrame(session, *place, logger, isRecorded);
-      frame.record.attempts = attempt;
+      frame.outcome.attempts = ++attempt;
     }
     if (!collector.take(std::move(frame))) return;
   }

@@ -12,7 +12,7 @@ FinishedFrame runFrame(Session& session, std::size_t place, VtlCmdLogger& logger
 
 /// Whether a frame that failed in its `attempt`-th run is to be run again, of `retries` further
 /// attempts that it may have.
-bool mayRunAgain(const FrameRecord& record, unsigned attempt, unsigned retries);
+bool mayRunAgain(const FrameOutcome& outcome, unsigned attempt, unsigned retries);
 
 /// Runs the frames of a queue in this process, one after the other. An interrupt ends that.
 /// `isRecorded` says whether the frames go to a journal. Throws what the collector throws.

@@ -105,7 +105,7 @@ std::string frameContent(const FrameRecord& record) {
   json.key("index");
   json.number(entry.frameIndex);
   json.key("frame");
-  json.text(entry.frameText);
+  json.text(record.frameText);
   const auto writeFlag = [&json](std::string_view name, bool value) {
     json.key(name);
     json.boolean(value);
@@ -134,18 +134,18 @@ std::string frameContent(const FrameRecord& record) {
   return json.json();
 }
 
-std::string frameTimes(const FrameRecord& record) {
+std::string frameTimes(const FrameOutcome& outcome) {
   JsonWriter json;
   json.open('{');
   json.key("started");
-  json.text(timeText(record.started));
+  json.text(timeText(outcome.started));
   json.key("seconds");
-  json.number(record.seconds);
+  json.number(outcome.seconds);
   json.key("attempts");
-  json.number(record.attempts);
-  if (record.worker != 0) {
+  json.number(outcome.attempts);
+  if (outcome.worker != 0) {
     json.key("worker");
-    json.number(record.worker);
+    json.number(outcome.worker);
   }
   json.close('}');
   return json.json();

@@ -48,7 +48,7 @@ std::optional<JournalLine> parseJournalText(std::string_view text);
 
 /// What a "frame" line tells of a frame, for everyone and for its "times".
 std::string frameContent(const FrameRecord& record);
-std::string frameTimes(const FrameRecord& record);
+std::string frameTimes(const FrameOutcome& outcome);
 
 /// Messages as an object by who speaks, by level.
 std::string messagesContent(const MessagesBySource& messages);

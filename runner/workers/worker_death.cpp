@@ -1,5 +1,6 @@
 #include "workers/worker_death.h"
 
+#include "journal/journal_lines.h"
 #include "text/shortest_text.h"
 
 namespace vtlcmd::runner {
@@ -9,9 +10,8 @@ FinishedFrame failedFrame(std::string text, Failure failure, const std::string& 
                           const std::string& lastWords) {
   if (!lastWords.empty()) text += " Its process said last:\n" + lastWords;
   FinishedFrame failed;
-  failed.record.entry.frameText = frame;
-  failed.record.entry.messages[vtlcmdSource][levelCritical] = {text};
-  failed.record.failure = failure;
+  failed.outcome.frameText = frame;
+  failed.outcome.failure = failure;
   failed.messages = {
       {vtlcmdSource, levelCritical, text, VtlCmdLogger::noCurrent, VtlCmdLogger::noCurrent}};
   return failed;
@@ -46,6 +46,15 @@ FinishedFrame frameOutOfTime(std::chrono::milliseconds timeout, const std::strin
   return failedFrame("Frame " + frame + " took longer than " + shortestText(seconds) +
                          (seconds == 1 ? " second" : " seconds") + " (--frame-timeout).",
                      Failure::transient, frame, lastWords);
+}
+
+std::string contentOfDeath(const FinishedFrame& frame, std::uint32_t index) {
+  FrameRecord record;
+  static_cast<FrameOutcome&>(record) = frame.outcome;
+  record.entry.frameIndex = index;
+  for (const LogMessage& message : frame.messages)
+    record.entry.messages[message.source][message.level].push_back(message.text);
+  return frameContent(record);
 }
 
 }  // namespace vtlcmd::runner

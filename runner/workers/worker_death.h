@@ -1,6 +1,7 @@
 #pragma once
 
 #include <chrono>
+#include <cstdint>
 #include <optional>
 #include <string>
 
@@ -26,5 +27,8 @@ FinishedFrame frameOfDeath(const WorkerDeath& death, const std::string& frame,
 /// The frame that took longer than it may.
 FinishedFrame frameOutOfTime(std::chrono::milliseconds timeout, const std::string& frame,
                              const std::string& lastWords);
+
+/// What a journal tells of such a frame, the one with that index of the whole run.
+std::string contentOfDeath(const FinishedFrame& frame, std::uint32_t index);
 
 }  // namespace vtlcmd::runner

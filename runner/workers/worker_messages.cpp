@@ -61,17 +61,17 @@ std::string messageOf(WorkerNews news, std::string_view text) {
 }
 
 std::string messageOf(const FinishedFrame& frame) {
-  const FrameRecord& record = frame.record;
+  const FrameOutcome& outcome = frame.outcome;
   FieldWriter fields = begin(WorkerNews::finished);
   fields.number(frame.place);
-  fields.text(record.entry.frameText);
-  fields.number(static_cast<std::uint64_t>(record.failure));
-  fields.number(record.errors);
-  fields.number(record.warnings);
-  fields.number(static_cast<std::uint64_t>(record.started.time_since_epoch().count()));
-  fields.real(record.seconds);
-  fields.number(record.filesRead.size());
-  for (const std::filesystem::path& file : record.filesRead) fields.text(fileText(file));
+  fields.text(outcome.frameText);
+  fields.number(static_cast<std::uint64_t>(outcome.failure));
+  fields.number(outcome.errors);
+  fields.number(outcome.warnings);
+  fields.number(static_cast<std::uint64_t>(outcome.started.time_since_epoch().count()));
+  fields.real(outcome.seconds);
+  fields.number(outcome.filesRead.size());
+  for (const std::filesystem::path& file : outcome.filesRead) fields.text(fileText(file));
   fields.number(frame.messages.size());
   for (const LogMessage& message : frame.messages) {
     fields.number(message.source);
@@ -84,18 +84,18 @@ std::string messageOf(const FinishedFrame& frame) {
 
 FinishedFrame frameIn(FieldReader& fields) {
   FinishedFrame frame;
-  FrameRecord& record = frame.record;
+  FrameOutcome& outcome = frame.outcome;
   frame.place = static_cast<std::size_t>(fields.number());
-  record.entry.frameText = fields.text();
+  outcome.frameText = fields.text();
   const std::uint64_t failure = fields.number();
   if (failure > static_cast<std::uint64_t>(Failure::permanent)) throw MessageError();
-  record.failure = static_cast<Failure>(failure);
-  record.errors = fields.number();
-  record.warnings = fields.number();
-  record.started = timeFrom(fields.number());
-  record.seconds = fields.real();
+  outcome.failure = static_cast<Failure>(failure);
+  outcome.errors = fields.number();
+  outcome.warnings = fields.number();
+  outcome.started = timeFrom(fields.number());
+  outcome.seconds = fields.real();
   for (std::uint64_t left = fields.number(); left > 0; --left)
-    record.filesRead.insert(filePath(fields.text()));
+    outcome.filesRead.insert(filePath(fields.text()));
   for (std::uint64_t left = fields.number(); left > 0; --left) {
     const auto source = static_cast<LogSource>(fields.number());
     const auto level = static_cast<LogLevel>(fields.number());

@@ -177,8 +177,8 @@ void WorkerPool::finishFrame(Worker& worker, FinishedFrame frame) {
   worker.places.pop_front();
   worker.since = Clock::now();
   frame.said = worker.process.takeSaid();
-  frame.record.worker = worker.number;
-  chunkSize_.addMeasurement(frame.record.seconds);
+  frame.outcome.worker = worker.number;
+  chunkSize_.addMeasurement(frame.outcome.seconds);
   if (runAgain(worker, frame)) return;
   collect(std::move(frame));
   if (goesOn_ && !worker.places.empty() && !hasStopped_) beginFrame(worker);
@@ -186,7 +186,7 @@ void WorkerPool::finishFrame(Worker& worker, FinishedFrame frame) {
 
 /// The worker keeps the frame, so that it is heard when all others wait for that.
 bool WorkerPool::runAgain(Worker& worker, const FinishedFrame& frame) {
-  if (!mayRunAgain(frame.record, attempts_[frame.place] + 1, settings_.retries)) return false;
+  if (!mayRunAgain(frame.outcome, attempts_[frame.place] + 1, settings_.retries)) return false;
   ++attempts_[frame.place];
   const bool begins = !worker.places.empty();
   give(worker, {frame.place});
@@ -197,7 +197,7 @@ bool WorkerPool::runAgain(Worker& worker, const FinishedFrame& frame) {
 void WorkerPool::collect(FinishedFrame frame) {
   const auto before = attempts_.find(frame.place);
   if (before != attempts_.end()) {
-    frame.record.attempts = before->second + 1;
+    frame.outcome.attempts = before->second + 1;
     attempts_.erase(before);
   }
   goesOn_ = collector_.take(std::move(frame));
@@ -235,18 +235,19 @@ void WorkerPool::bury(Worker& worker) {
   FinishedFrame frame = dead->isOutOfTime ? frameOutOfTime(*settings_.timeout, frameText, lastWords)
                                           : frameOfDeath(death, frameText, lastWords);
   frame.place = place;
-  if (mayRunAgain(frame.record, attempts_[place] + 1, settings_.retries)) {
+  if (mayRunAgain(frame.outcome, attempts_[place] + 1, settings_.retries)) {
     ++attempts_[place];
     return queue_.putBack(place);
   }
-  FrameRecord& record = frame.record;
-  record.entry.frameIndex = static_cast<std::uint32_t>(frames_.placeInWhole(place));
-  record.worker = dead->number;
+  FrameOutcome& outcome = frame.outcome;
+  outcome.worker = dead->number;
   const Clock::duration time = Clock::now() - dead->since;
-  record.seconds = std::chrono::duration<double>(time).count();
-  record.started = std::chrono::system_clock::now() -
-                   std::chrono::duration_cast<std::chrono::system_clock::duration>(time);
-  if (settings_.isRecorded) frame.content = frameContent(record);
+  outcome.seconds = std::chrono::duration<double>(time).count();
+  outcome.started = std::chrono::system_clock::now() -
+                    std::chrono::duration_cast<std::chrono::system_clock::duration>(time);
+  if (settings_.isRecorded) {
+    frame.content = contentOfDeath(frame, static_cast<std::uint32_t>(frames_.placeInWhole(place)));
+  }
   collect(std::move(frame));
 }
 

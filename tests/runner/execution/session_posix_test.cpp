@@ -37,6 +37,7 @@ class InterruptedTranslation final : public PlugIn::Translation {
           "outputs": [{"name": "first", "from": "k"}, {"name": "second", "from": "k"}]})");
   RunSettings settings;
   settings.frames.append(1, 1, 1);
+  settings.recordFrames = true;
   VtlCmdLogger logger(10);
   const InterruptedTranslation translation;
   const FrameRecord record = Session(graph, translation, settings, logger).run(0);

@@ -31,6 +31,17 @@ TEST(FrameOrder, WaitsForTheFrameWhoseTurnItIs) {
   EXPECT_EQ(order.awaited(), std::nullopt);
 }
 
+TEST(FrameOrder, TheFrameWhoseTurnItIsNeedNotWait) {
+  FrameOrder order{FrameQueue(3)};
+  EXPECT_FALSE(order.takeTurn(1));
+  order.add(finished(1));
+  EXPECT_TRUE(order.takeTurn(0));
+  EXPECT_EQ(placeOf(order.next()), 1);
+  EXPECT_FALSE(order.takeTurn(1));
+  EXPECT_TRUE(order.takeTurn(2));
+  EXPECT_EQ(order.awaited(), std::nullopt);
+}
+
 TEST(FrameOrder, DoesNotWaitForWhatIsDone) {
   FrameOrder order{FrameQueue(3, {true, false, true})};
   order.add(finished(1));

@@ -28,7 +28,7 @@ const std::string runLine = journalText(
 std::string frameLine(std::uint32_t index, bool succeeds) {
   FrameRecord record;
   record.entry.frameIndex = index;
-  record.entry.frameText = std::to_string(index + 1);
+  record.frameText = std::to_string(index + 1);
   record.entry.outputs["values"] = {"array<int>", "(1 int)\n  {\n     min: 1\n  }", true};
   record.entry.outputs["quiet"] = {"double", "", false};
   record.values["quiet"] = "0.1";
@@ -135,7 +135,7 @@ TEST(HtmlReport, OfOtherMessagesTheOutputsAreLeftOut) {
 TEST(HtmlReport, AnOutputThatAFrameLacksIsSaidSo) {
   FrameRecord record;
   record.entry.frameIndex = 4;
-  record.entry.frameText = "5";
+  record.frameText = "5";
   record.entry.interrupted = true;
   record.failure = Failure::transient;
   const std::string page =
