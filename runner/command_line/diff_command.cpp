@@ -16,7 +16,7 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-constexpr const char* footer = R"(Examples:
+constexpr const char* diffFooter = R"(Examples:
   vtlcmd diff yesterday.journal today.journal
   vtlcmd diff a.json b.json --tolerance 1e-6,1e-9 --json
 
@@ -136,7 +136,7 @@ void addDiffCommand(CLI::App& app, CommandState& state) {
                    "How far numbers may be apart; to the bit unless given")
       ->type_name("ABS[,REL]");
   command->add_flag("--json", options->json, "Print a JSON document");
-  command->footer(footer);
+  command->footer(diffFooter);
   command->callback([options, &state] { state.exitCode = diff(*options); });
 }
 

@@ -13,7 +13,7 @@
 namespace vtlcmd::runner {
 namespace {
 
-constexpr const char* footer = R"(Examples:
+constexpr const char* helpFooter = R"(Examples:
   vtlcmd help run
   vtlcmd help graph
 )";
@@ -51,7 +51,7 @@ void addHelpCommand(CLI::App& app) {
       app.add_subcommand("help", "Tell of a command, or of the form of graph files");
   command->add_option("TOPIC", *topic, "A command, or 'graph'; none for the program")
       ->type_name("");
-  command->footer(footer);
+  command->footer(helpFooter);
   command->callback([&app, topic] { printHelp(app, *topic); });
 }
 

@@ -17,7 +17,7 @@
 namespace vtlcmd::runner {
 namespace {
 
-constexpr const char* footer = R"(Examples:
+constexpr const char* reportFooter = R"(Examples:
   vtlcmd report run.journal -o run.html
   vtlcmd report part*.journal -o job.html
   vtlcmd report run.journal -o run.csv
@@ -108,7 +108,7 @@ void addReportCommand(CLI::App& app, CommandState& state) {
       ->check(CLI::IsMember({"json", "html", "csv"}));
   command->add_flag("--no-times", options->noTimes,
                     "Leave out what another run of the same would tell differently");
-  command->footer(footer);
+  command->footer(reportFooter);
   command->callback([options, &state] { state.exitCode = report(*options); });
 }
 

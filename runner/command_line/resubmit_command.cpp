@@ -18,7 +18,7 @@
 namespace vtlcmd::runner {
 namespace {
 
-constexpr const char* footer = R"(Examples:
+constexpr const char* resubmitFooter = R"(Examples:
   vtlcmd resubmit /farm/scatter
   vtlcmd resubmit /farm/scatter --wait -- --mem=8G
 
@@ -109,7 +109,7 @@ void addResubmitCommand(CLI::App& app, CommandState& state) {
   const auto options = std::make_shared<ResubmitOptions>();
   CLI::App* command =
       app.add_subcommand("resubmit", "Run the frames again that a farm lost or that failed");
-  command->footer(footer);
+  command->footer(resubmitFooter);
   command->add_option("FOLDER", options->folder, "Folder that 'vtlcmd submit' made")
       ->required()
       ->type_name("");

@@ -11,7 +11,7 @@
 namespace vtlcmd::runner {
 namespace {
 
-constexpr const char* footer = R"(Examples:
+constexpr const char* runFooter = R"(Examples:
   vtlcmd run scatter.json -s count=1000 -s offset=10,0,-5 -j seed=7
   vtlcmd run animated.json -f 1-48 --fps 24 --report run.html
   vtlcmd run scatter.json -q --report - | jq .frames[0].outputs
@@ -45,7 +45,7 @@ ExitCode run(const RunOptions& options, const std::vector<std::string>& argument
 void addRunCommand(CLI::App& app, CommandState& state) {
   const auto options = std::make_shared<RunOptions>();
   CLI::App* command = app.add_subcommand("run", "Run a graph and report its outputs");
-  command->footer(footer);
+  command->footer(runFooter);
   addRunOptions(*command, *options);
   command->callback([options, &state] { state.exitCode = run(*options, state.arguments); });
 }

@@ -19,7 +19,7 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-constexpr const char* footer = R"(Examples:
+constexpr const char* statusFooter = R"(Examples:
   vtlcmd status /farm/scatter
   vtlcmd status /farm/scatter --json | jq .failed.frames
 
@@ -97,7 +97,7 @@ void addStatusCommand(CLI::App& app) {
   const auto options = std::make_shared<Options>();
   CLI::App* command =
       app.add_subcommand("status", "Tell how far a job on a farm is, by its folder alone");
-  command->footer(footer);
+  command->footer(statusFooter);
   command->add_option("FOLDER", options->folder, "Folder that 'vtlcmd submit' made")
       ->required()
       ->type_name("");

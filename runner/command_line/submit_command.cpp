@@ -20,7 +20,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr const char* footer = R"(Examples:
+constexpr const char* submitFooter = R"(Examples:
   vtlcmd submit scatter.json -f 1-1000 --chunk 50 --to /farm/a -s count=1000
   vtlcmd submit scatter.json -f 1-1000 --to /farm/b --wait -- --mem=4G
   vtlcmd status /farm/a
@@ -118,7 +118,7 @@ void addSubmitCommand(CLI::App& app, CommandState& state) {
   const auto options = std::make_shared<SubmitOptions>();
   CLI::App* command =
       app.add_subcommand("submit", "Run the frames of a graph on a farm, by its scheduler Slurm");
-  command->footer(footer);
+  command->footer(submitFooter);
   addSubmitOptions(*command, *options);
   command->callback([options, &state] {
     try {

@@ -8,7 +8,7 @@ namespace vtlcmd::runner {
 namespace {
 
 /// How far from a step's end a number may be that means it, in steps.
-constexpr double tolerance = 1e-7;
+constexpr double evenTolerance = 1e-7;
 
 /// One fewer than any double needs, and so without the error of its last digit.
 constexpr int digitsOfFraction = 15;
@@ -62,7 +62,7 @@ std::size_t evenLength(std::span<const double> frames) {
   std::size_t length = 2;
   while (length < frames.size()) {
     const double expected = frames[0] + static_cast<double>(length) * step;
-    if (std::abs(frames[length] - expected) > tolerance * std::abs(step)) break;
+    if (std::abs(frames[length] - expected) > evenTolerance * std::abs(step)) break;
     ++length;
   }
   return length < 3 ? 1 : length;

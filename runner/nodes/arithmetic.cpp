@@ -96,7 +96,7 @@ const std::vector<Parameter> two{{"a", &type_classes::arithmetic},
                                  {"b", &type_classes::arithmetic}};
 const std::vector<Parameter> one{{"x", &type_classes::floating}};
 
-const NodeOperation table[] = {
+const NodeOperation arithmeticOperations[] = {
     {"add", two, NodeSetting::none, resultOfTwo, evaluateTwo<add>,
      "a + b, by element and component; integers wrap around."},
     {"subtract", two, NodeSetting::none, resultOfTwo, evaluateTwo<subtract>,
@@ -112,6 +112,6 @@ const NodeOperation table[] = {
 
 }  // namespace
 
-std::span<const NodeOperation> arithmetic() { return table; }
+std::span<const NodeOperation> arithmetic() { return arithmeticOperations; }
 
 }  // namespace vtlcmd::runner::node_families

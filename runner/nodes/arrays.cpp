@@ -97,7 +97,7 @@ Orvel::Value concatenate(const NodeCall& call) {
 
 using namespace type_classes;
 
-const NodeOperation table[] = {
+const NodeOperation arrayOperations[] = {
     {"range",
      {{"count", &integer}},
      NodeSetting::none,
@@ -156,6 +156,6 @@ const NodeOperation table[] = {
 
 }  // namespace
 
-std::span<const NodeOperation> arrays() { return table; }
+std::span<const NodeOperation> arrays() { return arrayOperations; }
 
 }  // namespace vtlcmd::runner::node_families

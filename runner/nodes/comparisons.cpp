@@ -48,7 +48,7 @@ NodeOperation comparison(std::string_view name, std::string_view help) {
           help};
 }
 
-const NodeOperation table[] = {
+const NodeOperation comparisonOperations[] = {
     comparison<std::equal_to<>>("equal", "Whether a = b, by element; a NaN equals nothing."),
     comparison<std::not_equal_to<>>(
         "not_equal", "Whether a and b differ, by element; a NaN differs from everything."),
@@ -65,6 +65,6 @@ const NodeOperation table[] = {
 
 }  // namespace
 
-std::span<const NodeOperation> comparisons() { return table; }
+std::span<const NodeOperation> comparisons() { return comparisonOperations; }
 
 }  // namespace vtlcmd::runner::node_families

@@ -3,7 +3,7 @@
 namespace vtlcmd::runner::node_families {
 namespace {
 
-const NodeOperation table[] = {
+const NodeOperation constantOperations[] = {
     {"constant",
      {},
      NodeSetting::typeAndValue,
@@ -14,6 +14,6 @@ const NodeOperation table[] = {
 
 }  // namespace
 
-std::span<const NodeOperation> constants() { return table; }
+std::span<const NodeOperation> constants() { return constantOperations; }
 
 }  // namespace vtlcmd::runner::node_families

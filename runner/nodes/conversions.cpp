@@ -78,7 +78,7 @@ Orvel::Value evaluateConversion(const NodeCall& call) {
   return *std::move(result);
 }
 
-const NodeOperation table[] = {
+const NodeOperation conversionOperations[] = {
     {"convert",
      {{"value", &type_classes::convertible}},
      NodeSetting::type,
@@ -89,6 +89,6 @@ const NodeOperation table[] = {
 
 }  // namespace
 
-std::span<const NodeOperation> conversions() { return table; }
+std::span<const NodeOperation> conversions() { return conversionOperations; }
 
 }  // namespace vtlcmd::runner::node_families

@@ -55,7 +55,7 @@ Orvel::Value readMeshNode(const NodeCall& call) {
 
 const std::vector<Parameter> path{{"path", &type_classes::path}};
 
-const NodeOperation table[] = {
+const NodeOperation fileOperations[] = {
     {"read_npy", path, NodeSetting::type, [](const NodeTypes& types) { return *types.declared; },
      readArray,
      "The array in a NumPy file, which must be of the given type. Vectors are made of a last "
@@ -70,6 +70,6 @@ const NodeOperation table[] = {
 
 }  // namespace
 
-std::span<const NodeOperation> files() { return table; }
+std::span<const NodeOperation> files() { return fileOperations; }
 
 }  // namespace vtlcmd::runner::node_families

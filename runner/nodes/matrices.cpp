@@ -115,7 +115,7 @@ Orvel::Value transform(const NodeCall& call) {
   return *std::move(result);
 }
 
-const NodeOperation table[] = {
+const NodeOperation matrixOperations[] = {
     {"matrix",
      {{"components", &type_classes::floating, true}},
      NodeSetting::type,
@@ -134,6 +134,6 @@ const NodeOperation table[] = {
 
 }  // namespace
 
-std::span<const NodeOperation> matrices() { return table; }
+std::span<const NodeOperation> matrices() { return matrixOperations; }
 
 }  // namespace vtlcmd::runner::node_families

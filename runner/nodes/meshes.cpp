@@ -95,7 +95,7 @@ Orvel::Value scatter(const NodeCall& call) {
 
 using namespace type_classes;
 
-const NodeOperation table[] = {
+const NodeOperation meshOperations[] = {
     {"scatter",
      {{"mesh", &object}, {"count", &integer}, {"seed", &integer}},
      NodeSetting::none,
@@ -108,6 +108,6 @@ const NodeOperation table[] = {
 
 }  // namespace
 
-std::span<const NodeOperation> meshes() { return table; }
+std::span<const NodeOperation> meshes() { return meshOperations; }
 
 }  // namespace vtlcmd::runner::node_families

@@ -7,11 +7,13 @@
 namespace vtlcmd::runner {
 
 std::span<const std::span<const NodeOperation>> nodeFamilies() {
-  using namespace node_families;
-  static const std::array families{
-      constants(),  arithmetic(), comparisons(), conversions(),    arrays(),   selections(),
-      reductions(), ordering(),   vectors(),     vectorProducts(), matrices(), texts(),
-      runFacts(),   objects(),    meshes(),      files(),          textFiles()};
+  namespace of = node_families;
+  static const std::array families{of::constants(),      of::arithmetic(), of::comparisons(),
+                                   of::conversions(),    of::arrays(),     of::selections(),
+                                   of::reductions(),     of::ordering(),   of::vectors(),
+                                   of::vectorProducts(), of::matrices(),   of::texts(),
+                                   of::runFacts(),       of::objects(),    of::meshes(),
+                                   of::files(),          of::textFiles()};
   return families;
 }
 

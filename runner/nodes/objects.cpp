@@ -40,7 +40,7 @@ Orvel::Value getData(const NodeCall& call) {
 
 using namespace type_classes;
 
-const NodeOperation table[] = {
+const NodeOperation objectOperations[] = {
     {"object",
      {},
      NodeSetting::none,
@@ -69,6 +69,6 @@ const NodeOperation table[] = {
 
 }  // namespace
 
-std::span<const NodeOperation> objects() { return table; }
+std::span<const NodeOperation> objects() { return objectOperations; }
 
 }  // namespace vtlcmd::runner::node_families

@@ -80,7 +80,7 @@ Orvel::Value clamp(const NodeCall& call) {
 
 using type_classes::arithmetic;
 
-const NodeOperation table[] = {
+const NodeOperation orderingOperations[] = {
     {"sort",
      {{"array", &type_classes::comparableArray}},
      NodeSetting::none,
@@ -98,6 +98,6 @@ const NodeOperation table[] = {
 
 }  // namespace
 
-std::span<const NodeOperation> ordering() { return table; }
+std::span<const NodeOperation> ordering() { return orderingOperations; }
 
 }  // namespace vtlcmd::runner::node_families

@@ -70,7 +70,7 @@ NodeOperation reduction(std::string_view name, std::string_view help) {
           help};
 }
 
-const NodeOperation table[] = {
+const NodeOperation reductionOperations[] = {
     reduction<least>("minimum",
                      "The least element, of vectors by component; a NaN counts as greater than all "
                      "numbers, -0 as less than 0."),
@@ -84,6 +84,6 @@ const NodeOperation table[] = {
 
 }  // namespace
 
-std::span<const NodeOperation> reductions() { return table; }
+std::span<const NodeOperation> reductions() { return reductionOperations; }
 
 }  // namespace vtlcmd::runner::node_families

@@ -43,7 +43,7 @@ NodeOperation sceneNode(std::string_view name, std::string_view help) {
           help};
 }
 
-const NodeOperation table[] = {
+const NodeOperation runFactOperations[] = {
     timeNode<&Time::mode>("time_mode", "The mode of a time."),
     timeNode<&Time::time>("time_seconds", "The seconds of a time."),
     timeNode<&Time::frame>("time_frame", "The frame number of a time."),
@@ -58,6 +58,6 @@ const NodeOperation table[] = {
 
 }  // namespace
 
-std::span<const NodeOperation> runFacts() { return table; }
+std::span<const NodeOperation> runFacts() { return runFactOperations; }
 
 }  // namespace vtlcmd::runner::node_families

@@ -48,7 +48,7 @@ Orvel::Value filter(const NodeCall& call) {
 
 using namespace type_classes;
 
-const NodeOperation table[] = {
+const NodeOperation selectionOperations[] = {
     {"select",
      {{"condition", &conditions}, {"a", &any}, {"b", &any}},
      NodeSetting::none,
@@ -65,6 +65,6 @@ const NodeOperation table[] = {
 
 }  // namespace
 
-std::span<const NodeOperation> selections() { return table; }
+std::span<const NodeOperation> selections() { return selectionOperations; }
 
 }  // namespace vtlcmd::runner::node_families

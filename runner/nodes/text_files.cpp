@@ -41,7 +41,7 @@ Orvel::Value readLines(const NodeCall& call) {
   }
 }
 
-const NodeOperation table[] = {
+const NodeOperation textFileOperations[] = {
     {"read_lines",
      {{"path", &type_classes::path}},
      NodeSetting::none,
@@ -55,6 +55,6 @@ const NodeOperation table[] = {
 
 }  // namespace
 
-std::span<const NodeOperation> textFiles() { return table; }
+std::span<const NodeOperation> textFiles() { return textFileOperations; }
 
 }  // namespace vtlcmd::runner::node_families

@@ -59,7 +59,7 @@ ValueType textType(const NodeTypes& types) {
   return {valueType<Orvel::String>().name, types[0].depth};
 }
 
-const NodeOperation table[] = {
+const NodeOperation textOperations[] = {
     {"text",
      {{"value", &type_classes::scalars}},
      NodeSetting::none,
@@ -83,6 +83,6 @@ const NodeOperation table[] = {
 
 }  // namespace
 
-std::span<const NodeOperation> texts() { return table; }
+std::span<const NodeOperation> texts() { return textOperations; }
 
 }  // namespace vtlcmd::runner::node_families

@@ -3,6 +3,7 @@
 #include <string>
 #include <string_view>
 
+#include "nodes/node_operation.h"
 #include "nodes/operand.h"
 
 namespace vtlcmd::runner {
@@ -14,6 +15,11 @@ inline std::string_view componentOf(const std::string& element) {
     if constexpr (Composite<T>) component = valueType<typename T::ComponentType>().name;
   });
   return component;
+}
+
+/// The type of a vector's components, an array where there is one of vectors.
+inline ValueType componentType(const NodeTypes& types) {
+  return {std::string(componentOf(types[0].element)), types[0].depth};
 }
 
 /// Numbers, single or in an array, as vectors T of that many of them where T is a vector of such

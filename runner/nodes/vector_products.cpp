@@ -38,10 +38,6 @@ T crossProduct(const T& a, const T& b) {
   return T{{minor(1, 2), minor(2, 0), minor(0, 1)}};
 }
 
-ValueType componentType(const NodeTypes& types) {
-  return {std::string(componentOf(types[0].element)), types[0].depth};
-}
-
 ValueType commonType(const NodeTypes& types) {
   if (types[0].element != types[1].element) {
     throw std::invalid_argument(nameOf(types[0]) + " and " + nameOf(types[1]) +
@@ -108,7 +104,7 @@ Orvel::Value cross(const NodeCall& call) {
 
 const std::vector<Parameter> two{{"a", &type_classes::vectors}, {"b", &type_classes::vectors}};
 
-const NodeOperation table[] = {
+const NodeOperation vectorProductOperations[] = {
     {"magnitude",
      {{"vector", &type_classes::vectors}},
      NodeSetting::none,
@@ -123,6 +119,6 @@ const NodeOperation table[] = {
 
 }  // namespace
 
-std::span<const NodeOperation> vectorProducts() { return table; }
+std::span<const NodeOperation> vectorProducts() { return vectorProductOperations; }
 
 }  // namespace vtlcmd::runner::node_families

@@ -3,6 +3,7 @@
 #include "nodes/families.h"
 #include "nodes/integer_argument.h"
 #include "nodes/operand.h"
+#include "nodes/vector_components.h"
 
 namespace vtlcmd::runner::node_families {
 namespace {
@@ -64,13 +65,6 @@ Orvel::Value makeVector(const NodeCall& call) {
   return *std::move(result);
 }
 
-ValueType componentType(const NodeTypes& types) {
-  ValueType result{{}, types[0].depth};
-  withVector(types[0].element,
-             [&]<typename T>() { result.element = valueType<typename T::ComponentType>().name; });
-  return result;
-}
-
 Orvel::Value component(const NodeCall& call) {
   const std::uint64_t index = countArgument(call, 1, "the index");
   std::optional<Orvel::Value> result;
@@ -87,7 +81,7 @@ Orvel::Value component(const NodeCall& call) {
   return *std::move(result);
 }
 
-const NodeOperation table[] = {
+const NodeOperation vectorOperations[] = {
     {"vector",
      {{"components", &type_classes::floating, true}},
      NodeSetting::type,
@@ -104,6 +98,6 @@ const NodeOperation table[] = {
 
 }  // namespace
 
-std::span<const NodeOperation> vectors() { return table; }
+std::span<const NodeOperation> vectors() { return vectorOperations; }
 
 }  // namespace vtlcmd::runner::node_families

@@ -15,8 +15,8 @@ constexpr std::uint64_t mostBars = 400;
 constexpr std::size_t mostLanes = 16;
 
 // In units of the picture's own coordinates, which the page stretches to the room that there is.
-constexpr double width = 1000;
-constexpr double height = 100;
+constexpr double timelineWidth = 1000;
+constexpr double timelineHeight = 100;
 
 std::string workerName(const nlohmann::ordered_json& worker) {
   return worker.is_string() ? worker.get<std::string>() : worker.dump();
@@ -96,13 +96,13 @@ void DurationTimeline::write(std::ostream& page, const FrameRange& frames) const
 
 void DurationTimeline::writeLane(std::ostream& page, const std::string& name, const Lane& lane,
                                  const Axis& x, const Axis& y) const {
-  const double barWidth = width / static_cast<double>(stretches_);
+  const double barWidth = timelineWidth / static_cast<double>(stretches_);
   const std::string thickness = shortNumber(barWidth * (barWidth > 8 ? 0.8 : 1), 4);
   std::string passed;
   std::string failed;
   for (const Bar& bar : lane.bars) {
-    const double left = x.share(bar.frame) * (width - barWidth);
-    const std::string top = shortNumber(y.share(bar.seconds) * height, 4);
+    const double left = x.share(bar.frame) * (timelineWidth - barWidth);
+    const std::string top = shortNumber(y.share(bar.seconds) * timelineHeight, 4);
     std::string& data = bar.failed ? failed : passed;
     data.append("M").append(shortNumber(left, 5)).append(" 100v-").append(top);
     data.append("h").append(thickness).append("v").append(top).append("z");

@@ -11,7 +11,7 @@
 namespace vtlcmd::runner {
 namespace {
 
-using Json = nlohmann::json;
+using AnyOrderJson = nlohmann::json;
 
 /// What every frame's line has; the places are those of `factNames`.
 enum Fact : std::size_t {
@@ -32,7 +32,7 @@ std::size_t placeOf(std::string_view name, const std::array<std::string_view, Si
 }
 
 /// Gathers the facts while a line is parsed, without a document of it in memory.
-class FactsGatherer : public nlohmann::json_sax<Json> {
+class FactsGatherer : public nlohmann::json_sax<AnyOrderJson> {
  public:
   const FrameFacts& facts() const { return facts_; }
   bool isComplete() const {
@@ -84,7 +84,7 @@ class FactsGatherer : public nlohmann::json_sax<Json> {
   }
   bool start_array(std::size_t) override { return true; }
   bool end_array() override { return true; }
-  bool parse_error(std::size_t, const std::string&, const Json::exception&) override {
+  bool parse_error(std::size_t, const std::string&, const AnyOrderJson::exception&) override {
     return false;
   }
 
@@ -108,7 +108,7 @@ class FactsGatherer : public nlohmann::json_sax<Json> {
 
 std::optional<FrameFacts> frameFacts(std::string_view content) {
   FactsGatherer gatherer;
-  if (!Json::sax_parse(content, &gatherer) || !gatherer.isComplete()) return std::nullopt;
+  if (!AnyOrderJson::sax_parse(content, &gatherer) || !gatherer.isComplete()) return std::nullopt;
   return gatherer.facts();
 }
 

@@ -7,25 +7,23 @@
 #include "report/frame_ranges.h"
 #include "report/html_text.h"
 #include "report/line_plot.h"
+#include "report/plot_size.h"
 
 namespace vtlcmd::runner {
 namespace {
 
 using Json = nlohmann::ordered_json;
 
-// In units of the picture's own coordinates, which the page stretches to the room that there is.
-constexpr double width = 1000;
-constexpr double height = 500;
 /// Of a bar's place, between bars.
 constexpr double gap = 0.08;
 
 std::string barData(const std::vector<std::uint64_t>& counts, const Axis& y) {
-  const double room = width / static_cast<double>(counts.size());
+  const double room = plotWidth / static_cast<double>(counts.size());
   const std::string thickness = shortNumber(room * (1 - gap), 5);
   std::string data;
   for (std::size_t i = 0; i < counts.size(); ++i) {
     if (counts[i] == 0) continue;
-    const std::string top = shortNumber(y.share(static_cast<double>(counts[i])) * height, 5);
+    const std::string top = shortNumber(y.share(static_cast<double>(counts[i])) * plotHeight, 5);
     data += "M" + shortNumber((static_cast<double>(i) + gap / 2) * room, 5) + " 500v-" + top + "h" +
             thickness + "v" + top + "z";
   }
@@ -35,7 +33,7 @@ std::string barData(const std::vector<std::uint64_t>& counts, const Axis& y) {
 std::string gridData(const Axis& y) {
   std::string data;
   for (const Axis::Mark& mark : y.marks())
-    data += "M0 " + shortNumber((1 - y.share(mark.place)) * height, 5) + "H1000";
+    data += "M0 " + shortNumber((1 - y.share(mark.place)) * plotHeight, 5) + "H1000";
   return data;
 }
 

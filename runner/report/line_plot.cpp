@@ -4,13 +4,11 @@
 #include <span>
 
 #include "report/html_text.h"
+#include "report/plot_size.h"
 
 namespace vtlcmd::runner {
 namespace {
 
-// In units of the picture's own coordinates, which the page stretches to the room that there is.
-constexpr double width = 1000;
-constexpr double height = 500;
 constexpr std::size_t styles = 4;
 constexpr int verticalMarks = 4;
 
@@ -19,8 +17,8 @@ struct Scales {
   Axis y;
 
   std::string place(const PlotPoint& point) const {
-    return shortNumber(x.share(point.frame) * width, 5) + " " +
-           shortNumber((1 - y.share(point.value)) * height, 5);
+    return shortNumber(x.share(point.frame) * plotWidth, 5) + " " +
+           shortNumber((1 - y.share(point.value)) * plotHeight, 5);
   }
 
   std::string line(std::span<const PlotPoint> points) const {
@@ -110,7 +108,7 @@ std::string pictureHtml(const LinePlot& plot, const Scales& scales) {
       "<svg viewBox='0 0 1000 500' preserveAspectRatio='none' role='img' aria-label='" +
       htmlText(plot.title) + " over frames'><path class='grid' d='";
   for (const Axis::Mark& mark : scales.y.marks())
-    html += "M0 " + shortNumber((1 - scales.y.share(mark.place)) * height, 5) + "H1000";
+    html += "M0 " + shortNumber((1 - scales.y.share(mark.place)) * plotHeight, 5) + "H1000";
   html += "'/>" + bandHtml(plot, scales);
   for (std::size_t i = 0; i < plot.series.size(); ++i) {
     const Drawing drawing = drawingOf(plot.series[i], scales);

@@ -20,14 +20,14 @@ struct Answer {
 };
 
 /// One text, and what the cores of the four integer types and the floating ones answer.
-struct Row {
+struct NumberRow {
   const char* text;
   Answer signedInteger;
   Answer unsignedInteger;
   Answer floating;
 };
 
-const Row rows[] = {
+const NumberRow numberRows[] = {
     {nullptr, {none}, {none}, {none}},
     {"", {none}, {none}, {none}},
     {"   ", {none}, {none}, {none}},
@@ -92,7 +92,7 @@ void expectAnswer(const char* text, const Answer& expected) {
 }
 
 TEST(ParseNumber, AnswersEveryTextForEveryType) {
-  for (const Row& row : rows) {
+  for (const NumberRow& row : numberRows) {
     expectAnswer<std::int32_t>(row.text, row.signedInteger);
     expectAnswer<std::int64_t>(row.text, row.signedInteger);
     expectAnswer<std::uint32_t>(row.text, row.unsignedInteger);

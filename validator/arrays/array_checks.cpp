@@ -104,7 +104,7 @@ void emptyArraysAreReported(Session& session) {
 }
 
 template <Registered T>
-void addFor(CheckList& checks) {
+void addArraysOf(CheckList& checks) {
   const std::string type = valueType<T>().name;
   const std::string name = nameOfType(type);
   checks.push_back({"array-any-" + name, "An array of " + type + " in an Any is reported.",
@@ -123,7 +123,7 @@ void addFor(CheckList& checks) {
 }  // namespace
 
 void addArrayChecks(CheckList& checks) {
-  forEachRegistered([&](const auto& row) { addFor<TypeOf<decltype(row)>>(checks); });
+  forEachRegistered([&](const auto& row) { addArraysOf<TypeOf<decltype(row)>>(checks); });
 }
 
 }  // namespace vtlcmd::validator

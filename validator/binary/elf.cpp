@@ -8,7 +8,7 @@ namespace {
 // Of a 64-bit ELF file, by the System V ABI.
 constexpr std::uint64_t headerSectionTable = 40;
 constexpr std::uint64_t headerSectionCount = 60;
-constexpr std::uint64_t sectionSize = 64;
+constexpr std::uint64_t sectionHeaderSize = 64;
 constexpr std::uint64_t symbolSize = 24;
 constexpr std::uint64_t dynamicSize = 16;
 constexpr std::uint32_t sectionDynamic = 6;
@@ -23,7 +23,7 @@ struct Section {
 };
 
 Section sectionAt(const Bytes& bytes, std::uint64_t index) {
-  const std::uint64_t at = bytes.at<std::uint64_t>(headerSectionTable) + index * sectionSize;
+  const std::uint64_t at = bytes.at<std::uint64_t>(headerSectionTable) + index * sectionHeaderSize;
   return {bytes.at<std::uint32_t>(at + 4), bytes.at<std::uint64_t>(at + 24),
           bytes.at<std::uint64_t>(at + 32), bytes.at<std::uint32_t>(at + 40)};
 }

@@ -13,7 +13,7 @@ constexpr std::uint64_t peOptional = 24;
 constexpr std::uint16_t magic64 = 0x20B;
 constexpr std::uint64_t optionalDirectories = 112;
 constexpr std::uint64_t directorySize = 8;
-constexpr std::uint64_t sectionSize = 40;
+constexpr std::uint64_t sectionRowSize = 40;
 constexpr std::uint64_t importSize = 20;
 constexpr std::uint64_t byOrdinal = std::uint64_t{1} << 63;
 
@@ -40,7 +40,7 @@ class Image {
         pe_ + peOptional + bytes_.at<std::uint16_t>(pe_ + peOptionalSize);
     const auto count = bytes_.at<std::uint16_t>(pe_ + peSectionCount);
     for (std::uint64_t i = 0; i < count; ++i) {
-      const std::uint64_t section = sections + i * sectionSize;
+      const std::uint64_t section = sections + i * sectionRowSize;
       const std::uint64_t begin = bytes_.at<std::uint32_t>(section + 12);
       const std::uint64_t size = bytes_.at<std::uint32_t>(section + 16);
       if (address >= begin && address - begin < size)

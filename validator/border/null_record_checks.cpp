@@ -8,7 +8,7 @@
 namespace vtlcmd::validator {
 namespace {
 
-constexpr const char* line = "[vtlcmd]  Critical: The TypeTranslation ValueData is null.\n";
+constexpr const char* nullDataLine = "[vtlcmd]  Critical: The TypeTranslation ValueData is null.\n";
 
 template <typename Call>
 void expectRefusal(Session& session, const Call& call) {
@@ -22,7 +22,7 @@ void expectRefusal(Session& session, const Call& call) {
     text = errors.text();
   }
   expect(!answer, "the answer is false");
-  expectText("error stream", text, line);
+  expectText("error stream", text, nullDataLine);
   const auto* held = anyCast<std::int32_t>(&host.value);
   expect(held != nullptr && *held == 5, "the result is as it was");
   expectLines("messages", host.messages(), {});

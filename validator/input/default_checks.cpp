@@ -68,7 +68,7 @@ void arrayIsRefusedInSilence(Session& session) {
 }
 
 template <Registered T>
-void addFor(CheckList& checks) {
+void addDefaultsOf(CheckList& checks) {
   const std::string type = valueType<T>().name;
   const std::string name = nameOfType(type);
   checks.push_back({"input-zero-" + name,
@@ -87,7 +87,7 @@ void addFor(CheckList& checks) {
 }  // namespace
 
 void addInputDefaultChecks(CheckList& checks) {
-  forEachRegistered([&](const auto& row) { addFor<TypeOf<decltype(row)>>(checks); });
+  forEachRegistered([&](const auto& row) { addDefaultsOf<TypeOf<decltype(row)>>(checks); });
 }
 
 }  // namespace vtlcmd::validator

@@ -76,7 +76,7 @@ void oldValueIsDropped(Session& session) {
 }
 
 template <Registered T>
-void addFor(CheckList& checks) {
+void addTextsOf(CheckList& checks) {
   const std::string type = valueType<T>().name;
   const std::string name = nameOfType(type);
   if constexpr (!std::is_same_v<T, ObjectPtr>) {
@@ -105,7 +105,7 @@ void addFor(CheckList& checks) {
 }  // namespace
 
 void addInputTextChecks(CheckList& checks) {
-  forEachRegistered([&](const auto& row) { addFor<TypeOf<decltype(row)>>(checks); });
+  forEachRegistered([&](const auto& row) { addTextsOf<TypeOf<decltype(row)>>(checks); });
 }
 
 }  // namespace vtlcmd::validator

@@ -91,7 +91,7 @@ void emptyDataProperty(Session& session, const std::string& name, bool hasStatis
 }
 
 template <typename T>
-void addFor(CheckList& checks, const std::string& type, ArrayClass arrayClass) {
+void addObjectsOf(CheckList& checks, const std::string& type, ArrayClass arrayClass) {
   const bool hasStatistics = arrayClass == ArrayClass::summarised;
   checks.push_back({"object-data-" + nameOfType(type),
                     "A data property of " + type +
@@ -135,10 +135,10 @@ void addObjectChecks(CheckList& checks) {
        }});
   forEachRow(registeredTypes, [&](const auto& row) {
     using T = TypeOf<decltype(row)>;
-    if constexpr (!std::is_same_v<T, ObjectPtr>) addFor<T>(checks, row.name, row.arrayClass);
+    if constexpr (!std::is_same_v<T, ObjectPtr>) addObjectsOf<T>(checks, row.name, row.arrayClass);
   });
   forEachRow(reportOnlyTypes, [&](const auto& row) {
-    addFor<TypeOf<decltype(row)>>(checks, row.name, row.arrayClass);
+    addObjectsOf<TypeOf<decltype(row)>>(checks, row.name, row.arrayClass);
   });
 }
 

@@ -78,7 +78,7 @@ void allFormsAreSuppressed(Session& session) {
 }
 
 template <Registered T>
-void addFor(CheckList& checks) {
+void addReportsOf(CheckList& checks) {
   const std::string type = valueType<T>().name;
   const std::string name = nameOfType(type);
   checks.push_back({"output-any-" + name, "A " + type + " in an Any is reported and recorded.",
@@ -95,7 +95,7 @@ void addFor(CheckList& checks) {
 }  // namespace
 
 void addOutputChecks(CheckList& checks) {
-  forEachRegistered([&](const auto& row) { addFor<TypeOf<decltype(row)>>(checks); });
+  forEachRegistered([&](const auto& row) { addReportsOf<TypeOf<decltype(row)>>(checks); });
 }
 
 }  // namespace vtlcmd::validator

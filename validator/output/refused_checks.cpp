@@ -36,7 +36,7 @@ void typeIsRefused(Session& session, const std::string& name) {
   }
 }
 
-void addFor(CheckList& checks, const std::string& type) {
+void addRefusalsOf(CheckList& checks, const std::string& type) {
   checks.push_back({"output-unsupported-" + nameOfType(type),
                     "A value of " + type + " gets a warning, in an Any silence.",
                     [type](Session& session) { typeIsRefused(session, type); }});
@@ -51,8 +51,8 @@ void deepAnyIsRefused(Session& session) {
 }  // namespace
 
 void addRefusedOutputChecks(CheckList& checks) {
-  forEachRow(reportOnlyTypes, [&](const auto& row) { addFor(checks, row.name); });
-  forEachRow(inputOnlyTypes, [&](const auto& row) { addFor(checks, row.name); });
+  forEachRow(reportOnlyTypes, [&](const auto& row) { addRefusalsOf(checks, row.name); });
+  forEachRow(inputOnlyTypes, [&](const auto& row) { addRefusalsOf(checks, row.name); });
   checks.push_back({"output-empty-any", "An empty Any is answered with false in silence.",
                     [](Session& session) { anyIsRefused(session, {}); }});
   checks.push_back({"output-deep-any", "An Any four arrays deep is answered with false in silence.",

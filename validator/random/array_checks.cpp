@@ -66,7 +66,7 @@ void blocksAgree(Session& session) {
 }
 
 template <typename T>
-void addFor(CheckList& checks, const std::string& type) {
+void addRandomArraysOf(CheckList& checks, const std::string& type) {
   checks.push_back({"random-array-" + nameOfType(type),
                     "Random arrays of " + type + " have the block of an exact model.",
                     blocksAgree<T>});
@@ -78,10 +78,10 @@ void addRandomArrayChecks(CheckList& checks) {
   forEachRow(registeredTypes, [&](const auto& row) {
     using T = TypeOf<decltype(row)>;
     constexpr bool isSummarised = valueType<T>().arrayClass == ArrayClass::summarised;
-    if constexpr (isSummarised) addFor<T>(checks, row.name);
+    if constexpr (isSummarised) addRandomArraysOf<T>(checks, row.name);
   });
-  addFor<std::int16_t>(checks, "short");
-  addFor<std::uint16_t>(checks, "ushort");
+  addRandomArraysOf<std::int16_t>(checks, "short");
+  addRandomArraysOf<std::uint16_t>(checks, "ushort");
 }
 
 }  // namespace vtlcmd::validator

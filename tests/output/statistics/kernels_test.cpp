@@ -207,12 +207,12 @@ TYPED_TEST(FloatingKernels, KeepTheFirstOfTwoZerosInBlocksOfTheirOwn) {
 
 TYPED_TEST(FloatingKernels, AgreeOnInfinitiesAtEveryPairOfPositions) {
   constexpr std::size_t parts = Parts<TypeParam>::count;
-  constexpr auto infinity = std::numeric_limits<Number<TypeParam>>::infinity();
+  constexpr auto infinite = std::numeric_limits<Number<TypeParam>>::infinity();
   for (std::size_t i = 0; i < 20; ++i) {
     for (std::size_t k = 0; k < 20; ++k) {
-      for (const Number<TypeParam> second : {infinity, -infinity}) {
+      for (const Number<TypeParam> second : {infinite, -infinite}) {
         std::vector<Number<TypeParam>> numbers(20 * parts, 1);
-        numbers[i * parts] = infinity;
+        numbers[i * parts] = infinite;
         numbers[k * parts] = second;
         ASSERT_TRUE(agree<TypeParam>(numbers)) << "positions " << i << " and " << k;
       }

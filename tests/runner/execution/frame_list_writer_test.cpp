@@ -9,11 +9,11 @@
 namespace vtlcmd::runner {
 namespace {
 
-using Frames = std::vector<double>;
+using FrameNumbers = std::vector<double>;
 
 std::string textOf(const std::vector<double>& frames) {
   const std::string text = exactFramesText(frames);
-  EXPECT_EQ(text.empty() ? Frames() : parseFrameList(text).numbers(), frames);
+  EXPECT_EQ(text.empty() ? FrameNumbers() : parseFrameList(text).numbers(), frames);
   return text;
 }
 

@@ -14,7 +14,7 @@ namespace fs = std::filesystem;
 constexpr const char* reader = R"({"inputs": [{"name": "file", "type": "string"}], "nodes": [
   {"name": "mesh", "op": "read_mesh", "in": {"path": "file"}}]})";
 
-std::string refusalOf(const fs::path& file) {
+std::string graphFileRefusal(const fs::path& file) {
   try {
     loadGraph(fileText(file));
   } catch (const GraphError& error) {
@@ -44,11 +44,11 @@ TEST(GraphFile, PathsMeanTheFolderThatALinkLeadsTo) {
 
 TEST(GraphFile, TheSystemsReasonIsTold) {
   const TemporaryFolder folder;
-  EXPECT_EQ(refusalOf(folder / "absent"),
+  EXPECT_EQ(graphFileRefusal(folder / "absent"),
             fileText(folder / "absent") + ": No such file or directory");
   fs::create_directory(folder / "inner");
-  EXPECT_EQ(refusalOf(folder / "inner"), fileText(folder / "inner") + ": Is a directory");
-  EXPECT_EQ(refusalOf(folder.file("bad.json", "[]")),
+  EXPECT_EQ(graphFileRefusal(folder / "inner"), fileText(folder / "inner") + ": Is a directory");
+  EXPECT_EQ(graphFileRefusal(folder.file("bad.json", "[]")),
             fileText(folder / "bad.json") + ": $: expected an object, found an array");
 }
 

@@ -8,7 +8,7 @@
 namespace vtlcmd::runner {
 namespace {
 
-std::string refusalOf(std::string_view text) {
+std::string graphRefusal(std::string_view text) {
   try {
     parseGraph(text);
   } catch (const GraphError& error) {
@@ -63,32 +63,32 @@ TEST(Graph, ListParametersTakeAnyNumberOfSources) {
 }
 
 TEST(Graph, AListIsNoSingleSource) {
-  EXPECT_EQ(refusalOf(R"({"inputs": [{"name": "x", "type": "int"}],
+  EXPECT_EQ(graphRefusal(R"({"inputs": [{"name": "x", "type": "int"}],
     "nodes": [{"name": "n", "op": "range", "in": {"count": ["x"]}}]})"),
             "$.nodes[0].in.count: expected a text, found an array");
 }
 
 TEST(Graph, BrokenDocumentsNameLineAndColumn) {
-  EXPECT_EQ(refusalOf("{\n \"name\" 3}"),
+  EXPECT_EQ(graphRefusal("{\n \"name\" 3}"),
             "line 2, column 9: syntax error while parsing object separator - unexpected number "
             "literal; expected ':'");
-  EXPECT_EQ(refusalOf(""),
+  EXPECT_EQ(graphRefusal(""),
             "line 1, column 1: syntax error while parsing value - unexpected end of input; "
             "expected '[', '{', or a literal");
 }
 
 TEST(Graph, BytesThatAreNoTextAreRefused) {
-  EXPECT_EQ(refusalOf("{\"name\": \"\xFF\"}").substr(0, 17), "line 1, column 11");
+  EXPECT_EQ(graphRefusal("{\"name\": \"\xFF\"}").substr(0, 17), "line 1, column 11");
 }
 
 TEST(Graph, NamesHoldNoControlCharacters) {
-  EXPECT_EQ(refusalOf(R"({"inputs": [{"name": "a\u001fb", "type": "int"}]})"),
+  EXPECT_EQ(graphRefusal(R"({"inputs": [{"name": "a\u001fb", "type": "int"}]})"),
             "$.inputs[0].name: a name can't hold control characters");
 }
 
 TEST(Graph, DeepNestingIsNoProblem) {
   const std::string deep = std::string(100000, '[') + std::string(100000, ']');
-  EXPECT_EQ(refusalOf(deep), "$: expected an object, found an array");
+  EXPECT_EQ(graphRefusal(deep), "$: expected an object, found an array");
 }
 
 TEST(Graph, ALongCircleIsFound) {
@@ -97,7 +97,7 @@ TEST(Graph, ALongCircleIsFound) {
     nodes += std::string(i > 0 ? "," : "") + R"({"name": "n)" + std::to_string(i) +
              R"(", "op": "length", "in": {"array": "n)" + std::to_string((i + 1) % 1000) + R"("}})";
   }
-  EXPECT_EQ(refusalOf(R"({"nodes": [)" + nodes + "]}").substr(0, 66),
+  EXPECT_EQ(graphRefusal(R"({"nodes": [)" + nodes + "]}").substr(0, 66),
             "$.nodes[999]: the nodes run in a circle: 'n999' -> 'n998' -> 'n997");
 }
 

@@ -7,7 +7,7 @@
 namespace vtlcmd::runner {
 namespace {
 
-std::string refusalOf(std::string_view text) {
+std::string documentRefusal(std::string_view text) {
   try {
     const JsonDocument document(text);
   } catch (const GraphError& error) {
@@ -22,11 +22,11 @@ TEST(JsonDocument, KeepsAll64Bits) {
 }
 
 TEST(JsonDocument, TheSameKeyMayStandInTwoObjects) {
-  EXPECT_EQ(refusalOf(R"([{"a": 1}, {"a": {"a": 2}}])"), "accepted");
+  EXPECT_EQ(documentRefusal(R"([{"a": 1}, {"a": {"a": 2}}])"), "accepted");
 }
 
 TEST(JsonDocument, RepeatedKeysAreRefusedWhereTheyStand) {
-  EXPECT_EQ(refusalOf(R"([1, [2], {"b": [{"a": 1, "c": {}, "a": 2}]}])"),
+  EXPECT_EQ(documentRefusal(R"([1, [2], {"b": [{"a": 1, "c": {}, "a": 2}]}])"),
             "$[2].b[0].a: the key 'a' stands twice in one object");
 }
 
@@ -40,27 +40,28 @@ TEST(JsonDocument, EveryKindOfValueIsKept) {
 
 TEST(JsonDocument, TextsThatAreNoJsonAreRefusedWithLineAndColumn) {
   EXPECT_EQ(
-      refusalOf("{\"a\": [1,\n 2"),
+      documentRefusal("{\"a\": [1,\n 2"),
       "line 2, column 3: syntax error while parsing array - unexpected end of input; expected "
       "']'");
-  EXPECT_EQ(refusalOf("[1] 2"),
+  EXPECT_EQ(documentRefusal("[1] 2"),
             "line 1, column 5: syntax error while parsing value - unexpected number literal; "
             "expected end of input");
 }
 
 TEST(JsonDocument, NumbersOutOfRangeAreRefusedWhereTheyStand) {
-  EXPECT_EQ(refusalOf(R"({"a": [{}, [], "x", 1e999]})"), "$.a[3]: number overflow parsing '1e999'");
-  EXPECT_EQ(refusalOf("-1e999"), "$: number overflow parsing '-1e999'");
+  EXPECT_EQ(documentRefusal(R"({"a": [{}, [], "x", 1e999]})"),
+            "$.a[3]: number overflow parsing '1e999'");
+  EXPECT_EQ(documentRefusal("-1e999"), "$: number overflow parsing '-1e999'");
 }
 
 TEST(JsonDocument, NulCharactersAreRefusedWhereTheyStand) {
   using namespace std::string_view_literals;
-  EXPECT_EQ(refusalOf(R"({"a": ["x\u0000y"]})"), "$.a[0]: a text can't hold a NUL character");
-  EXPECT_EQ(refusalOf(R"([{"x\u0000y": 1}])"), "$[0]: a text can't hold a NUL character");
-  EXPECT_EQ(refusalOf(R"([1, {"a": {}, "x\u0000y": 1}])"),
+  EXPECT_EQ(documentRefusal(R"({"a": ["x\u0000y"]})"), "$.a[0]: a text can't hold a NUL character");
+  EXPECT_EQ(documentRefusal(R"([{"x\u0000y": 1}])"), "$[0]: a text can't hold a NUL character");
+  EXPECT_EQ(documentRefusal(R"([1, {"a": {}, "x\u0000y": 1}])"),
             "$[1]: a text can't hold a NUL character");
-  EXPECT_EQ(refusalOf("[1]\n\0[2]"sv), "line 2, column 1: a NUL character can't stand here");
-  EXPECT_EQ(refusalOf("[\"\0\"]"sv), "line 1, column 3: a NUL character can't stand here");
+  EXPECT_EQ(documentRefusal("[1]\n\0[2]"sv), "line 2, column 1: a NUL character can't stand here");
+  EXPECT_EQ(documentRefusal("[\"\0\"]"sv), "line 1, column 3: a NUL character can't stand here");
 }
 
 }  // namespace

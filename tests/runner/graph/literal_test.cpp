@@ -22,7 +22,7 @@ T single(const char* type, const char* text) {
   return Orvel::valueAs<T>(literal(type, text));
 }
 
-std::string refusalOf(const char* type, const char* text) {
+std::string literalRefusal(const char* type, const char* text) {
   try {
     literal(type, text);
   } catch (const GraphError& error) {
@@ -43,12 +43,13 @@ TEST(Literal, Integers) {
 }
 
 TEST(Literal, IntegersOutOfRange) {
-  EXPECT_EQ(refusalOf("int", "2147483648"), "$: expected a value of type int, found 2147483648");
-  EXPECT_EQ(refusalOf("uint", "-1"), "$: expected a value of type uint, found -1");
-  EXPECT_EQ(refusalOf("ulong", "18446744073709551616"),
+  EXPECT_EQ(literalRefusal("int", "2147483648"),
+            "$: expected a value of type int, found 2147483648");
+  EXPECT_EQ(literalRefusal("uint", "-1"), "$: expected a value of type uint, found -1");
+  EXPECT_EQ(literalRefusal("ulong", "18446744073709551616"),
             "$: expected a value of type ulong, found 1.8446744073709552e+19");
-  EXPECT_EQ(refusalOf("short", "40000"), "$: expected a value of type short, found 40000");
-  EXPECT_EQ(refusalOf("int", "1.0"), "$: expected a value of type int, found 1.0");
+  EXPECT_EQ(literalRefusal("short", "40000"), "$: expected a value of type short, found 40000");
+  EXPECT_EQ(literalRefusal("int", "1.0"), "$: expected a value of type int, found 1.0");
 }
 
 TEST(Literal, FloatingNumbers) {
@@ -64,10 +65,10 @@ TEST(Literal, FloatingNumbers) {
 }
 
 TEST(Literal, FloatsOutOfRange) {
-  EXPECT_EQ(refusalOf("float", "3.4028235677973366e38"),
+  EXPECT_EQ(literalRefusal("float", "3.4028235677973366e38"),
             "$: expected a value of type float, found 3.4028235677973366e+38");
-  EXPECT_EQ(refusalOf("float", "1e39"), "$: expected a value of type float, found 1e+39");
-  EXPECT_EQ(refusalOf("float", "\"infinity\""),
+  EXPECT_EQ(literalRefusal("float", "1e39"), "$: expected a value of type float, found 1e+39");
+  EXPECT_EQ(literalRefusal("float", "\"infinity\""),
             "$: expected a value of type float, found \"infinity\"");
 }
 
@@ -75,20 +76,20 @@ TEST(Literal, OtherSingles) {
   EXPECT_TRUE(single<bool>("bool", "true"));
   EXPECT_STREQ(single<Orvel::String>("string", "\"a\\\"b\"").c_str(), "a\"b");
   EXPECT_FALSE(single<ObjectPtr>("Object", "null"));
-  EXPECT_EQ(refusalOf("bool", "1"), "$: expected a value of type bool, found 1");
-  EXPECT_EQ(refusalOf("string", "7"), "$: expected a value of type string, found 7");
-  EXPECT_EQ(refusalOf("Object", "{}"), "$: expected a value of type Object, found an object");
+  EXPECT_EQ(literalRefusal("bool", "1"), "$: expected a value of type bool, found 1");
+  EXPECT_EQ(literalRefusal("string", "7"), "$: expected a value of type string, found 7");
+  EXPECT_EQ(literalRefusal("Object", "{}"), "$: expected a value of type Object, found an object");
 }
 
 TEST(Literal, VectorsAndMatrices) {
   EXPECT_EQ(single<Math::float3>("Math::float3", "[1, 2.5, \"inf\"]"),
             (Math::float3{{1, 2.5F, std::numeric_limits<float>::infinity()}}));
   EXPECT_EQ(single<Math::int2x2>("Math::int2x2", "[1, 2, 3, 4]"), (Math::int2x2{{1, 2, 3, 4}}));
-  EXPECT_EQ(refusalOf("Math::float3", "[1, 2]"),
+  EXPECT_EQ(literalRefusal("Math::float3", "[1, 2]"),
             "$: expected the 3 components of a Math::float3, found 2 elements");
-  EXPECT_EQ(refusalOf("Math::float3", "1"),
+  EXPECT_EQ(literalRefusal("Math::float3", "1"),
             "$: expected the 3 components of a Math::float3, found 1");
-  EXPECT_EQ(refusalOf("Math::int2", "[1, 0.5]"),
+  EXPECT_EQ(literalRefusal("Math::int2", "[1, 0.5]"),
             "$[1]: expected a component of a Math::int2, found 0.5");
 }
 
@@ -102,20 +103,20 @@ TEST(Literal, Arrays) {
   EXPECT_EQ(view.size(), 2U);
   EXPECT_TRUE(arrayIn<bool>(view.getElement(0))[0]);
   EXPECT_EQ(arrayIn<bool>(view.getElement(1)).size, 0U);
-  EXPECT_EQ(refusalOf("array<array<int>>", "[[1], [2, true]]"),
+  EXPECT_EQ(literalRefusal("array<array<int>>", "[[1], [2, true]]"),
             "$[1][1]: expected a value of type int, found true");
-  EXPECT_EQ(refusalOf("array<int>", "1"), "$: expected an array, found 1");
+  EXPECT_EQ(literalRefusal("array<int>", "1"), "$: expected an array, found 1");
 }
 
 TEST(Literal, RecordsOfTheRunCannotBeWritten) {
-  EXPECT_EQ(refusalOf("Simulation::Time", "{}"),
+  EXPECT_EQ(literalRefusal("Simulation::Time", "{}"),
             "$: a value of type Simulation::Time can't be written down");
-  EXPECT_EQ(refusalOf("array<File::Project::SceneInfo>", "[]"),
+  EXPECT_EQ(literalRefusal("array<File::Project::SceneInfo>", "[]"),
             "$: a value of type array<File::Project::SceneInfo> can't be written down");
 }
 
 TEST(Literal, LongTextsAreCutInMessages) {
-  EXPECT_EQ(refusalOf("int", "\"0123456789012345678901234567890123456789\""),
+  EXPECT_EQ(literalRefusal("int", "\"0123456789012345678901234567890123456789\""),
             "$: expected a value of type int, found \"012345678901234567890123456789012345678...");
 }
 

@@ -6,12 +6,6 @@
 namespace vtlcmd::runner {
 namespace {
 
-using Messages = std::vector<std::string>;
-
-std::string constant(const std::string& type, const std::string& value) {
-  return R"("type": ")" + type + R"(", "value": )" + value;
-}
-
 TEST(Range, CountsInTheTypeOfItsCount) {
   EXPECT_EQ(runOperation("range", {{"count", constant("int", "3")}}).array<std::int32_t>("result"),
             (std::vector<std::int32_t>{0, 1, 2}));

@@ -5,12 +5,6 @@
 namespace vtlcmd::runner {
 namespace {
 
-using Messages = std::vector<std::string>;
-
-std::string constant(const std::string& type, const std::string& value) {
-  return R"("type": ")" + type + R"(", "value": )" + value;
-}
-
 std::vector<bool> compare(const std::string& operation, const std::string& a,
                           const std::string& b) {
   return runOperation(operation, {{"a", a}, {"b", b}}).array<bool>("result");

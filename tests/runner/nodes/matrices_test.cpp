@@ -6,12 +6,6 @@
 namespace vtlcmd::runner {
 namespace {
 
-using Messages = std::vector<std::string>;
-
-std::string constant(const std::string& type, const std::string& value) {
-  return R"("type": ")" + type + R"(", "value": )" + value;
-}
-
 GraphResult matrix(const std::string& rest) {
   return runGraph(R"({"nodes": [
       {"name": "one", "op": "constant", "type": "double", "value": 1},

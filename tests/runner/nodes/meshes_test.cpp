@@ -7,8 +7,6 @@
 namespace vtlcmd::runner {
 namespace {
 
-using Messages = std::vector<std::string>;
-
 /// Scatters points over a mesh of the given points, face sizes and points of the corners.
 GraphResult scatter(const std::string& points, const std::string& sizes, const std::string& corners,
                     const std::string& count) {

@@ -7,12 +7,6 @@
 namespace vtlcmd::runner {
 namespace {
 
-using Messages = std::vector<std::string>;
-
-std::string constant(const std::string& type, const std::string& value) {
-  return R"("type": ")" + type + R"(", "value": )" + value;
-}
-
 GraphResult sort(const std::string& type, const std::string& value) {
   return runOperation("sort", {{"array", constant("array<" + type + ">", value)}});
 }

@@ -8,8 +8,6 @@
 namespace vtlcmd::runner {
 namespace {
 
-using Messages = std::vector<std::string>;
-
 GraphResult reduce(const std::string& operation, const std::string& type,
                    const std::string& value) {
   return runOperation(operation,

@@ -5,12 +5,6 @@
 namespace vtlcmd::runner {
 namespace {
 
-using Messages = std::vector<std::string>;
-
-std::string constant(const std::string& type, const std::string& value) {
-  return R"("type": ")" + type + R"(", "value": )" + value;
-}
-
 TEST(Select, OneConditionTakesAWholeValueOfAnyType) {
   const auto select = [](const std::string& condition) {
     return runOperation("select", {{"condition", constant("bool", condition)},

@@ -6,7 +6,6 @@
 namespace vtlcmd::runner {
 namespace {
 
-using Messages = std::vector<std::string>;
 using Lines = std::vector<Orvel::String>;
 
 GraphResult readLines(const std::filesystem::path& file) {

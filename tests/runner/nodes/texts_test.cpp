@@ -45,7 +45,6 @@ TEST(Number, ReadsTheWholeText) {
 }
 
 TEST(Number, RefusesEverythingElse) {
-  using Messages = std::vector<std::string>;
   for (const auto& [text, type] : {std::pair{"", "int"},
                                    {" 1", "int"},
                                    {"1 ", "int"},

@@ -6,10 +6,6 @@
 namespace vtlcmd::runner {
 namespace {
 
-std::string constant(const std::string& type, const std::string& value) {
-  return R"("type": ")" + type + R"(", "value": )" + value;
-}
-
 TEST(Magnitude, IsTheLength) {
   EXPECT_EQ(runOperation("magnitude", {{"vector", constant("Math::float2", "[3, 4]")}})
                 .single<float>("result"),

@@ -16,7 +16,7 @@ Table parse(const std::string& text) {
   return parseCsv(source);
 }
 
-std::string refusalOf(const std::string& text) {
+std::string csvRefusal(const std::string& text) {
   try {
     parse(text);
   } catch (const ReadError& error) {
@@ -44,14 +44,14 @@ TEST(Csv, NumbersThatAreNotFinite) {
 }
 
 TEST(Csv, RefusalsNameTheLine) {
-  EXPECT_EQ(refusalOf("1,2,3\n4,5\n"), "line 2: there are 2 fields, not 3");
-  EXPECT_EQ(refusalOf("a,b\n1,\n"), "line 2: '' is no number");
-  EXPECT_EQ(refusalOf("1\n2x\n"), "line 2: '2x' is no number");
-  EXPECT_EQ(refusalOf("1\n1e999\n"), "line 2: '1e999' is no number");
-  EXPECT_EQ(refusalOf("\"1\n"), "line 1: a quote has no end");
-  EXPECT_EQ(refusalOf("\"1\"2\n"), "line 1: there is more behind a quoted field");
-  EXPECT_EQ(refusalOf("a,b\n"), "there are no numbers in it");
-  EXPECT_EQ(refusalOf(""), "there are no numbers in it");
+  EXPECT_EQ(csvRefusal("1,2,3\n4,5\n"), "line 2: there are 2 fields, not 3");
+  EXPECT_EQ(csvRefusal("a,b\n1,\n"), "line 2: '' is no number");
+  EXPECT_EQ(csvRefusal("1\n2x\n"), "line 2: '2x' is no number");
+  EXPECT_EQ(csvRefusal("1\n1e999\n"), "line 2: '1e999' is no number");
+  EXPECT_EQ(csvRefusal("\"1\n"), "line 1: a quote has no end");
+  EXPECT_EQ(csvRefusal("\"1\"2\n"), "line 1: there is more behind a quoted field");
+  EXPECT_EQ(csvRefusal("a,b\n"), "there are no numbers in it");
+  EXPECT_EQ(csvRefusal(""), "there are no numbers in it");
 }
 
 }  // namespace

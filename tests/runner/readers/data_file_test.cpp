@@ -28,7 +28,7 @@ class DataFile : public testing::Test {
 };
 
 template <typename Read>
-std::string refusalOf(Read&& read) {
+std::string dataFileRefusal(Read&& read) {
   try {
     read();
   } catch (const ReadError& error) {
@@ -63,23 +63,23 @@ TEST_F(DataFile, ValuesAreNamedBehindTheirFile) {
 }
 
 TEST_F(DataFile, FilesAreNamed) {
-  EXPECT_EQ(refusalOf([] { readDataFile("no_such_folder/x.npy", {}); }),
+  EXPECT_EQ(dataFileRefusal([] { readDataFile("no_such_folder/x.npy", {}); }),
             "no_such_folder/x.npy: No such file or directory");
   const std::filesystem::path cut = write("cut.npy", Bytes(3));
-  EXPECT_EQ(refusalOf([&] { readArrays(cut, {}); }),
+  EXPECT_EQ(dataFileRefusal([&] { readArrays(cut, {}); }),
             cut.string() + ": this is no NumPy array file");
 }
 
 TEST_F(DataFile, FoldersAreRefused) {
   const std::filesystem::path folder = folder_ / "folder.npy";
   std::filesystem::create_directory(folder);
-  EXPECT_EQ(refusalOf([&] { readDataFile(folder, {}); }),
+  EXPECT_EQ(dataFileRefusal([&] { readDataFile(folder, {}); }),
             folder.string() + ": it is a folder; only regular files are read");
 }
 
 TEST_F(DataFile, ArraysAreNoMeshes) {
   const std::filesystem::path array = write("two.npy", twoInts);
-  EXPECT_EQ(refusalOf([&] { readMesh(array); }), array.string() + ": it is no mesh");
+  EXPECT_EQ(dataFileRefusal([&] { readMesh(array); }), array.string() + ": it is no mesh");
 }
 
 }  // namespace

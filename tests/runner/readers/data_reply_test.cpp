@@ -21,14 +21,14 @@ std::string written(const std::function<void(DataWriter&)>& write) {
   return stream.str();
 }
 
-std::vector<DataValue> parse(const std::string& reply, NpyForm form = {}) {
+std::vector<DataValue> valuesIn(const std::string& reply, NpyForm form = {}) {
   MemorySource source({reinterpret_cast<const unsigned char*>(reply.data()), reply.size()});
   return parseReply(source, form);
 }
 
-std::string refusalOf(const std::string& reply) {
+std::string replyRefusal(const std::string& reply) {
   try {
-    parse(reply);
+    valuesIn(reply);
   } catch (const ReadError& error) {
     return error.what();
   }
@@ -64,7 +64,7 @@ std::vector<T> dataOf(const ObjectPtr& object, std::string_view name) {
 }
 
 TEST(DataReply, MeshesArriveAsObjects) {
-  const std::vector<DataValue> values = parse(triangleReply());
+  const std::vector<DataValue> values = valuesIn(triangleReply());
   ASSERT_EQ(values.size(), 1U);
   EXPECT_EQ(values[0].name, "");
   const auto& object = Orvel::valueAs<ObjectPtr>(values[0].value);
@@ -83,7 +83,7 @@ TEST(DataReply, MeshesArriveAsObjects) {
 }
 
 TEST(DataReply, WhatIsLeftOutIsTold) {
-  const std::vector<DataValue> values = parse(written([](DataWriter& writer) {
+  const std::vector<DataValue> values = valuesIn(written([](DataWriter& writer) {
     MeshData mesh = triangle();
     mesh.leftOut = "2 lines";
     writer.writeMesh(mesh);
@@ -105,7 +105,7 @@ TEST(DataReply, ArraysArriveByName) {
           {reinterpret_cast<const unsigned char*>(numbers.data()), numbers.size() * 2});
     writer.writeEnd();
   });
-  const std::vector<DataValue> values = parse(reply, {.widened = true});
+  const std::vector<DataValue> values = valuesIn(reply, {.widened = true});
   ASSERT_EQ(values.size(), 2U);
   EXPECT_EQ(values[0].name, "a");
   EXPECT_EQ(values[1].name, "b");
@@ -115,23 +115,23 @@ TEST(DataReply, ArraysArriveByName) {
 }
 
 TEST(DataReply, ErrorsAreThrown) {
-  EXPECT_EQ(refusalOf(written([](DataWriter& writer) { writer.writeError("no such luck"); })),
+  EXPECT_EQ(replyRefusal(written([](DataWriter& writer) { writer.writeError("no such luck"); })),
             "no such luck");
 }
 
 TEST(DataReply, NothingCutShortIsAccepted) {
   const std::string whole = triangleReply();
   for (std::size_t size = 0; size < whole.size(); ++size)
-    EXPECT_NE(refusalOf(whole.substr(0, size)), "accepted") << size;
+    EXPECT_NE(replyRefusal(whole.substr(0, size)), "accepted") << size;
 }
 
 TEST(DataReply, NonsenseIsRefused) {
   const std::string refusal = "what its reader says makes no sense";
-  EXPECT_EQ(refusalOf(written([](DataWriter& writer) { writer.writeEnd(); })), refusal);
-  EXPECT_EQ(refusalOf(std::string(13, '\0')), refusal);
-  EXPECT_EQ(refusalOf(std::string(100, '\xff')), refusal);
+  EXPECT_EQ(replyRefusal(written([](DataWriter& writer) { writer.writeEnd(); })), refusal);
+  EXPECT_EQ(replyRefusal(std::string(13, '\0')), refusal);
+  EXPECT_EQ(replyRefusal(std::string(100, '\xff')), refusal);
   // A payload longer than its property.
-  EXPECT_EQ(refusalOf(std::string("\1\0\0\0\0\5\0\0\0\0\0\0\0\1\0\0\0\0", 18)), refusal);
+  EXPECT_EQ(replyRefusal(std::string("\1\0\0\0\0\5\0\0\0\0\0\0\0\1\0\0\0\0", 18)), refusal);
 }
 
 }  // namespace

@@ -8,7 +8,7 @@
 namespace vtlcmd::runner {
 namespace {
 
-std::string refusalOf(const std::filesystem::path& file) {
+std::string fileTextRefusal(const std::filesystem::path& file) {
   try {
     readFile(file);
   } catch (const std::system_error& error) {
@@ -26,8 +26,8 @@ TEST(FileText, EveryByteIsKept) {
 
 TEST(FileText, TheSystemsReasonIsTold) {
   const TemporaryFolder folder;
-  EXPECT_EQ(refusalOf(folder / "absent"), "No such file or directory");
-  EXPECT_EQ(refusalOf(folder / ""), "Is a directory");
+  EXPECT_EQ(fileTextRefusal(folder / "absent"), "No such file or directory");
+  EXPECT_EQ(fileTextRefusal(folder / ""), "Is a directory");
 }
 
 }  // namespace

@@ -33,7 +33,7 @@ class MeshImport : public testing::Test {
     return importMesh(write(name, text), false);
   }
 
-  std::string refusalOf(const std::string& name, const std::string& text) {
+  std::string meshRefusal(const std::string& name, const std::string& text) {
     try {
       read(name, text);
     } catch (const ReadError& error) {
@@ -47,7 +47,7 @@ class MeshImport : public testing::Test {
 
 TEST_F(MeshImport, PlyWithColors) {
   const MeshData mesh =
-      read("triangle.ply",
+      read("gltfTriangle.ply",
            "ply\nformat ascii 1.0\nelement vertex 3\nproperty float x\nproperty float y\n"
            "property float z\nproperty uchar red\nproperty uchar green\nproperty uchar blue\n"
            "element face 1\nproperty list uchar int vertex_index\nend_header\n"
@@ -79,7 +79,7 @@ TEST_F(MeshImport, StlHasThreePointsATriangle) {
   EXPECT_EQ(mesh.cornerPoints, (Indices{0, 1, 2, 3, 4, 5}));
 }
 
-/// A scene of one triangle, whose points stand in a buffer.
+/// A scene of one gltfTriangle, whose points stand in a buffer.
 std::string gltf(const std::string& buffer) {
   return R"({"asset": {"version": "2.0"}, "scene": 0, "scenes": [{"nodes": [0]}],
       "nodes": [{"mesh": 0, "translation": [10, 0, 0], "scale": [2, 2, 2]}],
@@ -91,13 +91,13 @@ std::string gltf(const std::string& buffer) {
          buffer + R"("}]})";
 }
 
-const Points triangle{{{10, 0, 0}}, {{12, 0, 0}}, {{10, 2, 0}}};
+const Points gltfTriangle{{{10, 0, 0}}, {{12, 0, 0}}, {{10, 2, 0}}};
 
 TEST_F(MeshImport, GltfNodesStandWhereTheSceneSaysSo) {
   EXPECT_EQ(read("moved.gltf", gltf("data:application/octet-stream;base64,"
                                     "AAAAAAAAAAAAAAAAAACAPwAAAAAAAAAAAAAAAAAAgD8AAAAA"))
                 .positions,
-            triangle);
+            gltfTriangle);
 }
 
 class MeshFolder : public MeshImport {
@@ -105,36 +105,36 @@ class MeshFolder : public MeshImport {
   void SetUp() override {
     MeshImport::SetUp();
     if (!hasReader()) return;
-    write("inside.bin", triangleBytes());
-    std::ofstream(folder_ / "outside.bin", std::ios::binary) << triangleBytes();
+    write("inside.bin", gltfTriangleBytes());
+    std::ofstream(folder_ / "outside.bin", std::ios::binary) << gltfTriangleBytes();
   }
 
-  static std::string triangleBytes() {
+  static std::string gltfTriangleBytes() {
     const float numbers[9]{0, 0, 0, 1, 0, 0, 0, 1, 0};
     return {reinterpret_cast<const char*>(numbers), sizeof numbers};
   }
 };
 
 TEST_F(MeshFolder, FilesInsideAreRead) {
-  EXPECT_EQ(read("scene.gltf", gltf("inside.bin")).positions, triangle);
+  EXPECT_EQ(read("scene.gltf", gltf("inside.bin")).positions, gltfTriangle);
 }
 
 TEST_F(MeshFolder, FilesOutsideAreRefused) {
-  const std::string refusal = refusalOf("scene.gltf", gltf("../outside.bin"));
+  const std::string refusal = meshRefusal("scene.gltf", gltf("../outside.bin"));
   EXPECT_TRUE(refusal.starts_with("it names '") &&
               refusal.ends_with("../outside.bin', which is outside its folder "
                                 "(--read-anywhere allows that)"))
       << refusal;
-  EXPECT_NE(refusalOf("scene.gltf", gltf((folder_ / "outside.bin").string())), "accepted");
+  EXPECT_NE(meshRefusal("scene.gltf", gltf((folder_ / "outside.bin").string())), "accepted");
 }
 
 TEST_F(MeshFolder, FilesOutsideAreReadWhenThatIsAllowed) {
-  EXPECT_EQ(importMesh(write("scene.gltf", gltf("../outside.bin")), true).positions, triangle);
+  EXPECT_EQ(importMesh(write("scene.gltf", gltf("../outside.bin")), true).positions, gltfTriangle);
 }
 
 TEST_F(MeshFolder, LinksLeadNoFurther) {
   std::filesystem::create_symlink(folder_ / "outside.bin", folder_ / "scene" / "link.bin");
-  EXPECT_TRUE(refusalOf("scene.gltf", gltf("link.bin")).starts_with("it names '"));
+  EXPECT_TRUE(meshRefusal("scene.gltf", gltf("link.bin")).starts_with("it names '"));
 }
 
 TEST_F(MeshFolder, AMeshByALinkHasTheFolderOfBoth) {
@@ -145,19 +145,19 @@ TEST_F(MeshFolder, AMeshByALinkHasTheFolderOfBoth) {
   write("scene.gltf", gltf("inside.bin"));
   std::filesystem::create_symlink(folder_ / "scene" / "inside.bin",
                                   folder_ / "links" / "inside.bin");
-  EXPECT_EQ(importMesh(folder_ / "links" / "scene.gltf", false).positions, triangle);
+  EXPECT_EQ(importMesh(folder_ / "links" / "scene.gltf", false).positions, gltfTriangle);
 }
 
 TEST_F(MeshFolder, FoldersAreNoFiles) {
   std::filesystem::create_directory(folder_ / "scene" / "folder.bin");
-  const std::string refusal = refusalOf("scene.gltf", gltf("folder.bin"));
+  const std::string refusal = meshRefusal("scene.gltf", gltf("folder.bin"));
   EXPECT_TRUE(refusal.ends_with("folder.bin': it is a folder; only regular files are read"))
       << refusal;
 }
 
 TEST_F(MeshImport, BrokenFilesHaveAReason) {
-  EXPECT_NE(refusalOf("broken.ply", "no mesh at all"), "accepted");
-  EXPECT_NE(refusalOf("broken.ply", ""), "accepted");
+  EXPECT_NE(meshRefusal("broken.ply", "no mesh at all"), "accepted");
+  EXPECT_NE(meshRefusal("broken.ply", ""), "accepted");
 }
 
 TEST(MeshImportWithoutReader, IsRefused) {

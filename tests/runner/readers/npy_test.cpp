@@ -37,7 +37,7 @@ Orvel::Value valueIn(const Bytes& file, NpyForm form = {}) {
   return parseNpy(source, form).value;
 }
 
-std::string refusalOf(const Bytes& file) {
+std::string npyRefusal(const Bytes& file) {
   try {
     valueIn(file);
   } catch (const ReadError& error) {
@@ -244,14 +244,14 @@ TEST(Npy, TellsWhatTheFileHas) {
 
 TEST(Npy, HeadersLongerThanAnyOneWrites) {
   const Bytes file = npyFile(std::string((1 << 20) + 1, ' '), {}, 2);
-  EXPECT_EQ(refusalOf(file), "the header has more than 1048576 bytes");
+  EXPECT_EQ(npyRefusal(file), "the header has more than 1048576 bytes");
 }
 
 TEST(Npy, EmptyArrays) {
   EXPECT_EQ(elementsOf<float>(valueIn(npyFile(npyHeader("<f4", "(0,)"), {}))).size(), 0U);
   const Orvel::Value rows = valueIn(npyFile(npyHeader("<f4", "(3, 0)"), {}));
   EXPECT_EQ(Orvel::ArrayValue(rows).size(), 3U);
-  EXPECT_EQ(refusalOf(npyFile(npyHeader("<f4", "(0, 18446744073709551615)"), {})), "accepted");
+  EXPECT_EQ(npyRefusal(npyFile(npyHeader("<f4", "(0, 18446744073709551615)"), {})), "accepted");
 }
 
 TEST(Npy, AllVersions) {
@@ -263,24 +263,24 @@ TEST(Npy, AllVersions) {
 }
 
 TEST(Npy, RefusesBytesBehindTheArray) {
-  EXPECT_EQ(refusalOf(npyFile(npyHeader("<i4", "(1,)"), Bytes(5))),
+  EXPECT_EQ(npyRefusal(npyFile(npyHeader("<i4", "(1,)"), Bytes(5))),
             "the file is 1 byte longer than its header says");
-  EXPECT_EQ(refusalOf(npyFile(npyHeader("<i4", "(2, 0)"), Bytes(8))),
+  EXPECT_EQ(npyRefusal(npyFile(npyHeader("<i4", "(2, 0)"), Bytes(8))),
             "the file is 8 bytes longer than its header says");
 }
 
 TEST(Npy, HeadersInOtherForms) {
   const Bytes data = bytesOf<std::int32_t>({7});
-  EXPECT_EQ(refusalOf(npyFile(R"({"shape":(1,),"fortran_order":True,"descr":"=i4"})", data)),
+  EXPECT_EQ(npyRefusal(npyFile(R"({"shape":(1,),"fortran_order":True,"descr":"=i4"})", data)),
             "accepted");
-  EXPECT_EQ(refusalOf(npyFile("{'descr': '<i4', 'fortran_order': False, 'shape': (1)}", data)),
+  EXPECT_EQ(npyRefusal(npyFile("{'descr': '<i4', 'fortran_order': False, 'shape': (1)}", data)),
             "accepted");
 }
 
 TEST(Npy, NoArrayFile) {
-  EXPECT_EQ(refusalOf({}), "this is no NumPy array file");
-  EXPECT_EQ(refusalOf(Bytes(100, 'x')), "this is no NumPy array file");
-  EXPECT_EQ(refusalOf(npyFile(npyHeader("<i4", "(0,)"), {}, 4)),
+  EXPECT_EQ(npyRefusal({}), "this is no NumPy array file");
+  EXPECT_EQ(npyRefusal(Bytes(100, 'x')), "this is no NumPy array file");
+  EXPECT_EQ(npyRefusal(npyFile(npyHeader("<i4", "(0,)"), {}, 4)),
             "the format version 4 isn't supported");
 }
 
@@ -299,27 +299,27 @@ TEST(Npy, CutShort) {
     const std::string expected = size < 6           ? "this is no NumPy array file"
                                  : size < dataStart ? "the file is cut short in its header"
                                                     : cutShort(size - dataStart);
-    EXPECT_EQ(refusalOf(part), expected) << size;
+    EXPECT_EQ(npyRefusal(part), expected) << size;
   }
 }
 
 TEST(Npy, ShapesThatNoFileCouldHold) {
   for (const char* shape : {"(18446744073709551615,)", "(4611686018427387905,)",
                             "(4294967296, 4294967296)", "(3, 6148914691236517206, 2)"})
-    EXPECT_EQ(refusalOf(npyFile(npyHeader("<i4", shape), Bytes(4))), cutShort(4)) << shape;
-  EXPECT_EQ(refusalOf(npyFile(npyHeader("<i4", "(1000001, 0)"), {})),
+    EXPECT_EQ(npyRefusal(npyFile(npyHeader("<i4", shape), Bytes(4))), cutShort(4)) << shape;
+  EXPECT_EQ(npyRefusal(npyFile(npyHeader("<i4", "(1000001, 0)"), {})),
             "the shape has more than 1000000 empty rows");
-  EXPECT_EQ(refusalOf(npyFile(npyHeader("<i4", "(4294967296, 4294967296, 0)"), {})),
+  EXPECT_EQ(npyRefusal(npyFile(npyHeader("<i4", "(4294967296, 4294967296, 0)"), {})),
             "the shape has more than 1000000 empty rows");
 }
 
 TEST(Npy, DimensionsAndTypesOutOfReach) {
-  EXPECT_EQ(refusalOf(npyFile(npyHeader("<i4", "()"), Bytes(4))),
+  EXPECT_EQ(npyRefusal(npyFile(npyHeader("<i4", "()"), Bytes(4))),
             "the array has 0 dimensions; 1 to 3 are supported");
-  EXPECT_EQ(refusalOf(npyFile(npyHeader("<i4", "(1, 1, 1, 1)"), Bytes(4))),
+  EXPECT_EQ(npyRefusal(npyFile(npyHeader("<i4", "(1, 1, 1, 1)"), Bytes(4))),
             "the array has 4 dimensions; 1 to 3 are supported");
   for (const char* type : {"<c16", "<f16", "<U4", "|O", "i4", "", "<M8[ns]"}) {
-    EXPECT_EQ(refusalOf(npyFile(npyHeader(type, "(1,)"), Bytes(16))),
+    EXPECT_EQ(npyRefusal(npyFile(npyHeader(type, "(1,)"), Bytes(16))),
               "elements of type '" + std::string(type) + "' aren't supported");
   }
 }
@@ -332,7 +332,7 @@ struct BadHeader {
 class BadHeaders : public testing::TestWithParam<BadHeader> {};
 
 TEST_P(BadHeaders, SayWhy) {
-  EXPECT_EQ(refusalOf(npyFile(GetParam().text, Bytes(4))),
+  EXPECT_EQ(npyRefusal(npyFile(GetParam().text, Bytes(4))),
             std::string("the header can't be understood: ") + GetParam().reason);
 }
 

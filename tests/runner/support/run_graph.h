@@ -30,6 +30,13 @@ struct GraphResult {
   }
 };
 
+using Messages = std::vector<std::string>;
+
+/// A constant as `runOperation` takes its inputs; `value` is JSON.
+inline std::string constant(const std::string& type, const std::string& value) {
+  return R"("type": ")" + type + R"(", "value": )" + value;
+}
+
 inline GraphResult runGraph(std::string_view text) {
   const Graph graph = parseGraph(text);
   VtlCmdLogger logger(10);
