@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 #include <string>
 
+#include "border/loaded_plug_in.h"
 #include "host/any.h"
 #include "host/host_records.h"
 #include "host/imports/vantrel_executor.h"
@@ -17,28 +18,9 @@ namespace vtlcmd {
 namespace {
 
 using ::testing::HasSubstr;
+using testing::LoadedPlugIn;
 using VantrelGraph::Executor::TypeTranslation;
 using VantrelGraph::Executor::TypeTranslationPreview;
-
-/// The plug-in as a host sees it: a file with one function.
-class LoadedPlugIn {
- public:
-  LoadedPlugIn() : library_(testing::loadLibrary(VTLCMD_PLUG_IN)) { EXPECT_NE(library_, nullptr); }
-  LoadedPlugIn(const LoadedPlugIn&) = delete;
-  LoadedPlugIn& operator=(const LoadedPlugIn&) = delete;
-  ~LoadedPlugIn() { EXPECT_TRUE(testing::unloadLibrary(library_)); }
-
-  TypeTranslation* create() const {
-    auto* function = reinterpret_cast<TypeTranslation* (*)()>(
-        testing::functionOf(library_, "createVantrelTypeTranslation"));
-    return function();
-  }
-
-  static bool isInProcess() { return testing::isLibraryLoaded(VTLCMD_PLUG_IN); }
-
- private:
-  void* library_;
-};
 
 /// The host's records for one port.
 struct Port {

@@ -1,0 +1,76 @@
+#pragma once
+
+#include <map>
+#include <string>
+#include <vector>
+
+#include "border/loaded_plug_in.h"
+#include "host/host_records.h"
+#include "host/port_value_map.h"
+#include "host/value_types.h"
+#include "logging/vtlcmd_logger.h"
+
+namespace vtlcmd::testing {
+
+/// The records of one run with one port, and what it holds before the plug-in is called: a value of
+/// another call, and a message.
+class Host {
+ public:
+  static constexpr const char* oldText = "what the port held before all this";
+  static constexpr std::size_t oldMessages = 1;
+
+  Host() { logger.addMessage(vantrelSource, levelVerbose, "before all this"); }
+
+  bool holdsOldValue() const {
+    const auto* text = anyCast<Orvel::String>(&value);
+    return text != nullptr && *text == oldText;
+  }
+
+  Orvel::String name = "a port of a long name";
+  PortValueMap inputValues;
+  PortValueMap jobValues;
+  VtlCmdLogger logger{10};
+  RunContext context{&inputValues,
+                     &jobValues,
+                     0.5,
+                     12,
+                     1.0 / 24,
+                     L"/a/folder/of/scenes/scene.file",
+                     L"/another/folder/second.file",
+                     &logger};
+  InputValueData input{nullptr, &name, false, {}, &context};
+  OutputValueData output{nullptr, &name, &context};
+  Any value = makeAny(Orvel::String(oldText));
+};
+
+/// What a logger has collected, to be held against that of an undisturbed call.
+struct Collected {
+  explicit Collected(const VtlCmdLogger& logger) {
+    for (const LogMessage& message : logger.messages) {
+      messages.push_back(std::to_string(message.source) + ' ' + std::to_string(message.level) +
+                         ' ' + message.text);
+    }
+    for (const auto& [port, output] : logger.fallbackEntry.outputs) {
+      outputs[port] =
+          output.typeName + ' ' + output.valueText + (output.valueShown ? " shown" : "");
+    }
+  }
+
+  /// Whether this is what the other one is made of, up to some point of time: a record comes before
+  /// its message.
+  bool isBeginningOf(const Collected& whole) const {
+    if (messages.size() > whole.messages.size()) return false;
+    for (std::size_t i = 0; i < messages.size(); ++i) {
+      if (messages[i] != whole.messages[i]) return false;
+    }
+    if (outputs.empty() && !whole.outputs.empty()) return messages.size() == Host::oldMessages;
+    return outputs == whole.outputs;
+  }
+
+  bool operator==(const Collected&) const = default;
+
+  std::vector<std::string> messages;
+  std::map<std::string, std::string> outputs;
+};
+
+}  // namespace vtlcmd::testing
