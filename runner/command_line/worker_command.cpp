@@ -10,6 +10,7 @@
 #include "frames/own_frames.h"
 #include "platform/child_process.h"
 #include "platform/interrupt.h"
+#include "platform/memory_end.h"
 #include "platform/process.h"
 #include "workers/worker_input.h"
 
@@ -81,6 +82,7 @@ void serve() {
 void serveFrames() {
   prepareAsChild();
   rememberFailedWrites();
+  endWithoutMemoryBy([] { std::_Exit(outOfMemoryExit); });
   try {
     serve();
   } catch (const std::bad_alloc&) {

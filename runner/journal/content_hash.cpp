@@ -1,10 +1,12 @@
 #include "journal/content_hash.h"
 
 #include <fstream>
+#include <stdexcept>
 #include <system_error>
 #include <vector>
 
 #include "journal/sha256.h"
+#include "text/path_text.h"
 
 namespace vtlcmd::runner {
 
@@ -18,6 +20,7 @@ std::optional<std::string> contentHash(const std::filesystem::path& file) {
   while (stream.read(block.data(), static_cast<std::streamsize>(block.size())) ||
          stream.gcount() > 0)
     hash.add({block.data(), static_cast<std::size_t>(stream.gcount())});
+  if (stream.bad()) throw std::runtime_error(fileText(file) + " can't be read to its end");
   if (!stream.eof()) return std::nullopt;
   return hash.finish();
 }

@@ -7,7 +7,7 @@
 namespace vtlcmd::runner {
 
 /// The SHA-256 of a regular file's content, in 64 hexadecimal digits. Nothing for what can't be
-/// read.
+/// opened. Throws std::runtime_error when reading fails on the way.
 std::optional<std::string> contentHash(const std::filesystem::path& file);
 
 }  // namespace vtlcmd::runner

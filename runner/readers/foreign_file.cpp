@@ -9,6 +9,7 @@
 
 #include "platform/child_process.h"
 #include "platform/interrupt.h"
+#include "platform/memory_end.h"
 #include "platform/memory_limit.h"
 #include "readers/data_message.h"
 #include "readers/data_reply.h"
@@ -117,6 +118,7 @@ void serveForeignFile(const std::vector<std::string>& words) {
   limitProcessorTime(std::chrono::seconds(std::stoll(words.at(2))));
   limitMemory(std::stoull(words.at(1)));
   std::set_new_handler(endOutOfMemory);
+  endWithoutMemoryBy(endOutOfMemory);
   DataWriter writer(std::cout);
   try {
     readerFor(file).send(file, words.at(3) == "anywhere", writer);
