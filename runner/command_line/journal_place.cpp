@@ -46,6 +46,7 @@ class Opening {
     } catch (const DifferentRun& difference) {
       throw UsageError(std::string(difference.what()) + "; --restart begins it anew");
     } catch (const std::system_error& error) {
+      throwIfOutOfMemory(error);
       throw UsageError("the journal can't be written to " + fileText(file) + ": " +
                        reasonOf(error));
     }

@@ -32,6 +32,7 @@ void requireWritable(const std::string& option, const std::string& target, const
   try {
     if (isPlainOrAbsent(file)) WholeFile::check(file);
   } catch (const std::system_error& error) {
+    throwIfOutOfMemory(error);
     throw UsageError(option + ": " + inQuotes(target) + " can't be written: " + reasonOf(error));
   }
 }

@@ -45,6 +45,7 @@ std::string textIn(const std::string& port, const std::string& file) {
   try {
     text = file == standardInput ? readStandardInput() : readFile(filePath(file));
   } catch (const std::system_error& error) {
+    throwIfOutOfMemory(error);
     refuse(reasonOf(error));
   }
   const std::size_t nul = text.find('\0');

@@ -1,6 +1,8 @@
 #include "journal/content_hash.h"
 
+#include <cerrno>
 #include <fstream>
+#include <new>
 #include <stdexcept>
 #include <system_error>
 #include <vector>
@@ -14,7 +16,9 @@ std::optional<std::string> contentHash(const std::filesystem::path& file) {
   std::error_code ignored;
   // Reading from a pipe or a device would take something away, or never end.
   if (!std::filesystem::is_regular_file(file, ignored)) return std::nullopt;
+  errno = 0;
   std::ifstream stream(file, std::ios::binary);
+  if (!stream && errno == ENOMEM) throw std::bad_alloc();
   Sha256 hash;
   std::vector<char> block(std::size_t{1} << 16U);
   while (stream.read(block.data(), static_cast<std::streamsize>(block.size())) ||

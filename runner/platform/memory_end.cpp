@@ -1,5 +1,6 @@
 #include "platform/memory_end.h"
 
+#include <atomic>
 #include <cstdlib>
 #include <exception>
 #include <new>
@@ -9,15 +10,28 @@ namespace {
 
 void (*endOfProgram)() = nullptr;
 std::terminate_handler ordinaryEnd = nullptr;
+std::atomic<bool> anAllocationFailed = false;
 
-void terminate() {
+[[noreturn]] void failAllocation() {
+  anAllocationFailed = true;
+  throw std::bad_alloc();
+}
+
+bool isOutOfMemory() {
+  const std::exception_ptr reason = std::current_exception();
+  // Code that may not throw may end the program before anyone has caught the exception.
+  if (reason == nullptr) return anAllocationFailed && std::uncaught_exceptions() > 0;
   try {
-    if (std::current_exception()) throw;
+    std::rethrow_exception(reason);
   } catch (const std::bad_alloc&) {
-    endOfProgram();
+    return true;
   } catch (...) {
-    // Told by the ordinary end.
+    return false;
   }
+}
+
+[[noreturn]] void terminate() {
+  if (isOutOfMemory()) endOfProgram();
   ordinaryEnd();
   std::abort();
 }
@@ -26,7 +40,9 @@ void terminate() {
 
 void endWithoutMemoryBy(void (*end)()) {
   endOfProgram = end;
-  if (ordinaryEnd == nullptr) ordinaryEnd = std::set_terminate(terminate);
+  if (ordinaryEnd != nullptr) return;
+  ordinaryEnd = std::set_terminate(terminate);
+  std::set_new_handler(failAllocation);
 }
 
 }  // namespace vtlcmd::runner

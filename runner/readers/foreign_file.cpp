@@ -117,8 +117,8 @@ void serveForeignFile(const std::vector<std::string>& words) {
   prepareAsChild();
   limitProcessorTime(std::chrono::seconds(std::stoll(words.at(2))));
   limitMemory(std::stoull(words.at(1)));
-  std::set_new_handler(endOutOfMemory);
   endWithoutMemoryBy(endOutOfMemory);
+  std::set_new_handler(endOutOfMemory);
   DataWriter writer(std::cout);
   try {
     readerFor(file).send(file, words.at(3) == "anywhere", writer);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <new>
 #include <string>
 #include <system_error>
 
@@ -14,6 +15,11 @@ inline std::string reasonOf(const std::system_error& error) {
 inline bool mayPass(const std::system_error& error) {
   return error.code() == std::errc::no_space_on_device ||
          error.code() == std::errc::not_enough_memory;
+}
+
+/// Memory that ran out is no fault of what was asked for.
+inline void throwIfOutOfMemory(const std::system_error& error) {
+  if (error.code() == std::errc::not_enough_memory) throw std::bad_alloc();
 }
 
 }  // namespace vtlcmd::runner

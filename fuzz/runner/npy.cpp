@@ -1,0 +1,69 @@
+#include "readers/npy.h"
+
+#include <cstring>
+#include <new>
+#include <span>
+#include <sstream>
+#include <string>
+
+#include "readers/npy_header.h"
+#include "readers/read_error.h"
+#include "requirement.h"
+#include "saving/npy_writer.h"
+#include "target.h"
+#include "values/value_type.h"
+
+namespace {
+
+using namespace vtlcmd::runner;
+using vtlcmd::fuzz::require;
+
+std::span<const unsigned char> bytesOf(const std::string& text) {
+  return {reinterpret_cast<const unsigned char*>(text.data()), text.size()};
+}
+
+std::string written(const Orvel::Value& value) {
+  std::ostringstream stream;
+  writeNpy(stream, parseValueType(value.getType().getFullyQualifiedName().c_str()), value);
+  return stream.str();
+}
+
+/// The bytes behind the header of a file that was read.
+std::string elementsIn(const std::string& file) {
+  MemorySource source(bytesOf(file));
+  parseNpyHeader(source);
+  return file.substr(file.size() - source.remaining());
+}
+
+/// Whether the writer would have written the elements as they stand in the file.
+bool isWriterForm(const std::string& file) {
+  MemorySource source(bytesOf(file));
+  const NpyHeader header = parseNpyHeader(source);
+  const bool isHalf = header.descriptor.ends_with("f2");
+  // Any byte but 0 reads as true.
+  const bool isBool = header.descriptor.ends_with("b1");
+  return !header.fortranOrder && header.descriptor[0] != '>' && !isHalf && !isBool;
+}
+
+}  // namespace
+
+/// The first byte chooses the form, the others are a file. What is read is written with the same
+/// elements, and that is read again with the same bytes; else the file is refused.
+int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  if (size == 0) return 0;
+  const NpyForm form{(data[0] & 1U) != 0, (data[0] & 2U) != 0};
+  const std::string file = vtlcmd::fuzz::textOf(data + 1, size - 1);
+  try {
+    MemorySource source(bytesOf(file));
+    const NpyArray array = parseNpy(source, form);
+    require(source.remaining() == 0, "a file is read to its end");
+    const std::string again = written(array.value);
+    if (isWriterForm(file) && array.facts.widenedTo.empty())
+      require(elementsIn(again) == elementsIn(file), "elements keep their bytes");
+    MemorySource source2(bytesOf(again));
+    require(written(parseNpy(source2, form).value) == again, "what is written is read again");
+  } catch (const ReadError&) {
+    // Refused, in words.
+  }
+  return 0;
+}
