@@ -5,7 +5,7 @@
 #include <unistd.h>
 
 #include "border/failing_memory/every_allocation.h"
-#include "border/failing_memory/host.h"
+#include "border/host.h"
 
 namespace vtlcmd::testing {
 namespace {

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "border/failing_memory/every_allocation.h"
-#include "border/failing_memory/host.h"
+#include "border/host.h"
 #include "orvel_sdk/type_factory.h"
 #include "support/type_samples.h"
 
