@@ -1,8 +1,11 @@
 #include "input/number_parsing.h"
 
+#include <bit>
 #include <cctype>
 #include <cerrno>
 #include <cmath>
+#include <concepts>
+#include <cstdint>
 #include <cstdlib>
 #include <limits>
 
@@ -64,17 +67,37 @@ std::optional<T> parseCore(const char* text, ParseStatus& status) {
   return narrowInteger<T>(value, digits, end, status);
 }
 
+/// In the order of magnitudes, also for a processor that takes subnormal numbers for zeros.
+constexpr std::uint64_t magnitudeOf(double value) {
+  return std::bit_cast<std::uint64_t>(value) & ~(std::uint64_t{1} << 63U);
+}
+
 /// The order of the tests is part of the contract.
 template <FloatingNumber T>
 ParseStatus statusOf(double value, const char* text, const char* end) {
-  constexpr double largest = std::numeric_limits<T>::max();
-  constexpr double smallestNormal = std::numeric_limits<T>::min();
+  constexpr std::uint64_t largest = magnitudeOf(std::numeric_limits<T>::max());
+  constexpr std::uint64_t smallestNormal = magnitudeOf(std::numeric_limits<T>::min());
+  const std::uint64_t magnitude = magnitudeOf(value);
   if (errno == ERANGE) return ParseStatus::ParseOutOfRange;
   if (!std::isfinite(value)) return ParseStatus::ParseNoNumber;
-  if (std::fabs(value) > largest) return ParseStatus::ParseOutOfRange;
-  if (value != 0 && std::fabs(value) < smallestNormal) return ParseStatus::ParseOutOfRange;
+  if (magnitude > largest) return ParseStatus::ParseOutOfRange;
+  if (magnitude != 0 && magnitude < smallestNormal) return ParseStatus::ParseOutOfRange;
   if (nothingRead(end, text)) return ParseStatus::ParseNoNumber;
   return statusAt(end);
+}
+
+/// To nearest, to even between two, whatever the rounding mode: the bits that a float hasn't are
+/// rounded away before. `value` is zero or in the range of normal floats.
+template <FloatingNumber T>
+T narrowed(double value) {
+  if constexpr (std::same_as<T, float>) {
+    constexpr std::uint64_t surplus = (std::uint64_t{1} << 29U) - 1;
+    std::uint64_t bits = std::bit_cast<std::uint64_t>(value);
+    bits += surplus / 2 + (bits >> 29U & 1U);
+    return static_cast<float>(std::bit_cast<double>(bits & ~surplus));
+  } else {
+    return value;
+  }
 }
 
 template <FloatingNumber T>
@@ -86,7 +109,7 @@ std::optional<T> parseCore(const char* text, ParseStatus& status) {
   if (status != ParseStatus::ParseOk && status != ParseStatus::ParseTrailingText) {
     return std::nullopt;
   }
-  return static_cast<T>(value);
+  return narrowed<T>(value);
 }
 
 }  // namespace
