@@ -14,6 +14,8 @@ using namespace vtlcmd::runner;
 using vtlcmd::fuzz::Input;
 using vtlcmd::fuzz::require;
 
+constexpr std::size_t stride = 7;
+
 /// Lines that a journal may have, of the fuzzer's texts.
 std::string journalFrom(Input& input) {
   constexpr std::string_view kinds[] = {line_kinds::run, line_kinds::start, line_kinds::frame,
@@ -59,22 +61,25 @@ void requireBeginning(const std::string& journal) {
 
 }  // namespace
 
-/// Any bytes as a journal, and a journal of the fuzzer's texts: whole, cut off, and with one byte
-/// changed.
+/// Any bytes as a journal, and a journal of the fuzzer's texts: whole, cut off, and with a byte
+/// changed, at every so many places.
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   requireBeginning(vtlcmd::fuzz::textOf(data, size));
 
   Input input(data, size);
-  std::string journal = journalFrom(input);
+  const std::string journal = journalFrom(input);
   bool isDamaged = false;
   require(readAgain(journal, isDamaged) == journal && !isDamaged, "a journal is read whole");
 
-  const std::size_t place = input.take<std::uint16_t>() % journal.size();
-  requireBeginning(journal.substr(0, place));
+  const std::size_t cut = input.take<std::uint16_t>() % journal.size();
+  requireBeginning(journal.substr(0, cut));
   const auto change = static_cast<unsigned char>(input.below(255) + 1);
-  journal[place] = static_cast<char>(static_cast<unsigned char>(journal[place]) ^ change);
-  const std::string again = readAgain(journal, isDamaged);
-  require(journal.starts_with(again), "lines before the damage are read");
-  require(isDamaged || again.size() < journal.size(), "a changed byte is noticed");
+  for (std::size_t place = cut % stride; place < journal.size(); place += stride) {
+    std::string changed = journal;
+    changed[place] = static_cast<char>(static_cast<unsigned char>(journal[place]) ^ change);
+    const std::string again = readAgain(changed, isDamaged);
+    require(journal.starts_with(again), "lines before the damage are read");
+    require(isDamaged || again.size() < journal.size(), "a changed byte is noticed");
+  }
   return 0;
 }
