@@ -16,8 +16,8 @@ constexpr const char* noMemory = "vtlcmd: there isn't enough memory\n";
 
 /// What has been printed isn't lost.
 [[noreturn]] void endWithoutMemory() {
-  std::fflush(stdout);
-  std::fputs(noMemory, stderr);
+  static_cast<void>(std::fflush(stdout));
+  static_cast<void>(std::fputs(noMemory, stderr));
   std::_Exit(static_cast<int>(vtlcmd::runner::ExitCode::tryAgain));
 }
 

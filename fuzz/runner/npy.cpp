@@ -1,10 +1,12 @@
 #include "readers/npy.h"
 
-#include <cstring>
-#include <new>
+#include <algorithm>
+#include <cstdint>
 #include <span>
 #include <sstream>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "readers/npy_header.h"
 #include "readers/read_error.h"
@@ -17,6 +19,7 @@ namespace {
 
 using namespace vtlcmd::runner;
 using vtlcmd::fuzz::require;
+using vtlcmd::fuzz::requireEqual;
 
 std::span<const unsigned char> bytesOf(const std::string& text) {
   return {reinterpret_cast<const unsigned char*>(text.data()), text.size()};
@@ -28,17 +31,28 @@ std::string written(const Orvel::Value& value) {
   return stream.str();
 }
 
-/// The bytes behind the header of a file that was read.
-std::string elementsIn(const std::string& file) {
+struct Parts {
+  NpyHeader header;
+  /// The bytes behind it.
+  std::string elements;
+};
+
+Parts partsOf(const std::string& file) {
   MemorySource source(bytesOf(file));
-  parseNpyHeader(source);
-  return file.substr(file.size() - source.remaining());
+  NpyHeader header = parseNpyHeader(source);
+  return {std::move(header), file.substr(file.size() - source.remaining())};
+}
+
+/// Without what a value can't know: the lengths in rows that aren't there.
+std::vector<std::uint64_t> shapeOf(const Parts& parts) {
+  std::vector<std::uint64_t> shape = parts.header.shape;
+  const auto empty = std::find(shape.begin(), shape.end(), 0U);
+  if (empty != shape.end()) shape.erase(empty + 1, shape.end());
+  return shape;
 }
 
 /// Whether the writer would have written the elements as they stand in the file.
-bool isWriterForm(const std::string& file) {
-  MemorySource source(bytesOf(file));
-  const NpyHeader header = parseNpyHeader(source);
+bool isWriterForm(const NpyHeader& header) {
   const bool isHalf = header.descriptor.ends_with("f2");
   // Any byte but 0 reads as true.
   const bool isBool = header.descriptor.ends_with("b1");
@@ -58,8 +72,14 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const NpyArray array = parseNpy(source, form);
     require(source.remaining() == 0, "a file is read to its end");
     const std::string again = written(array.value);
-    if (isWriterForm(file) && array.facts.widenedTo.empty())
-      require(elementsIn(again) == elementsIn(file), "elements keep their bytes");
+    const Parts before = partsOf(file);
+    const Parts after = partsOf(again);
+    require(shapeOf(after) == shapeOf(before), "an array keeps its shape");
+    if (isWriterForm(before.header) && array.facts.widenedTo.empty()) {
+      require(after.elements == before.elements, "elements keep their bytes");
+      requireEqual("the type", after.header.descriptor.substr(1),
+                   before.header.descriptor.substr(1));
+    }
     MemorySource source2(bytesOf(again));
     require(written(parseNpy(source2, form).value) == again, "what is written is read again");
   } catch (const ReadError&) {

@@ -45,6 +45,8 @@ class DictionaryParser {
       }
     }
     if (!descriptor || !fortranOrder || !shape) fail("a key is missing");
+    skipBlanks();
+    if (!rest_.empty()) fail("something follows its '}'");
     return {*std::move(descriptor), *fortranOrder, *std::move(shape)};
   }
 

@@ -92,7 +92,7 @@ template <FloatingNumber T>
 T narrowed(double value) {
   if constexpr (std::same_as<T, float>) {
     constexpr std::uint64_t surplus = (std::uint64_t{1} << 29U) - 1;
-    std::uint64_t bits = std::bit_cast<std::uint64_t>(value);
+    auto bits = std::bit_cast<std::uint64_t>(value);
     bits += surplus / 2 + (bits >> 29U & 1U);
     return static_cast<float>(std::bit_cast<double>(bits & ~surplus));
   } else {

@@ -345,6 +345,8 @@ INSTANTIATE_TEST_SUITE_P(
                     BadHeader{"{'descr': '<i4", "a text has no end"},
                     BadHeader{"{'descr': [('a', '<i4')]}",
                               "expected a text; arrays of records aren't supported"},
+                    BadHeader{"{'descr': '<i4', 'fortran_order': False, 'shape': (1,)} }",
+                              "something follows its '}'"},
                     BadHeader{"{'other': 1}", "the key 'other' has no meaning"},
                     BadHeader{"{'fortran_order': 0}", "expected True or False"},
                     BadHeader{"{'shape': 3}", "expected '('"},
