@@ -28,6 +28,7 @@ int main(int count, char** words) {
   ExitCode code = ExitCode::runFailed;
   vtlcmd::runner::endWithoutMemoryBy(endWithoutMemory);
   try {
+    vtlcmd::runner::keepFreedMemory();
     vtlcmd::runner::prepareStandardStreams();
     code = vtlcmd::runner::runCommandLine(vtlcmd::runner::commandLineWords(count, words));
   } catch (const std::bad_alloc&) {

@@ -17,6 +17,10 @@ std::vector<std::string> commandLineWords(int count, char** words);
 /// UTF-8. To be called once, before anything is written.
 void prepareStandardStreams();
 
+/// Lets freed memory stay with this process up to a bound, so that frames that take as much each
+/// needn't be given it anew, page by page. To be called once.
+void keepFreedMemory() noexcept;
+
 /// Takes the standard output for what the program itself writes to the returned stream; what others
 /// in this process print there goes to standard error from now on. Throws std::system_error.
 std::FILE* takeStandardOutput();

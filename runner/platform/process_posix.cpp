@@ -1,17 +1,31 @@
 #include <cerrno>
 #include <fcntl.h>
+#include <malloc.h>
 #include <system_error>
 #include <unistd.h>
 
 #include "platform/process.h"
 
 namespace vtlcmd::runner {
+namespace {
+
+/// In bytes: the most that is kept, and the size from which a block is always given back, which is
+/// the largest that the allocator takes.
+constexpr int mostKept = 256 << 20;
+constexpr int leastReturned = 32 << 20;
+
+}  // namespace
 
 std::vector<std::string> commandLineWords(int count, char** words) {
   return {words + (count > 0 ? 1 : 0), words + count};
 }
 
 void prepareStandardStreams() {}
+
+void keepFreedMemory() noexcept {
+  ::mallopt(M_TRIM_THRESHOLD, mostKept);
+  ::mallopt(M_MMAP_THRESHOLD, leastReturned);
+}
 
 std::FILE* takeStandardOutput() {
   const int own = ::fcntl(STDOUT_FILENO, F_DUPFD_CLOEXEC, STDERR_FILENO + 1);

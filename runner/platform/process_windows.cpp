@@ -42,6 +42,8 @@ void prepareStandardStreams() {
   static_cast<void>(std::atexit([] { SetConsoleOutputCP(codePageBefore); }));
 }
 
+void keepFreedMemory() noexcept {}
+
 std::FILE* takeStandardOutput() {
   const int own = _dup(_fileno(stdout));
   std::FILE* const stream = own < 0 ? nullptr : _fdopen(own, "wb");
