@@ -31,6 +31,7 @@ int run(int count, char** arguments) {
   std::vector<Row> rows;
   for (TimedRow& row : operationRows(scale)) rows.push_back(timed(std::move(row)));
   for (TimedRow& row : runRows(scale)) rows.push_back(timed(std::move(row)));
+  for (Row& row : workerRows(scale)) rows.push_back(std::move(row));
   rows.push_back(reportMemoryRow(scale));
   if (smoke) {
     for (Row& row : rows) row.pairs = 1;

@@ -22,13 +22,17 @@ struct Scale {
   /// Frames of which the length of one is taken.
   std::size_t timedFrames;
   std::size_t reportBytes;
+  /// Frames of some 20 and 0.1 ms that processes share.
+  std::size_t longFrames;
+  std::size_t shortFrames;
 
   static constexpr Scale full() {
     constexpr std::size_t mebi = 1 << 20;
-    return {mebi / 2, 128 * mebi, 1'000'000, 100'000, 1'000'000, 1'000'000, 20'000, 1024 * mebi};
+    return {mebi / 2,  128 * mebi, 1'000'000,   100'000, 1'000'000,
+            1'000'000, 20'000,     1024 * mebi, 100,     10'000};
   }
   static constexpr Scale small() {
-    return {1 << 14, 1 << 16, 1'000, 100, 1'000, 100, 100, 1 << 20};
+    return {1 << 14, 1 << 16, 1'000, 100, 1'000, 100, 100, 1 << 20, 2, 10};
   }
 };
 
@@ -42,6 +46,7 @@ std::vector<TimedRow> loadRows();
 std::vector<TimedRow> memoryStatisticsRows(const Scale& scale);
 std::vector<TimedRow> growthRows(const Scale& scale);
 std::vector<TimedRow> frameRows(const Scale& scale);
+std::vector<Row> workerRows(const Scale& scale);
 Row reportMemoryRow(const Scale& scale);
 
 /// Those of one operation of the plug-in each. Their instructions are counted too.
