@@ -36,6 +36,25 @@ std::string assignment(const std::string& name, const std::string& value) {
   return name + "=" + shellQuoted(value) + "\n";
 }
 
+/// Each journal has one writer.
+std::string journalChoice(const std::string& submission) {
+  return R"(# A task that is started again goes on in a copy of its last journal: where it ran before,
+# somebody may still write to that.
+task=$folder/journals/)" +
+         submission + R"(-$SLURM_ARRAY_TASK_ID
+journal=$task.journal
+last=
+restart=0
+while [ "$restart" -lt "${SLURM_RESTART_COUNT:-0}" ]; do
+  [ -e "$journal" ] && last=$journal
+  restart=$((restart + 1))
+  journal=$task-$restart.journal
+done
+[ -z "$last" ] || cp "$last" "$journal"
+
+)";
+}
+
 }  // namespace
 
 TaskScripts::TaskScripts(const FarmFolder& folder, const FarmJob& job, std::size_t submission)
@@ -55,14 +74,12 @@ std::string TaskScripts::tasks(std::size_t count) const {
   text += "# Line by line, the frames of the tasks.\n";
   text += R"(frames=$(sed -n "${SLURM_ARRAY_TASK_ID}p" "$folder/submissions/)" + submission_ +
           "/frames\")\n";
-  text += "# A task that was started again has a journal of its own.\n";
-  text += "journal=$folder/journals/" + submission_ +
-          "-$SLURM_ARRAY_TASK_ID${SLURM_RESTART_COUNT:+-$SLURM_RESTART_COUNT}.journal\n\n";
+  text += journalChoice(submission_);
   text += "cd " + shellQuoted(fileText(job_.workingFolder)) + "\n";
   text += "exec " + shellQuoted(fileText(job_.program)) + " run " + shellQuoted(job_.graph);
   for (const std::string& word : job_.runWords) text += " \\\n  " + shellQuoted(word);
   text += " \\\n  \"--frames=$frames\" " + shellQuoted("--job-frames=" + job_.frames) +
-          " \"--journal=$journal\"\n";
+          " \\\n  \"--journal=$journal\" --resume\n";
   return text;
 }
 

@@ -122,6 +122,8 @@ def runs_a_task_again_that_was_requeued(cluster, work):
 
     wait_until("the task again", has_begun_again)
     job.wait_for_report()
+    journal = (job.folder / "journals/1-1-1.journal").read_text()
+    expect("its frames, each once", journal.count('"frame":{"index"'), CHUNK)
     job.compare_with_one_process(0)
 
 

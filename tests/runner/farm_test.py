@@ -154,18 +154,40 @@ def has_nothing_left_to_resubmit(folder):
            f"vtlcmd report {farm.work}/out/journals/*.journal -o {farm.work}/run.html\n")
 
 
-def journals_of_restarts(folder):
+def goes_on_when_a_task_is_started_again(folder):
     farm = Farm(folder)
     (farm.fake / "hold").touch()
-    farm.submit()
+    farm.submit("-s", "label=x")
     expect("nothing has begun", farm.status(), status_of(missing="1-10"))
     script = farm.work / "out/submissions/1/tasks.sh"
-    for restart in ({}, {"SLURM_RESTART_COUNT": "1"}, {"SLURM_RESTART_COUNT": "10"}):
-        subprocess.run(["sh", script], capture_output=True,
-                       env={**farm.environment, "SLURM_ARRAY_TASK_ID": "3", **restart})
-    expect("journals", sorted(os.listdir(farm.work / "out/journals")),
-           ["1-3-1.journal", "1-3-10.journal", "1-3.journal"])
-    expect("one task", farm.status(), status_of(done="9,10", missing="1-8"))
+    journals = farm.work / "out/journals"
+
+    def start(restarts):
+        count = {"SLURM_RESTART_COUNT": str(restarts)} if restarts else {}
+        return subprocess.run(["sh", script], capture_output=True, text=True, cwd=farm.work,
+                              env={**farm.environment, "SLURM_ARRAY_TASK_ID": "2", **count})
+
+    first, again = journals / "1-2.journal", journals / "1-2-3.journal"
+    expect("a task", start(0).returncode, 0)
+    kept = first.read_bytes()
+    # Its machine died while it wrote the second frame, and where it started then nothing came of it.
+    first.write_bytes(kept[:kept.index(b'"frame":{"index":5') + 40])
+    torn = first.read_bytes()
+    result = start(3)
+    expect("a task that is started again", (result.returncode, result.stderr), (0, ""))
+    expect("what it prints", [line for line in result.stdout.splitlines() if "Frame" in line],
+           [f"[vtlcmd]            Frame {frame}:" for frame in (6, 7, 8)])
+    expect("its journals", sorted(os.listdir(journals)), ["1-2-3.journal", "1-2.journal"])
+    expect("what the lost machine left", first.read_bytes(), torn)
+    expect("its frames", again.read_bytes().count(b'"frame":{"index"'), 4)
+    expect("a third time", (start(4).stdout, start(4).returncode), ("", 0))
+    expect("the status", farm.status(), status_of(done="5-8", missing="1-4,9,10"))
+    for words in (["--no-times"], []):
+        documents = []
+        for merged in ([first, again, journals / "1-2-4.journal"], [journals / "1-2-4.journal"]):
+            farm.vtlcmd("report", *merged, "-o", "-", *words)
+            documents.append(json.loads(farm.output))
+        expect(f"the report of all {words}", documents[0], documents[1])
 
 
 def tells_torn_journals(folder):
@@ -331,8 +353,8 @@ def waits_for_a_report_that_never_comes(folder):
 
 
 for test in (submits_and_reports, resubmits_what_is_left, has_nothing_left_to_resubmit,
-             journals_of_restarts, tells_torn_journals, chunks_fit_the_cluster, copies_inputs,
-             refuses, leaves_nothing_of_what_failed, guards_resubmission,
+             goes_on_when_a_task_is_started_again, tells_torn_journals, chunks_fit_the_cluster,
+             copies_inputs, refuses, leaves_nothing_of_what_failed, guards_resubmission,
              waits_for_a_report_that_never_comes):
     before = len(problems)
     with tempfile.TemporaryDirectory() as folder:

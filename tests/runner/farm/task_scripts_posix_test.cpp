@@ -29,14 +29,25 @@ set -eu
 folder=/farm/out
 # Line by line, the frames of the tasks.
 frames=$(sed -n "${SLURM_ARRAY_TASK_ID}p" "$folder/submissions/2/frames")
-# A task that was started again has a journal of its own.
-journal=$folder/journals/2-$SLURM_ARRAY_TASK_ID${SLURM_RESTART_COUNT:+-$SLURM_RESTART_COUNT}.journal
+# A task that is started again goes on in a copy of its last journal: where it ran before,
+# somebody may still write to that.
+task=$folder/journals/2-$SLURM_ARRAY_TASK_ID
+journal=$task.journal
+last=
+restart=0
+while [ "$restart" -lt "${SLURM_RESTART_COUNT:-0}" ]; do
+  [ -e "$journal" ] && last=$journal
+  restart=$((restart + 1))
+  journal=$task-$restart.journal
+done
+[ -z "$last" ] || cp "$last" "$journal"
 
 cd '/home/me/my project'
 exec /opt/vtlcmd/bin/vtlcmd run graphs/scatter.json \
   '--set=name=it'\''s' \
   --quiet \
-  "--frames=$frames" --job-frames=1-1000 "--journal=$journal"
+  "--frames=$frames" --job-frames=1-1000 \
+  "--journal=$journal" --resume
 )");
 }
 
