@@ -16,6 +16,7 @@ parser = argparse.ArgumentParser(description=__doc__)
 parser.add_argument("--program", required=True, nargs="+", help="the words that start it")
 parser.add_argument("--folder", required=True)
 parser.add_argument("--kills", type=int, default=20, help="how many times a run is killed")
+parser.add_argument("--seed", type=int, default=20260217, help="of the moments of the kills")
 arguments = parser.parse_args()
 
 FRAMES = 3000
@@ -131,7 +132,7 @@ with tempfile.TemporaryDirectory() as name:
     full = folder / "full.json"
     run(graph, "-f", f"1-{FRAMES}", "--report", full, "--no-times")
     undisturbed = full.read_bytes()
-    random_moments = random.Random(20260217)
+    random_moments = random.Random(arguments.seed)
     for i in range(arguments.kills // KILLS_OF_A_RUN):
         kill_and_resume(["--workers", "2"] if i % 2 else [], random_moments)
     refusals()
