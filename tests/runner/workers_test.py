@@ -25,15 +25,14 @@ GRAPH = {
 program = [os.path.abspath(word) for word in arguments.program]
 
 
-def start(*words, mishaps="", mark="", loaded=None):
+def start(*words, graph="graph.json", mishaps="", mark="", loaded=None, stderr=subprocess.PIPE):
     environment = {**os.environ, "VTLCMD_TEST_MISHAPS": mishaps, "VTLCMD_TEST_MARK": str(mark)}
     environment.pop("VTLCMD_WORKERS", None)
     if loaded:
         environment["VTLCMD_TEST_LOADED"] = str(loaded)
     return subprocess.Popen(
-        [*program, "run", folder / "graph.json", "--plugin", arguments.plug_in,
-         *map(str, words)],
-        cwd=folder, env=environment, text=True, stdout=subprocess.PIPE, stderr=subprocess.PIPE,
+        [*program, "run", folder / graph, "--plugin", arguments.plug_in, *map(str, words)],
+        cwd=folder, env=environment, text=True, stdout=subprocess.PIPE, stderr=stderr,
         preexec_fn=default_signals)
 
 
@@ -148,6 +147,25 @@ def no_worker_loads():
     (folder / "loaded").unlink()
 
 
+def what_waits_is_bounded():
+    """One frame hangs, and the others say a lot that waits for it."""
+    frames, text = 2000, "x" * 200_000
+    (folder / "text").write_text(text)
+    (folder / "large.json").write_text(json.dumps({
+        "inputs": [{"name": "text", "type": "string"}],
+        "nodes": [], "outputs": [{"name": "text", "from": "text"}]}))
+    process = start("-f", f"1-{frames}", "--workers", "3", "--frame-timeout", "2", "--set-file",
+                    "text=text", graph="large.json", mishaps="1=hang", stderr=subprocess.DEVNULL)
+    found = 0
+    for line in process.stdout:
+        found += text in line
+    _, status, usage = os.wait4(process.pid, 0)
+    expect("what waits: the exit code", os.waitstatus_to_exitcode(status), 75)
+    expect("what waits: frames", found, frames - 1)
+    # In KiB, of whichever process takes most; 64 MiB of it may be what waits.
+    expect("what waits: memory", min(usage.ru_maxrss, 150 << 10), usage.ru_maxrss)
+
+
 def children_of(process):
     return [int(word) for word in
             pathlib.Path(f"/proc/{process.pid}/task/{process.pid}/children").read_text().split()]
@@ -217,6 +235,7 @@ with tempfile.TemporaryDirectory() as name:
     the_first_failure_ends_it()
     what_is_said_stays_with_its_frame()
     no_worker_loads()
+    what_waits_is_bounded()
     none_is_left_behind()
     an_interrupt_ends_after_the_frames()
 
