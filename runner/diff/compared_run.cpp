@@ -1,11 +1,14 @@
 #include "diff/compared_run.h"
 
-#include <algorithm>
 #include <filesystem>
+#include <fstream>
+#include <optional>
 #include <system_error>
 #include <utility>
 
+#include "diff/report_frames.h"
 #include "journal/journal_reader.h"
+#include "report/frame_facts.h"
 #include "report/frame_reader.h"
 #include "text/path_text.h"
 
@@ -34,30 +37,27 @@ class JournalRun : public ComparedRun {
 
 class ReportRun : public ComparedRun {
  public:
-  /// Throws Json::exception for a document that is no report.
-  explicit ReportRun(std::istream& stream) {
-    Json report = Json::parse(stream);
-    run_ = std::move(report.at("run"));
-    for (Json& frame : report.at("frames")) {
-      const double number = frameNumber(frame.at("frame"));
-      frames_.push_back({number, std::move(frame)});
-    }
-    std::stable_sort(
-        frames_.begin(), frames_.end(),
-        [](const ComparedFrame& a, const ComparedFrame& b) { return a.number < b.number; });
-  }
+  /// Throws as ReportFrames does.
+  ReportRun(std::ifstream stream, const std::string& name)
+      : stream_(std::move(stream)), name_(name), frames_(stream_) {}
 
-  const Json& run() const override { return run_; }
+  const Json& run() const override { return frames_.run(); }
 
   std::optional<ComparedFrame> next() override {
-    if (next_ == frames_.size()) return std::nullopt;
-    return std::move(frames_[next_++]);
+    std::optional<Json> frame = frames_.next();
+    if (!frame) return std::nullopt;
+    const double number = frameNumber(frame->at("frame"));
+    if (last_ && !(number >= *last_))
+      throw JournalError(name_ + ": the frames aren't in the order of their numbers");
+    last_ = number;
+    return ComparedFrame{number, std::move(*frame)};
   }
 
  private:
-  Json run_;
-  std::vector<ComparedFrame> frames_;
-  std::size_t next_ = 0;
+  std::ifstream stream_;
+  std::string name_;
+  ReportFrames frames_;
+  std::optional<double> last_;
 };
 
 }  // namespace
@@ -74,8 +74,10 @@ std::unique_ptr<ComparedRun> openRun(const std::string& file) {
   stream.clear();
   stream.seekg(0);
   try {
-    return std::make_unique<ReportRun>(stream);
+    return std::make_unique<ReportRun>(std::move(stream), file);
   } catch (const Json::exception&) {
+    throw JournalError(isNeither);
+  } catch (const JsonScanError&) {
     throw JournalError(isNeither);
   }
 }

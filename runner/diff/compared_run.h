@@ -26,7 +26,7 @@ class ComparedRun {
   virtual std::optional<ComparedFrame> next() = 0;
 };
 
-/// Opens a file of either kind, whatever its name. Of a report all frames are then in memory.
+/// Opens a file of either kind, whatever its name. One frame at a time is in memory.
 /// Throws JournalError when it is neither or can't be read.
 std::unique_ptr<ComparedRun> openRun(const std::string& file);
 

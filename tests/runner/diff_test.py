@@ -117,6 +117,23 @@ def check_many(folder):
     expect("a long value is cut", lines[1].endswith("ü..."), True)
 
 
+def check_other_forms_of_a_report(folder):
+    """Other tools write the members in another order, and with other blanks."""
+    journal, report = run(folder, "o", "examples/animated.json", "-f", "1-5", "-s", "name=[{\\\"")
+    document = json.loads(report.read_text())
+    other = folder / "other.json"
+    for options in ({"sort_keys": True}, {"indent": 7}, {"separators": (",", ":")}):
+        other.write_text(json.dumps(document, **options))
+        expect(f"another form {options}", vtlcmd("diff", journal, other), (0, "", ""))
+    other.write_text(json.dumps(document)[:-1])
+    expect("a torn report", vtlcmd("diff", journal, other),
+           (3, "", f"vtlcmd: {other} is neither a journal nor a JSON report of a run\n"))
+    document["frames"].reverse()
+    other.write_text(json.dumps(document))
+    expect("another order", vtlcmd("diff", journal, other)[::2],
+           (3, f"vtlcmd: {other}: the frames aren't in the order of their numbers\n"))
+
+
 def check_unreadable(folder):
     good, report = run(folder, "u", "examples/division.json")
     for name, text in {"empty": "", "other": '{"nodes": []}', "list": "[1]", "text": "hello"}.items():
@@ -141,7 +158,7 @@ def check_unreadable(folder):
 
 with tempfile.TemporaryDirectory() as name:
     for check in (check_equal, check_values, check_tolerance, check_frames, check_many,
-                  check_unreadable):
+                  check_other_forms_of_a_report, check_unreadable):
         folder = pathlib.Path(name) / check.__name__
         folder.mkdir()
         check(folder)

@@ -1,4 +1,4 @@
-"""What a run takes doesn't grow with its frames, be there a journal and a report or not."""
+"""What a run, its reports and a diff take hardly grows with the frames."""
 
 import argparse
 import os
@@ -18,21 +18,36 @@ MOST_GROWTH = 2 << 10
 problems = []
 
 
-def peak_memory(frames, *words):
-    process = subprocess.Popen([*arguments.program, "run", "examples/animated.json", "-q", "-f",
-                                f"1-{frames}", *words], cwd=arguments.folder)
+def peak_memory(*words):
+    process = subprocess.Popen([*arguments.program, *words], cwd=arguments.folder)
     _, status, usage = os.wait4(process.pid, 0)
     if status != 0:
-        problems.append(f"{frames} frames {words}: ended with status {status}")
+        problems.append(f"{words}: ended with status {status}")
     return usage.ru_maxrss
+
+
+def check_growth(what, words_of):
+    growth = peak_memory(*words_of(MANY)) - peak_memory(*words_of(FEW))
+    if growth > MOST_GROWTH:
+        problems.append(f"{what}: {MANY} frames take {growth} KiB more than {FEW}")
+
+
+def words_of_run(*words):
+    return lambda frames: ["run", "examples/animated.json", "-q", "-f", f"1-{frames}", *words]
 
 
 with tempfile.TemporaryDirectory() as name:
     folder = pathlib.Path(name)
     for words in ([], ["--journal", folder / "run.journal", "--restart"], ["--report", folder / "run.json"]):
-        growth = peak_memory(MANY, *words) - peak_memory(FEW, *words)
-        if growth > MOST_GROWTH:
-            problems.append(f"{words}: {MANY} frames take {growth} KiB more than {FEW}")
+        check_growth(words, words_of_run(*words))
+    for frames in (FEW, MANY):
+        peak_memory(*words_of_run("--journal", folder / f"{frames}.journal", "--report",
+                                  folder / f"{frames}.json")(frames))
+    for form in ("journal", "json"):
+        check_growth(f"diff of a {form}",
+                     lambda frames: ["diff", *[folder / f"{frames}.{form}"] * 2])
+    check_growth("a table", lambda frames: [
+        "report", folder / f"{frames}.journal", "-o", folder / f"{frames}.csv"])
 
 print("\n".join(problems))
 sys.exit(1 if problems else 0)
