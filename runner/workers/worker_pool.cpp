@@ -133,7 +133,9 @@ bool WorkerPool::isHeard(const Worker& worker) const {
 }
 
 void WorkerPool::receive(Worker& worker) {
-  const bool hasEnded = !worker.process.receive();
+  const std::optional<std::size_t> received = worker.process.receive();
+  // It tells of a frame, so the frame has ended.
+  if (received.value_or(0) > 0) worker.since = Clock::now();
   try {
     while (const std::optional<std::string_view> news = worker.process.nextNews()) {
       handleNews(worker, *news);
@@ -143,7 +145,7 @@ void WorkerPool::receive(Worker& worker) {
     // Nothing that it says can be trusted any more; its end will be told of.
     worker.process.kill();
   }
-  if (hasEnded) bury(worker);
+  if (!received) bury(worker);
 }
 
 void WorkerPool::handleNews(Worker& worker, std::string_view news) {
@@ -203,13 +205,19 @@ void WorkerPool::collect(FinishedFrame frame) {
   goesOn_ = collector_.take(std::move(frame));
 }
 
+bool WorkerPool::isOutOfTime(const Worker& worker) const {
+  return worker.isReady && !worker.isPaused && !worker.places.empty() && !worker.isOutOfTime &&
+         Clock::now() - worker.since >= *settings_.timeout;
+}
+
 void WorkerPool::endThoseOutOfTime() {
   if (!settings_.timeout) return;
-  const Clock::time_point now = Clock::now();
   for (const std::unique_ptr<Worker>& worker : workers_) {
-    if (!worker || !worker->isReady || worker->isPaused || worker->places.empty() ||
-        worker->isOutOfTime || now - worker->since < *settings_.timeout)
-      continue;
+    if (!goesOn_) return;
+    if (!worker || !isOutOfTime(*worker)) continue;
+    // It may have said something while frames of others were printed.
+    receive(*worker);
+    if (!worker || !isOutOfTime(*worker)) continue;
     worker->isOutOfTime = true;
     worker->process.kill();
   }

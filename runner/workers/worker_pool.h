@@ -89,6 +89,7 @@ class WorkerPool {
   void beginFrame(Worker& worker);
   void finishFrame(Worker& worker, FinishedFrame frame);
   bool runAgain(Worker& worker, const FinishedFrame& frame);
+  bool isOutOfTime(const Worker& worker) const;
   void endThoseOutOfTime();
   void bury(Worker& worker);
   void noteFailedStart(const std::string& text, Failure failure);

@@ -27,12 +27,13 @@ WorkerProcess::WorkerProcess(const std::filesystem::path& program, const std::st
   process_.send(task);
 }
 
-bool WorkerProcess::receive() {
+std::optional<std::size_t> WorkerProcess::receive() {
   std::array<unsigned char, blockSize> block;
   const std::optional<std::size_t> count = process_.read(block, ChildProcess::now);
   if (count) news_.append(textOf({block.data(), *count}));
   takeErrors();
-  return !count || *count > 0;
+  if (count && *count == 0) return std::nullopt;
+  return count.value_or(0);
 }
 
 /// What was said before the news that are here already is in the pipe at the latest.

@@ -25,9 +25,9 @@ class WorkerProcess {
   void send(const std::string& order) { process_.send(order); }
   void kill() noexcept { process_.kill(); }
 
-  /// Takes in some of what has come; waits for nothing. False when the process has ended and all
-  /// of it was taken in.
-  bool receive();
+  /// Takes in some of what has come; waits for nothing. How many bytes of news there were; nothing
+  /// when the process has ended and all of it was taken in.
+  std::optional<std::size_t> receive();
 
   /// The fields of the next news that was taken in, valid until the next call.
   std::optional<std::string_view> nextNews() { return news_.next(); }

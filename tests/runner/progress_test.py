@@ -46,7 +46,7 @@ line = (r"frame \d+ \(\d+ of \d+\), \d+ %"
 many_short = ["examples/animated.json", "-f", "1-30000"]
 few_long = ["examples/scatter.json", "-s", "count=1000000", "-f", "1-3"]
 
-for words in (many_short, few_long):
+for words in (many_short, few_long, [*many_short, "--workers", "2"]):
     text, seconds = run(words)
     pieces = text.split(erase)
     check(f"{words}: the line is gone at the end", pieces.pop() == "" and pieces)

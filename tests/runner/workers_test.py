@@ -1,12 +1,16 @@
 """Worker processes that end in a frame cost that frame, and none outlives the program."""
 
 import argparse
+import fcntl
 import json
 import os
 import pathlib
+import pty
+import re
 import signal
 import subprocess
 import tempfile
+import termios
 import time
 
 from expectations import default_signals, expect, finish
@@ -166,6 +170,15 @@ def what_waits_is_bounded():
     expect("what waits: memory", min(usage.ru_maxrss, 150 << 10), usage.ru_maxrss)
 
 
+def a_slow_reader_takes_no_time():
+    """What a frame may take doesn't run while nobody reads what was printed of others."""
+    process = start("-f", "1-20", "--workers", "2", "--frame-timeout", "1", "--set-file", "text=text",
+                    graph="large.json")
+    time.sleep(2.5)
+    output, errors = process.communicate(timeout=100)
+    expect("a slow reader", (output.count("Output port"), errors, process.returncode), (20, "", 0))
+
+
 def children_of(process):
     return [int(word) for word in
             pathlib.Path(f"/proc/{process.pid}/task/{process.pid}/children").read_text().split()]
@@ -225,6 +238,56 @@ def an_interrupt_ends_after_the_frames():
     report.unlink()
 
 
+def a_terminal_interrupts_it():
+    """Ctrl-C reaches the program alone, which ends the workers after their frames."""
+    report = folder / "report.json"
+    master, slave = pty.openpty()
+
+    def take_terminal():
+        default_signals()
+        os.setsid()
+        fcntl.ioctl(0, termios.TIOCSCTTY, 0)
+
+    process = subprocess.Popen(
+        [*program, "run", folder / "graph.json", "-f", "1-1000000", "--workers", "2", "--report",
+         report], stdin=slave, stdout=subprocess.PIPE, stderr=slave, preexec_fn=take_terminal,
+        env={**os.environ, "TERM": "xterm"})
+    os.close(slave)
+    process.stdout.readline()
+    children = children_of(process)
+    os.write(master, b"\x03")
+    process.stdout.read()
+    expect("terminal: the exit code", process.wait(timeout=60), 130)
+    text = os.read(master, 10000).decode()
+    os.close(master)
+    expect("terminal: the notice", text.count("ending after this frame"), 1)
+    expect("terminal: no worker is left", (len(children), are_gone(children)), (2, True))
+    frames = json.loads(report.read_text())["frames"]
+    expect("terminal: every frame is whole", all(frame["succeeded"] for frame in frames))
+    report.unlink()
+
+
+def looks_as_with_one():
+    """Colours, levels and the order of the two streams are those of a run without workers."""
+    for words in (["--color", "always"], ["-q"], ["-q", "--color", "always"], ["-v", "debug"],
+                  ["-v", "none"], ["--no-progress"]):
+        expected = run("-f", "1-5", *words, mishaps="2=memory")
+        expect(f"{words} shows the failure", "enough memory" in expected[1], words[1:] != ["none"])
+        for workers in (1, 2, 6):
+            expect(f"{words} with {workers}",
+                   run("-f", "1-5", *words, "--workers", workers, mishaps="2=memory"), expected)
+
+
+def the_page_tells_of_workers():
+    page = folder / "run.html"
+    expect("a page", run("-f", "1-20", "-q", "--workers", "2", "--report", page,
+                         mishaps="1=nap,2=nap")[2], 0)
+    lanes = re.findall("<b>[^<]+ · worker (\\d)</b> <span class='facts'>(\\d+) frame", page.read_text())
+    expect("its workers", [number for number, _ in lanes], ["1", "2"])
+    expect("their frames", sum(int(frames) for _, frames in lanes), 20)
+    page.unlink()
+
+
 with tempfile.TemporaryDirectory() as name:
     folder = pathlib.Path(name)
     (folder / "graph.json").write_text(json.dumps(GRAPH))
@@ -236,7 +299,11 @@ with tempfile.TemporaryDirectory() as name:
     what_is_said_stays_with_its_frame()
     no_worker_loads()
     what_waits_is_bounded()
+    a_slow_reader_takes_no_time()
     none_is_left_behind()
     an_interrupt_ends_after_the_frames()
+    a_terminal_interrupts_it()
+    looks_as_with_one()
+    the_page_tells_of_workers()
 
 finish()
