@@ -1,6 +1,5 @@
-"""Worker processes that end in a frame cost that frame, and none outlives the program."""
+"""What workers do beside their frames: attempts, interrupts, and none outlives the program."""
 
-import argparse
 import fcntl
 import json
 import os
@@ -9,92 +8,17 @@ import pty
 import re
 import signal
 import subprocess
-import tempfile
 import termios
 import time
 
-from expectations import default_signals, expect, finish
-
-parser = argparse.ArgumentParser(description=__doc__)
-parser.add_argument("--program", required=True, nargs="+", help="the words that start it")
-parser.add_argument("--folder", required=True)
-parser.add_argument("--plug-in", required=True, help="the plug-in with mishaps")
-arguments = parser.parse_args()
-
-GRAPH = {
-    "inputs": [{"name": "time", "type": "Simulation::Time"}],
-    "nodes": [{"name": "frame", "op": "time_frame", "in": {"time": "time"}}],
-    "outputs": [{"name": "frame", "from": "frame"}],
-}
-program = [os.path.abspath(word) for word in arguments.program]
-
-
-def start(*words, graph="graph.json", mishaps="", mark="", loaded=None, stderr=subprocess.PIPE):
-    environment = {**os.environ, "VTLCMD_TEST_MISHAPS": mishaps, "VTLCMD_TEST_MARK": str(mark)}
-    environment.pop("VTLCMD_WORKERS", None)
-    if loaded:
-        environment["VTLCMD_TEST_LOADED"] = str(loaded)
-    return subprocess.Popen(
-        [*program, "run", folder / graph, "--plugin", arguments.plug_in, *map(str, words)],
-        cwd=folder, env=environment, text=True, stdout=subprocess.PIPE, stderr=stderr,
-        preexec_fn=default_signals)
-
-
-def run(*words, **options):
-    process = start(*words, **options)
-    output, errors = process.communicate(timeout=100)
-    return output, errors, process.returncode
-
-
-def lines(frames):
-    return "".join(f"[vtlcmd]            Frame {frame}:\n"
-                   f"[vtlcmd]            Output port 'frame': (double) {frame}\n" for frame in frames)
-
-
-def critical(frame, text):
-    return (f"[vtlcmd]            Frame {frame}:\n"
-            f"[vtlcmd]  Critical: {text.format(frame=frame)}\n")
-
-
-PROCESS = "The process that ran frame {frame} "
-DEATHS = [
-    ("crash", PROCESS + "crashed: Segmentation fault.", 1),
-    ("abort", PROCESS + "crashed: Aborted.", 1),
-    ("exit", PROCESS + "ended with exit code 7.", 1),
-    ("kill", PROCESS + "was killed (Killed).", 75),
-    ("cry", PROCESS + "crashed: Segmentation fault. Its process said last:\nfirst\nit hurts", 1),
-]
-
-
-def a_death_costs_its_frame():
-    for mishap, text, code in DEATHS:
-        for workers in (1, 2):
-            report = folder / "report.json"
-            found = run("-f", "1-6", "--workers", workers, "--report", report, mishaps=f"3={mishap}")
-            expect(f"{mishap}, {workers} workers", found,
-                   (lines([1, 2, 4, 5, 6]), critical(3, text), code))
-            document = json.loads(report.read_text())
-            frames = {frame["frame"]: frame for frame in document["frames"]}
-            expect(f"{mishap}: frames of the report", sorted(frames), list("123456"))
-            expect(f"{mishap}: its messages", frames["3"]["messages"],
-                   {"vtlcmd": {"critical": [text.format(frame=3)]}})
-            expect(f"{mishap}: its failure", frames["3"]["failure"],
-                   "transient" if code == 75 else "permanent")
-            expect(f"{mishap}: others", [frames[frame]["succeeded"] for frame in "12456"], [True] * 5)
-            expect(f"{mishap}: the report's exit code", document["exit_code"], code)
-            report.unlink()
+from expectations import default_signals, expect
+from worker_runs import (CRASHED, KILLED, PROCESS, critical, folder, lines, program, run, run_tests,
+                         start)
 
 
 def one_lasting_failure_makes_it_1():
     expect("killed and crashed", run("-f", "1-6", "--workers", "2", mishaps="2=kill,5=crash"),
-           (lines([1, 3, 4, 6]), critical(2, DEATHS[3][1]) + critical(5, DEATHS[0][1]), 1))
-
-
-def time_is_limited():
-    text = "Frame {frame} took longer than 0.5 seconds (--frame-timeout)."
-    for words in (["--workers", "2"], []):
-        expect(f"hangs {words}", run("-f", "1-4", "--frame-timeout", "0.5", *words, mishaps="2=hang"),
-               (lines([1, 3, 4]), critical(2, text), 75))
+           (lines([1, 3, 4, 6]), critical(2, KILLED) + critical(5, f"{PROCESS}{CRASHED}."), 1))
 
 
 def another_attempt_cures():
@@ -107,7 +31,7 @@ def another_attempt_cures():
     report.unlink()
     expect("killed each time", run("-f", "1-3", "--workers", "2", "--retry", "2", "--journal",
                                    folder / "journal", mishaps="2=kill"),
-           (lines([1, 3]), critical(2, DEATHS[3][1]), 75))
+           (lines([1, 3]), critical(2, KILLED), 75))
     starts = (folder / "journal").read_text().count('"start":{"index":1,')
     expect("killed each time: attempts", starts, 3)
     (folder / "journal").unlink()
@@ -122,33 +46,6 @@ def another_attempt_cures():
         starts = (folder / "journal").read_text().count('"start":{"index":1,')
         expect(f"memory {words}", ("enough memory" in errors, code, starts), (True, 75, 3))
         (folder / "journal").unlink()
-
-
-def the_first_failure_ends_it():
-    """As with one process, also when a later frame is done before."""
-    expected = run("-f", "1-9", "--fail-fast", "--report", "-", "--no-times", mishaps="4=memory")
-    expect("fail-fast: the exit code", expected[2], 75)
-    expect("fail-fast: the frames", [frame["frame"] for frame in json.loads(expected[0])["frames"]],
-           list("1234"))
-    for workers in (1, 2, 3):
-        expect(f"fail-fast, {workers} workers",
-               run("-f", "1-9", "--fail-fast", "--report", "-", "--no-times", "--workers", workers,
-                   mishaps="4=memory,3=nap"), expected)
-
-
-def what_is_said_stays_with_its_frame():
-    expected = run("-f", "1-4", "--workers", "1", mishaps="2=say,4=say")
-    expect("said", expected, (lines([1, 2, 3, 4]), "something is odd\n" * 2, 0))
-    expect("said with two", run("-f", "1-4", "--workers", "2", mishaps="1=nap,2=say,4=say"), expected)
-
-
-def no_worker_loads():
-    output, errors, code = run("-f", "1-4", "--workers", "2", mishaps="load=crash",
-                               loaded=folder / "loaded")
-    expect("no worker loads", (output, errors, code),
-           ("", "vtlcmd: the frames' processes can't be started: a process crashed: "
-            "Segmentation fault\n", 1))
-    (folder / "loaded").unlink()
 
 
 def what_waits_is_bounded():
@@ -288,22 +185,6 @@ def the_page_tells_of_workers():
     page.unlink()
 
 
-with tempfile.TemporaryDirectory() as name:
-    folder = pathlib.Path(name)
-    (folder / "graph.json").write_text(json.dumps(GRAPH))
-    a_death_costs_its_frame()
-    one_lasting_failure_makes_it_1()
-    time_is_limited()
-    another_attempt_cures()
-    the_first_failure_ends_it()
-    what_is_said_stays_with_its_frame()
-    no_worker_loads()
-    what_waits_is_bounded()
-    a_slow_reader_takes_no_time()
-    none_is_left_behind()
-    an_interrupt_ends_after_the_frames()
-    a_terminal_interrupts_it()
-    looks_as_with_one()
-    the_page_tells_of_workers()
-
-finish()
+run_tests(one_lasting_failure_makes_it_1, another_attempt_cures, what_waits_is_bounded,
+          a_slow_reader_takes_no_time, none_is_left_behind, an_interrupt_ends_after_the_frames,
+          a_terminal_interrupts_it, looks_as_with_one, the_page_tells_of_workers)

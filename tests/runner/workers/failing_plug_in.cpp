@@ -1,6 +1,5 @@
 #include <array>
 #include <chrono>
-#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <new>
@@ -11,6 +10,7 @@
 #include "host/host_records.h"
 #include "translation/entry.h"
 #include "translation/vtlcmd_type_translation.h"
+#include "workers/sudden_ends.h"
 
 // The plug-in, but for some frames of a run: the environment says like "3=crash,5=exit" what
 // happens when the first output of a frame is to be reported. "load=crash" happens when the plug-in
@@ -18,11 +18,6 @@
 
 namespace vtlcmd::failing {
 namespace {
-
-void raiseDefault(int signal) {
-  static_cast<void>(std::signal(signal, SIG_DFL));
-  static_cast<void>(std::raise(signal));
-}
 
 /// True once, over all processes: the environment names a file that marks it.
 bool isFirst(const char* variable) {
@@ -43,9 +38,9 @@ struct Mishap {
 };
 
 constexpr std::array<Mishap, 10> mishaps{{
-    {"crash", [] { raiseDefault(SIGSEGV); }},
-    {"abort", [] { raiseDefault(SIGABRT); }},
-    {"kill", [] { raiseDefault(SIGKILL); }},
+    {"crash", crash},
+    {"abort", abortProcess},
+    {"kill", killProcess},
     {"exit", [] { std::_Exit(7); }},
     {"hang", [] { std::this_thread::sleep_for(std::chrono::hours(1)); }},
     {"nap", [] { std::this_thread::sleep_for(std::chrono::milliseconds(200)); }},
@@ -54,11 +49,11 @@ constexpr std::array<Mishap, 10> mishaps{{
     {"cry",
      [] {
        say("first\nit hurts\n");
-       raiseDefault(SIGSEGV);
+       crash();
      }},
     {"killonce",
      [] {
-       if (isFirst("VTLCMD_TEST_MARK")) raiseDefault(SIGKILL);
+       if (isFirst("VTLCMD_TEST_MARK")) killProcess();
      }},
 }};
 
