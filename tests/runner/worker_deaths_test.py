@@ -17,7 +17,8 @@ if not arguments.windows:
 def a_death_costs_its_frame():
     for mishap, text, code in DEATHS:
         for workers in (1, 2):
-            found = run("-f", "1-6", "--workers", workers, "--report", "report.json", mishaps=f"3={mishap}")
+            found = run("-f", "1-6", "--workers", workers, "--report", "report.json",
+                        mishaps=f"3={mishap}")
             expect(f"{mishap}, {workers} workers", found,
                    (lines([1, 2, 4, 5, 6]), critical(3, text), code))
             report = folder / "report.json"

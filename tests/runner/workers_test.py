@@ -48,34 +48,6 @@ def another_attempt_cures():
         (folder / "journal").unlink()
 
 
-def what_waits_is_bounded():
-    """One frame hangs, and the others say a lot that waits for it."""
-    frames, text = 2000, "x" * 200_000
-    (folder / "text").write_text(text)
-    (folder / "large.json").write_text(json.dumps({
-        "inputs": [{"name": "text", "type": "string"}],
-        "nodes": [], "outputs": [{"name": "text", "from": "text"}]}))
-    process = start("-f", f"1-{frames}", "--workers", "3", "--frame-timeout", "2", "--set-file",
-                    "text=text", graph="large.json", mishaps="1=hang", stderr=subprocess.DEVNULL)
-    found = 0
-    for line in process.stdout:
-        found += text in line
-    _, status, usage = os.wait4(process.pid, 0)
-    expect("what waits: the exit code", os.waitstatus_to_exitcode(status), 75)
-    expect("what waits: frames", found, frames - 1)
-    # In KiB, of whichever process takes most; 64 MiB of it may be what waits.
-    expect("what waits: memory", min(usage.ru_maxrss, 150 << 10), usage.ru_maxrss)
-
-
-def a_slow_reader_takes_no_time():
-    """What a frame may take doesn't run while nobody reads what was printed of others."""
-    process = start("-f", "1-20", "--workers", "2", "--frame-timeout", "1", "--set-file", "text=text",
-                    graph="large.json")
-    time.sleep(2.5)
-    output, errors = process.communicate(timeout=100)
-    expect("a slow reader", (output.count("Output port"), errors, process.returncode), (20, "", 0))
-
-
 def children_of(process):
     return [int(word) for word in
             pathlib.Path(f"/proc/{process.pid}/task/{process.pid}/children").read_text().split()]
@@ -179,12 +151,13 @@ def the_page_tells_of_workers():
     page = folder / "run.html"
     expect("a page", run("-f", "1-20", "-q", "--workers", "2", "--report", page,
                          mishaps="1=nap,2=nap")[2], 0)
-    lanes = re.findall("<b>[^<]+ · worker (\\d)</b> <span class='facts'>(\\d+) frame", page.read_text())
+    lanes = re.findall("<b>[^<]+ · worker (\\d)</b> <span class='facts'>(\\d+) frame",
+                       page.read_text())
     expect("its workers", [number for number, _ in lanes], ["1", "2"])
     expect("their frames", sum(int(frames) for _, frames in lanes), 20)
     page.unlink()
 
 
-run_tests(one_lasting_failure_makes_it_1, another_attempt_cures, what_waits_is_bounded,
-          a_slow_reader_takes_no_time, none_is_left_behind, an_interrupt_ends_after_the_frames,
-          a_terminal_interrupts_it, looks_as_with_one, the_page_tells_of_workers)
+run_tests(one_lasting_failure_makes_it_1, another_attempt_cures, none_is_left_behind,
+          an_interrupt_ends_after_the_frames, a_terminal_interrupts_it, looks_as_with_one,
+          the_page_tells_of_workers)
