@@ -38,8 +38,8 @@ class JournalRun : public ComparedRun {
 class ReportRun : public ComparedRun {
  public:
   /// Throws as ReportFrames does.
-  ReportRun(std::ifstream stream, const std::string& name)
-      : stream_(std::move(stream)), name_(name), frames_(stream_) {}
+  ReportRun(std::ifstream stream, std::string name)
+      : stream_(std::move(stream)), name_(std::move(name)), frames_(stream_) {}
 
   const Json& run() const override { return frames_.run(); }
 

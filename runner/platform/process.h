@@ -18,7 +18,7 @@ std::vector<std::string> commandLineWords(int count, char** words);
 void prepareStandardStreams();
 
 /// Lets freed memory stay with this process up to a bound, so that frames that take as much each
-/// needn't be given it anew, page by page. To be called once.
+/// needn't be given it anew, page by page. To be called once, before there are other threads.
 void keepFreedMemory() noexcept;
 
 /// Takes the standard output for what the program itself writes to the returned stream; what others

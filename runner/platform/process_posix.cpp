@@ -23,8 +23,9 @@ std::vector<std::string> commandLineWords(int count, char** words) {
 void prepareStandardStreams() {}
 
 void keepFreedMemory() noexcept {
-  ::mallopt(M_TRIM_THRESHOLD, mostKept);
-  ::mallopt(M_MMAP_THRESHOLD, leastReturned);
+  // There are no other threads yet.
+  ::mallopt(M_TRIM_THRESHOLD, mostKept);       // NOLINT(concurrency-mt-unsafe)
+  ::mallopt(M_MMAP_THRESHOLD, leastReturned);  // NOLINT(concurrency-mt-unsafe)
 }
 
 std::FILE* takeStandardOutput() {
