@@ -65,7 +65,7 @@ def no_worker_loads():
     expect("no worker loads", (output, errors, code),
            ("", "vtlcmd: the frames' processes can't be started: a process "
             f"{CRASHED}\n", 1))
-    (folder / "loaded").unlink()
+    (folder / "loaded").rmdir()
 
 
 run_tests(a_death_costs_its_frame, time_is_limited, the_first_failure_ends_it,

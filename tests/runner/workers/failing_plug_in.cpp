@@ -2,9 +2,11 @@
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
+#include <filesystem>
 #include <new>
 #include <string>
 #include <string_view>
+#include <system_error>
 #include <thread>
 
 #include "host/host_records.h"
@@ -19,12 +21,11 @@
 namespace vtlcmd::failing {
 namespace {
 
-/// True once, over all processes: the environment names a file that marks it.
+/// True once, over all processes: the environment names a folder that marks it.
 bool isFirst(const char* variable) {
   const char* const name = std::getenv(variable);
-  std::FILE* const mark = name == nullptr ? nullptr : std::fopen(name, "wx");
-  if (mark != nullptr) std::fclose(mark);
-  return mark != nullptr;
+  std::error_code ignored;
+  return name != nullptr && std::filesystem::create_directory(name, ignored);
 }
 
 void say(const char* text) {
