@@ -42,7 +42,7 @@ install(FILES cmake/vtlcmd-config.cmake ${CMAKE_BINARY_DIR}/vtlcmd-config-versio
 configure_file(cmake/vtlcmd.pc.in vtlcmd.pc @ONLY)
 install(FILES ${CMAKE_BINARY_DIR}/vtlcmd.pc DESTINATION lib/pkgconfig)
 
-install(FILES README.md CHANGELOG.md DESTINATION share/doc/vtlcmd)
+install(FILES README.md CHANGELOG.md LICENSE cmake/copyright DESTINATION share/doc/vtlcmd)
 install(DIRECTORY docs DESTINATION share/doc/vtlcmd FILES_MATCHING PATTERN *.md PATTERN *.png)
 # The examples name their schema by its relative path.
 install(DIRECTORY docs DESTINATION share/vtlcmd FILES_MATCHING PATTERN *.schema.json)

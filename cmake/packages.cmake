@@ -3,8 +3,8 @@ set(CPACK_GENERATOR DEB TGZ)
 set(CPACK_PACKAGE_VERSION ${PROJECT_VERSION})
 set(CPACK_PACKAGE_FILE_NAME
   ${PROJECT_NAME}-${PROJECT_VERSION}-${CMAKE_SYSTEM_NAME}-${CMAKE_SYSTEM_PROCESSOR})
-set(CPACK_PACKAGE_VENDOR "vtlcmd developers")
-set(CPACK_PACKAGE_CONTACT "vtlcmd developers <vtlcmd@localhost>")
+set(CPACK_PACKAGE_VENDOR "the vtlcmd authors")
+set(CPACK_PACKAGE_CONTACT "the vtlcmd authors <vtlcmd@localhost>")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "runner of compute graphs with its type translation plug-in")
 set(CPACK_PACKAGE_DESCRIPTION
 "Runs compute graphs from the command line: text becomes typed values for the

@@ -31,6 +31,10 @@ for file in bash-completion/completions/vtlcmd zsh/vendor-completions/_vtlcmd \
   [[ -s share/$file ]] || fail "there is no share/$file"
 done
 
+for file in LICENSE copyright; do
+  [[ -s share/doc/vtlcmd/$file ]] || fail "there is no share/doc/vtlcmd/$file"
+done
+
 with_path=$(printf '%s\n' "$source_folder"/{build,src,closed,runner}/ | grep -rlF -f - . || true)
 [[ -z $with_path ]] || fail "a path of the build is in $with_path"
 
