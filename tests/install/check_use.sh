@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # check_use.sh PREFIX: runs the program that is installed there, in an environment without
 # variables. Then builds the host beside this script with nothing but what is installed there, by
-# the CMake package and by the command of the README, and compares what it prints.
+# the CMake package and by the command of docs/installing.md, and compares what it prints.
 set -euo pipefail
 tests=$(cd "$(dirname "$0")/.." && pwd)
 prefix=$1
@@ -23,7 +23,7 @@ cmake --build build
 build/host | diff expected.txt -
 
 export PKG_CONFIG_LIBDIR=$prefix/lib/pkgconfig
-command=$(sed -n '/^\$ g++ /,/[^\\]$/{s/^\$ //;p}' "$tests/../README.md")
+command=$(sed -n '/^\$ g++ /,/[^\\]$/{s/^\$ //;p}' "$tests/../docs/installing.md")
 echo "$command"
 eval "$command"
 ./host | diff expected.txt -
