@@ -24,13 +24,16 @@ MARK = "=== end of command"
 
 def read_commands(document):
     """Pairs of a command and the lines that it is said to print; each error ends the test."""
-    commands, fence = [], None
+    commands, fence, indent = [], None, 0
     for number, line in enumerate(document.read_text(encoding="utf-8").splitlines(), 1):
-        if line.startswith("```"):
-            fence = line[3:] if fence is None else None
-        elif line.startswith("$ ") and fence not in ("console", "console elsewhere"):
+        if line.lstrip().startswith("```"):
+            indent = len(line) - len(line.lstrip())
+            fence = line.strip()[3:] if fence is None else None
+            continue
+        line = line[indent:] if fence is not None else line.lstrip()
+        if line.startswith("$ ") and fence not in ("console", "console elsewhere"):
             sys.exit(f"{document}:{number}: a command in a block that isn't fenced as console")
-        elif fence != "console":
+        if fence != "console":
             continue
         elif line.startswith("$ "):
             commands.append((line[2:], []))
