@@ -3,7 +3,7 @@
 A row of its tables is a text, what it is, and the files that it is said in. Words in capitals that
 stand in the list of the page are what a message fills in. A text of a source that is shown to people
 must be part of a row that names the file; and what stands between the capitals of a row must be made
-of the texts of the files that it names.
+of the texts of the files that it names, and at its level something is said there.
 """
 
 import argparse
@@ -74,7 +74,7 @@ def expected_texts(root):
 
 
 def read_rows(page):
-    """The placeholders of the page, and rows of its tables: text, files, number of the line."""
+    """The placeholders of the page, and rows of its tables: text, level, files, number of the line."""
     words, rows = [], []
     for number, line in enumerate(page.read_text(encoding="utf-8").splitlines(), 1):
         if line.startswith("Filled in:"):
@@ -82,7 +82,7 @@ def read_rows(page):
         cells = [cell.strip() for cell in re.split(r"(?<!\\)\|", line)]
         if len(cells) == 5 and cells[1].startswith("`"):
             text = cells[1].strip("`").strip("\xa0").replace("\\|", "|")
-            rows.append((text, re.findall(r"`([^`]+)`", cells[3]), number))
+            rows.append((text, cells[2], re.findall(r"`([^`]+)`", cells[3]), number))
     return words, rows
 
 
@@ -95,10 +95,10 @@ def main():
     failures = []
     for name, text in expected_texts(root):
         wanted = text.strip()
-        if is_message(text) and not any(name in files and wanted in row for row, files, _ in rows):
+        if is_message(text) and not any(name in files and wanted in row for row, _, files, _ in rows):
             failures.append(f"{page}: no row has {text!r} of {name}")
     placeholder = re.compile("|".join(rf"(?<![A-Z]){word}(?![A-Z])" for word in words))
-    for row, files, number in rows:
+    for row, level, files, number in rows:
         missing = [name for name in files if not (root / name).is_file()]
         texts = {text.strip() for name in files if name not in missing
                  for _, texts in statements(root / name) for text in texts if text.strip()}
@@ -107,7 +107,11 @@ def main():
             if is_message(piece) and re.fullmatch(rf"(?:{pieces}|[\s',])+", piece.strip()) is None:
                 failures.append(f"{page}:{number}: none of the files says {piece!r}")
         failures += [f"{page}:{number}: there is no {name}" for name in missing]
-    print("\n".join(failures))
+        word = re.match(r"critical|error|warning|progress|verbose", level)
+        if word and files and files[0].startswith("src/") and not missing and not any(
+                f"level{word[0].capitalize()}" in (root / name).read_text() for name in files):
+            failures.append(f"{page}:{number}: none of the files says anything at level {word[0]}")
+    print(*failures, sep="\n", end="")
     return 1 if failures or not rows else 0
 
 
