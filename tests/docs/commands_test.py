@@ -35,7 +35,7 @@ def read_commands(document):
             sys.exit(f"{document}:{number}: a command in a block that isn't fenced as console")
         if fence != "console":
             continue
-        elif line.startswith("$ "):
+        if line.startswith("$ "):
             commands.append((line[2:], []))
         elif commands and not commands[-1][1] and commands[-1][0].endswith("\\"):
             commands[-1] = (commands[-1][0] + "\n" + line, [])
