@@ -1,7 +1,9 @@
 # Every target of the project links this.
 add_library(project_options INTERFACE)
 target_compile_options(project_options INTERFACE
-  -Wall -Wextra -Wpedantic -Wconversion -Wshadow
+  -Wall -Wextra -Wpedantic -Wconversion
+  # In a unity build a local name may be that of another source.
+  $<$<NOT:$<BOOL:${CMAKE_UNITY_BUILD}>>:-Wshadow>
   # Sums and averages are rounded step by step; a fused multiply-add would round once.
   -ffp-contract=off
   # g++ 12 sees overlaps in the concatenation of standard strings that aren't there.

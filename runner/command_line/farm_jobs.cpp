@@ -22,7 +22,7 @@
 namespace vtlcmd::runner {
 namespace {
 
-constexpr std::chrono::seconds pollTime{2};
+constexpr std::chrono::seconds reportPollTime{2};
 
 /// How many times a file is looked for before the scheduler is asked once; it serves many users.
 constexpr int looksPerQuestion = 8;
@@ -49,7 +49,7 @@ std::optional<int> awaitReportedCode(const FarmFolder& folder, std::size_t submi
     if (deadline && now > *deadline) return std::nullopt;
     if (!deadline && look % looksPerQuestion == 0 && hasEnded(job))
       deadline = now + networkFileTime;
-    std::this_thread::sleep_for(pollTime);
+    std::this_thread::sleep_for(reportPollTime);
   }
 }
 

@@ -77,6 +77,10 @@ std::uint64_t parseElements(const std::string& text) {
   throw UsageError("--elements takes a number or 'all', not " + inQuotes(text));
 }
 
+bool isOneOf(const std::string& word, std::span<const char* const> names) {
+  return std::find(names.begin(), names.end(), word) != names.end();
+}
+
 HostPath parsePath(const std::string& option, const std::string& text) {
   try {
     return widePath(text);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
 #include <string>
 
 #include "diff/tolerance.h"
@@ -28,6 +29,8 @@ std::uint64_t parseElements(const std::string& text);
 /// How far numbers may be apart: `ABS` or `ABS,REL`, both finite and at least zero. Throws
 /// UsageError.
 Tolerance parseTolerance(const std::string& text);
+
+bool isOneOf(const std::string& word, std::span<const char* const> names);
 
 /// A path as the plug-in wants it. Throws UsageError, which names the option, for a text that can't
 /// be converted.

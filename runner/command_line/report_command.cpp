@@ -53,7 +53,7 @@ void write(const ReportCommandOptions& options, Journals& journals, const Journa
   }
 }
 
-JournalSurvey survey(Journals& journals) {
+JournalSurvey surveyOfJob(Journals& journals) {
   try {
     return surveyJournals(journals);
   } catch (const ForeignJournal& error) {
@@ -73,7 +73,7 @@ ExitCode report(const ReportCommandOptions& options) {
   for (const std::string& journal : options.journals) files.push_back(filePath(journal));
   OutputTargets(std::move(files)).add("-o", options.output);
   Journals journals(options.journals);
-  JournalSurvey survey = vtlcmd::runner::survey(journals);
+  JournalSurvey survey = surveyOfJob(journals);
   if (options.noTimes) dropTimes(survey);
   try {
     write(options, journals, survey);

@@ -4,6 +4,7 @@
 #include <array>
 #include <span>
 
+#include "command_line/option_values.h"
 #include "command_line/usage_error.h"
 #include "text/library_text.h"
 
@@ -14,10 +15,6 @@ namespace {
 constexpr std::array ownNames{"--array", "--dependency", "--wait",     "--parsable",
                               "--wrap",  "--output",     "--open-mode"};
 constexpr std::array ownLetters{"-a", "-d", "-W", "-o"};
-
-bool isOneOf(const std::string& word, std::span<const char* const> names) {
-  return std::find(names.begin(), names.end(), word) != names.end();
-}
 
 bool isOwn(const std::string& word) {
   if (word.starts_with("--")) return isOneOf(word.substr(0, word.find('=')), ownNames);

@@ -5,6 +5,7 @@
 #include <iostream>
 #include <span>
 
+#include "command_line/option_values.h"
 #include "command_line/output_targets.h"
 #include "command_line/scheduler_words.h"
 #include "command_line/usage_error.h"
@@ -39,10 +40,6 @@ std::optional<std::size_t> parseChunk(const SubmitOptions& options) {
 
 double parseChunkSeconds(const SubmitOptions& options) {
   return parseAboveZero<double>("--chunk-seconds", "a number of seconds", options.chunkSeconds);
-}
-
-bool isOneOf(const std::string& word, std::span<const char* const> names) {
-  return std::find(names.begin(), names.end(), word) != names.end();
 }
 
 std::string nameOf(const CLI::Option& option) { return option.get_lnames().front(); }

@@ -4,26 +4,21 @@
 #include <random>
 #include <system_error>
 
+#include "text/system_reason.h"
+
 namespace vtlcmd::runner {
-namespace {
-
-[[noreturn]] void throwLast() {
-  throw std::system_error(errno != 0 ? errno : EIO, std::generic_category());
-}
-
-}  // namespace
 
 JournalFile::JournalFile(const std::filesystem::path& file) : file_(file) {
   errno = 0;
   stream_.open(file, std::ios::in | std::ios::out | std::ios::binary | std::ios::trunc);
-  if (!stream_) throwLast();
+  if (!stream_) throwLastError();
 }
 
 JournalFile::JournalFile(const std::filesystem::path& file, std::uint64_t size) : file_(file) {
   std::filesystem::resize_file(file, size);
   errno = 0;
   stream_.open(file, std::ios::in | std::ios::out | std::ios::binary | std::ios::ate);
-  if (!stream_) throwLast();
+  if (!stream_) throwLastError();
 }
 
 JournalFile JournalFile::temporary() {
@@ -40,7 +35,7 @@ JournalFile JournalFile::temporary() {
 void JournalFile::append(const std::string& line) {
   errno = 0;
   stream_ << line << std::flush;
-  if (!stream_) throwLast();
+  if (!stream_) throwLastError();
 }
 
 std::istream& JournalFile::lines() {

@@ -92,18 +92,18 @@ Orvel::Value evaluateOne(const NodeCall& call) {
   });
 }
 
-const std::vector<Parameter> two{{"a", &type_classes::arithmetic},
-                                 {"b", &type_classes::arithmetic}};
+const std::vector<Parameter> twoOperands{{"a", &type_classes::arithmetic},
+                                         {"b", &type_classes::arithmetic}};
 const std::vector<Parameter> one{{"x", &type_classes::floating}};
 
 const NodeOperation arithmeticOperations[] = {
-    {"add", two, NodeSetting::none, resultOfTwo, evaluateTwo<add>,
+    {"add", twoOperands, NodeSetting::none, resultOfTwo, evaluateTwo<add>,
      "a + b, by element and component; integers wrap around."},
-    {"subtract", two, NodeSetting::none, resultOfTwo, evaluateTwo<subtract>,
+    {"subtract", twoOperands, NodeSetting::none, resultOfTwo, evaluateTwo<subtract>,
      "a - b, by element and component; integers wrap around."},
-    {"multiply", two, NodeSetting::none, resultOfTwo, evaluateTwo<multiply>,
+    {"multiply", twoOperands, NodeSetting::none, resultOfTwo, evaluateTwo<multiply>,
      "a * b, by element and component; integers wrap around."},
-    {"divide", two, NodeSetting::none, resultOfTwo, evaluateTwo<divide>,
+    {"divide", twoOperands, NodeSetting::none, resultOfTwo, evaluateTwo<divide>,
      "a / b, by element and component; integers are cut towards zero."},
     {"sine", one, NodeSetting::none, sameAsArgument, evaluateOne<sine>, "The sine of x radians."},
     {"cosine", one, NodeSetting::none, sameAsArgument, evaluateOne<cosine>,

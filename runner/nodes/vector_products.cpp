@@ -38,7 +38,7 @@ T crossProduct(const T& a, const T& b) {
   return T{{minor(1, 2), minor(2, 0), minor(0, 1)}};
 }
 
-ValueType commonType(const NodeTypes& types) {
+ValueType commonVectorType(const NodeTypes& types) {
   if (types[0].element != types[1].element) {
     throw std::invalid_argument(nameOf(types[0]) + " and " + nameOf(types[1]) +
                                 " don't go together; convert one");
@@ -47,7 +47,7 @@ ValueType commonType(const NodeTypes& types) {
 }
 
 ValueType dotType(const NodeTypes& types) {
-  const ValueType common = commonType(types);
+  const ValueType common = commonVectorType(types);
   return {std::string(componentOf(common.element)), common.depth};
 }
 
@@ -58,7 +58,7 @@ ValueType crossType(const NodeTypes& types) {
     throw std::invalid_argument(nameOf(types[0]) +
                                 " has no cross product; vectors of three components have");
   }
-  return commonType(types);
+  return commonVectorType(types);
 }
 
 Orvel::Value magnitude(const NodeCall& call) {
@@ -102,7 +102,8 @@ Orvel::Value cross(const NodeCall& call) {
   });
 }
 
-const std::vector<Parameter> two{{"a", &type_classes::vectors}, {"b", &type_classes::vectors}};
+const std::vector<Parameter> twoVectors{{"a", &type_classes::vectors},
+                                        {"b", &type_classes::vectors}};
 
 const NodeOperation vectorProductOperations[] = {
     {"magnitude",
@@ -111,9 +112,9 @@ const NodeOperation vectorProductOperations[] = {
      componentType,
      magnitude,
      "The length of a vector, or of each vector in an array, computed as double."},
-    {"dot", two, NodeSetting::none, dotType, dot,
+    {"dot", twoVectors, NodeSetting::none, dotType, dot,
      "The dot product of two vectors, by element, computed as double."},
-    {"cross", two, NodeSetting::none, crossType, cross,
+    {"cross", twoVectors, NodeSetting::none, crossType, cross,
      "The cross product of two vectors of three components, by element, computed as double."},
 };
 

@@ -14,9 +14,10 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-constexpr std::array factNames{"index",       "frame",        "succeeded",        "failure",
-                               "inputs_set",  "executed",     "outputs_reported", "without_errors",
-                               "interrupted", "graph_errors", "graph_warnings"};
+constexpr std::array factColumns{
+    "index",       "frame",        "succeeded",        "failure",
+    "inputs_set",  "executed",     "outputs_reported", "without_errors",
+    "interrupted", "graph_errors", "graph_warnings"};
 constexpr std::array timeNames{"host", "worker", "attempts", "started", "seconds"};
 
 std::string quoted(const std::string& text) {
@@ -101,7 +102,7 @@ void writeCells(std::ostream& stream, const Json& object, const Names& names, bo
 }
 
 void writeHead(std::ostream& stream, const OutputColumns& columns, bool withTimes) {
-  std::vector<std::string> names(factNames.begin(), factNames.end());
+  std::vector<std::string> names(factColumns.begin(), factColumns.end());
   if (withTimes) names.insert(names.end(), timeNames.begin(), timeNames.end());
   for (const std::string& name : columns.names({names.begin(), names.end()}))
     names.push_back(quoted(name));
@@ -123,7 +124,7 @@ void writeCsvReport(std::ostream& stream, Journals& journals, const JournalSurve
   writeHead(stream, columns, withTimes);
   for (FrameReader reader(journals, survey); reader.next();) {
     const Json frame = reader.parse(reader.line().content);
-    writeCells(stream, frame, factNames, true);
+    writeCells(stream, frame, factColumns, true);
     if (withTimes) {
       Json times = reader.parse(reader.line().times);
       times["host"] = reader.run().host();

@@ -9,7 +9,7 @@ namespace {
 
 constexpr char32_t replacement = 0xFFFD;
 
-bool isControl(char32_t character) {
+bool isUnprintable(char32_t character) {
   return (character < 0x20 && character != '\n' && character != '\t') ||
          (character >= 0x7F && character < 0xA0);
 }
@@ -32,7 +32,7 @@ void append(std::string& html, char32_t character) {
       html += "&#39;";
       break;
     default:
-      appendCharacter(html, isControl(character) ? replacement : character);
+      appendCharacter(html, isUnprintable(character) ? replacement : character);
   }
 }
 

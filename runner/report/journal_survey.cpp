@@ -49,7 +49,7 @@ void countMessages(JournalSurvey& survey, const Json& messages) {
   }
 }
 
-JournalSurvey survey(Journals& journals) {
+JournalSurvey surveyOf(Journals& journals) {
   ReportedRuns reported = readRuns(journals);
   JournalSurvey survey;
   survey.runs = std::move(reported.runs);
@@ -81,7 +81,7 @@ std::string JournalSurvey::outcome() const {
 
 JournalSurvey surveyJournals(Journals& journals) {
   try {
-    return survey(journals);
+    return surveyOf(journals);
   } catch (const Json::exception&) {
     throw JournalError(journals.name(0) + " lacks something that journals have");
   } catch (const FrameListError& error) {

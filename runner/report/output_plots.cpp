@@ -9,9 +9,9 @@ namespace {
 using Json = nlohmann::ordered_json;
 
 /// More points than this can't be told apart at the picture's size.
-constexpr std::uint64_t mostPoints = 1000;
+constexpr std::uint64_t mostPlotted = 1000;
 
-constexpr std::array componentNames{"x", "y", "z", "w"};
+constexpr std::array componentSymbols{"x", "y", "z", "w"};
 
 /// What an array's exact value calls its statistics, and what the report text calls them.
 constexpr std::array<std::pair<const char*, const char*>, 3> statistics{
@@ -34,7 +34,7 @@ std::string exactText(const Json& number) {
 }  // namespace
 
 OutputPlots::OutputPlots(std::uint64_t frameCount)
-    : stretch_(frameCount <= mostPoints ? 1 : (2 * frameCount + mostPoints - 1) / mostPoints) {}
+    : stretch_(frameCount <= mostPlotted ? 1 : (2 * frameCount + mostPlotted - 1) / mostPlotted) {}
 
 void OutputPlots::add(std::uint64_t index, double frame, const Json& value) {
   const Place place{index / stretch_, frame};
@@ -58,8 +58,8 @@ void OutputPlots::addValue(const Place& place, const std::string& title, const J
       if (value.contains(key)) addStatistic(place, title, name, value[key]);
     }
   } else if (value.is_array()) {
-    for (std::size_t i = 0; i < std::min(value.size(), componentNames.size()); ++i)
-      addNumber(place, title, componentNames[i], value[i]);
+    for (std::size_t i = 0; i < std::min(value.size(), componentSymbols.size()); ++i)
+      addNumber(place, title, componentSymbols[i], value[i]);
   } else {
     addNumber(place, title, "value", value);
   }
@@ -69,8 +69,8 @@ void OutputPlots::addValue(const Place& place, const std::string& title, const J
 void OutputPlots::addStatistic(const Place& place, const std::string& title, const char* name,
                                const Json& value) {
   if (!value.is_array()) return addNumber(place, title, name, value);
-  for (std::size_t i = 0; i < std::min(value.size(), componentNames.size()); ++i)
-    addNumber(place, title + (title.empty() ? "" : " ") + componentNames[i], name, value[i]);
+  for (std::size_t i = 0; i < std::min(value.size(), componentSymbols.size()); ++i)
+    addNumber(place, title + (title.empty() ? "" : " ") + componentSymbols[i], name, value[i]);
 }
 
 /// Numbers that aren't finite leave gaps; truths and nothing are no numbers.

@@ -12,6 +12,7 @@
 #include "journal/process_identity.h"
 #include "platform/writable_folder.h"
 #include "text/path_text.h"
+#include "text/system_reason.h"
 
 namespace vtlcmd::runner {
 namespace {
@@ -62,10 +63,6 @@ std::uint64_t processOf(std::string_view name, std::string_view beginning) {
   std::uint64_t process = 0;
   const auto [stop, error] = std::from_chars(name.data(), name.data() + name.size(), process);
   return error == std::errc() && *stop == '-' ? process : 0;
-}
-
-[[noreturn]] void throwLast() {
-  throw std::system_error(errno != 0 ? errno : EIO, std::generic_category());
 }
 
 }  // namespace
@@ -119,7 +116,7 @@ WholeFile::WholeFile(const fs::path& file)
     : file_(linkTarget(file)), partial_(canBeReplaced(file_) ? besideFile(file_) : file_) {
   errno = 0;
   if (buffer_.open(partial_, std::ios::out | std::ios::binary | std::ios::trunc) == nullptr)
-    throwLast();
+    throwLastError();
 }
 
 WholeFile::~WholeFile() {
@@ -132,7 +129,7 @@ void WholeFile::commit() {
   errno = 0;
   if (buffer_.close() == nullptr || !stream_) {
     if (buffer_.failure() != 0) errno = buffer_.failure();
-    throwLast();
+    throwLastError();
   }
   if (partial_ != file_) {
     std::error_code ignored;

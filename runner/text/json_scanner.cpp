@@ -6,7 +6,7 @@
 namespace vtlcmd::runner {
 namespace {
 
-constexpr std::string_view blanks = " \t\r\n";
+constexpr std::string_view jsonBlanks = " \t\r\n";
 
 bool isIn(std::string_view characters, std::istream::int_type found) {
   return characters.find(std::istream::traits_type::to_char_type(found)) != std::string_view::npos;
@@ -37,7 +37,7 @@ bool JsonScanner::isAtEnd() {
 }
 
 void JsonScanner::skipBlanks() {
-  while (bytes_.sgetc() != Traits::eof() && isIn(blanks, bytes_.sgetc())) bytes_.sbumpc();
+  while (bytes_.sgetc() != Traits::eof() && isIn(jsonBlanks, bytes_.sgetc())) bytes_.sbumpc();
 }
 
 char JsonScanner::next(std::string* text) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cerrno>
 #include <new>
 #include <string>
 #include <system_error>
@@ -9,6 +10,12 @@ namespace vtlcmd::runner {
 /// What the system says of an error, in the same words on every platform.
 inline std::string reasonOf(const std::system_error& error) {
   return error.code().default_error_condition().message();
+}
+
+/// Throws what the last failed call of a stream left in errno; an input or output error where that
+/// is nothing.
+[[noreturn]] inline void throwLastError() {
+  throw std::system_error(errno != 0 ? errno : EIO, std::generic_category());
 }
 
 /// Whether there may be room at another time.

@@ -8,7 +8,7 @@ namespace {
 /// In seconds. A tenth of it is as good as nothing, and long for a message.
 constexpr double chunkTime = 0.05;
 constexpr double scarceTime = 0.005;
-constexpr double mostFrames = 1000;
+constexpr double mostOfChunk = 1000;
 /// What the newest frame weighs in the average.
 constexpr double weight = 0.2;
 
@@ -22,7 +22,7 @@ void ChunkSize::addMeasurement(double secondsOfFrame) {
 
 std::size_t ChunkSize::next(std::size_t before, std::size_t left) const {
   if (!seconds_) return 1;
-  const double inTime = *seconds_ > 0 ? std::min(chunkTime / *seconds_, mostFrames) : mostFrames;
+  const double inTime = *seconds_ > 0 ? std::min(chunkTime / *seconds_, mostOfChunk) : mostOfChunk;
   // The last ones are shared by all.
   const std::size_t share = left / (2 * std::size_t{workers_});
   return std::max<std::size_t>(1, std::min({static_cast<std::size_t>(inTime), 2 * before, share}));

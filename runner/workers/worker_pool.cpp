@@ -13,7 +13,7 @@ namespace vtlcmd::runner {
 namespace {
 
 /// How long an interrupt waits to be noticed.
-constexpr std::chrono::milliseconds pollTime{100};
+constexpr std::chrono::milliseconds workerPollTime{100};
 /// How long processes have to end by themselves that have nothing more to do.
 constexpr std::chrono::seconds partingTime{5};
 constexpr unsigned mostFailedStarts = 3;
@@ -105,7 +105,7 @@ void WorkerPool::give(Worker& worker, const std::vector<std::size_t>& places) {
 }
 
 void WorkerPool::waitForNews() {
-  Clock::time_point deadline = Clock::now() + pollTime;
+  Clock::time_point deadline = Clock::now() + workerPollTime;
   std::vector<ChildProcess*> heard;
   for (const std::unique_ptr<Worker>& worker : workers_) {
     if (!worker) continue;

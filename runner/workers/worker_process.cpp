@@ -9,7 +9,7 @@ namespace vtlcmd::runner {
 namespace {
 
 /// A pipe holds no more.
-constexpr std::size_t blockSize = std::size_t{1} << 16U;
+constexpr std::size_t pipeSize = std::size_t{1} << 16U;
 /// Of what a frame says more is cut at the front.
 constexpr std::size_t mostSaid = std::size_t{1} << 20U;
 
@@ -28,7 +28,7 @@ WorkerProcess::WorkerProcess(const std::filesystem::path& program, const std::st
 }
 
 std::optional<std::size_t> WorkerProcess::receive() {
-  std::array<unsigned char, blockSize> block;
+  std::array<unsigned char, pipeSize> block;
   const std::optional<std::size_t> count = process_.read(block, ChildProcess::now);
   if (count) news_.append(textOf({block.data(), *count}));
   takeErrors();
@@ -38,8 +38,8 @@ std::optional<std::size_t> WorkerProcess::receive() {
 
 /// What was said before the news that are here already is in the pipe at the latest.
 void WorkerProcess::takeErrors() {
-  std::array<unsigned char, blockSize> block;
-  for (std::size_t taken = 0; taken < blockSize;) {
+  std::array<unsigned char, pipeSize> block;
+  for (std::size_t taken = 0; taken < pipeSize;) {
     const std::optional<std::size_t> count =
         process_.read(block, ChildProcess::now, ChildOutput::errors);
     if (!count || *count == 0) return;

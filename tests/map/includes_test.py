@@ -107,6 +107,11 @@ class Map:
     def check_tests(self, build):
         commands = json.loads((build / "compile_commands.json").read_text(encoding="utf-8"))
         compiled = {pathlib.Path(command["file"]).resolve() for command in commands}
+        # In a unity build, files that include several sources each.
+        for file in [file for file in compiled if file.name.startswith("unity_")]:
+            compiled |= {pathlib.Path(line.split('"')[1]).resolve()
+                         for line in file.read_text(encoding="utf-8").splitlines()
+                         if line.startswith("#include")}
         for file in sorted((self.root / "tests").rglob("*_test.cpp")):
             if not file.name.endswith("_windows_test.cpp") and file.resolve() not in compiled:
                 self.problems.append(f"{file.relative_to(self.root)} is in no test program")

@@ -38,13 +38,13 @@ void speaksWith(Session& session, const char* value) {
   expect(std::regex_match(line, form), "one line of the banner's form, found \"" + line + '"');
 }
 
-struct Row {
+struct BannerRow {
   const char* name;
   const char* value;
   bool speaks;
 };
 
-constexpr Row rows[]{
+constexpr BannerRow bannerRows[]{
     {"absent", nullptr, false},
     {"zero", "0", false},
     {"empty", "", false},
@@ -60,7 +60,7 @@ constexpr Row rows[]{
 }  // namespace
 
 void addBannerChecks(CheckList& checks) {
-  for (const Row& row : rows) {
+  for (const BannerRow& row : bannerRows) {
     checks.push_back(
         {std::string("banner-") + row.name,
          row.speaks ? "Such a value of the variable has the version told at load, once."

@@ -9,7 +9,7 @@ namespace vtlcmd::validator {
 namespace {
 
 /// A text and how its value reads, by type; null where the type refuses it.
-struct Row {
+struct NumberTextRow {
   const char* name;
   const char* text;
   const char* asInt;
@@ -23,7 +23,7 @@ struct Row {
 
 constexpr const char* no = nullptr;
 
-constexpr Row rows[]{
+constexpr NumberTextRow numberTextRows[]{
     // clang-format off
     {"empty", "", no, no, no, no, no, no, no},
     {"blanks", "   ", no, no, no, no, no, no, no},
@@ -80,7 +80,7 @@ constexpr Row rows[]{
 };
 
 template <Registered T>
-void expectAnswer(Session& session, const Row& row, const char* report) {
+void expectAnswer(Session& session, const NumberTextRow& row, const char* report) {
   const auto& type = valueType<T>();
   const std::string name = type.name;
   PortHost host(session);
@@ -95,7 +95,7 @@ void expectAnswer(Session& session, const Row& row, const char* report) {
   expect((anyCast<T>(&host.value) != nullptr) == answer, "the result of " + name + " goes with it");
 }
 
-void expectAnswers(Session& session, const Row& row) {
+void expectAnswers(Session& session, const NumberTextRow& row) {
   expectAnswer<std::int32_t>(session, row, row.asInt);
   expectAnswer<std::uint32_t>(session, row, row.asUint);
   expectAnswer<std::int64_t>(session, row, row.asLong);
@@ -108,7 +108,7 @@ void expectAnswers(Session& session, const Row& row) {
 }  // namespace
 
 void addNumberTextChecks(CheckList& checks) {
-  for (const Row& row : rows) {
+  for (const NumberTextRow& row : numberTextRows) {
     checks.push_back({std::string("number-text-") + row.name,
                       "Each scalar port takes or refuses such a text by the rules of its type.",
                       [&row](Session& session) { expectAnswers(session, row); }});

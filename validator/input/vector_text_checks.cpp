@@ -10,14 +10,14 @@ namespace {
 
 /// A text for a port of three floats: how its value reads, or the pieces that its messages quote.
 /// Neither means a wrong number of pieces.
-struct Row {
+struct VectorTextRow {
   const char* name;
   const char* text;
   const char* report;
   std::vector<const char*> badPieces;
 };
 
-const Row rows[]{
+const VectorTextRow vectorTextRows[]{
     {"plain", "1,2,3", "{1, 2, 3}", {}},
     {"blanks", "1, 2 ,\t3", "{1, 2, 3}", {}},
     {"floating", "1e3,0x10,-.5", "{1000, 16, -0.5}", {}},
@@ -38,7 +38,7 @@ const Row rows[]{
     {"not-finite", "inf,0,nan", nullptr, {"inf", "nan"}},
 };
 
-void expectAnswer(Session& session, const Row& row) {
+void expectAnswer(Session& session, const VectorTextRow& row) {
   const std::string prefix = "error Input port 'port' (Math::float3): ";
   std::vector<std::string> lines;
   if (row.report != nullptr) {
@@ -68,7 +68,7 @@ void doublesReachFurther(Session& session) {
 }  // namespace
 
 void addVectorTextChecks(CheckList& checks) {
-  for (const Row& row : rows) {
+  for (const VectorTextRow& row : vectorTextRows) {
     checks.push_back({std::string("vector-text-") + row.name,
                       "A Math::float3 port takes or refuses such a text by the rules of vectors.",
                       [&row](Session& session) { expectAnswer(session, row); }});

@@ -9,13 +9,13 @@
 namespace vtlcmd::validator {
 namespace {
 
-struct Row {
+struct ValueTextRow {
   const char* name;
   double value;
   const char* text;
 };
 
-constexpr Row rows[]{
+constexpr ValueTextRow valueTextRows[]{
     {"whole", 1, "1"},
     {"fraction", 2.5, "2.5"},
     {"thirds", 8.0 / 3, "2.66667"},
@@ -32,7 +32,7 @@ constexpr Row rows[]{
     {"subnormal", 5e-324, "4.94066e-324"},
 };
 
-void numberReads(Session& session, const Row& row) {
+void numberReads(Session& session, const ValueTextRow& row) {
   PortHost host(session);
   expect(host.reportAny(makeAny(row.value)) && host.reportValue(Orvel::makeValue(row.value)),
          "the answers are true");
@@ -105,7 +105,7 @@ void portNamesStandBare(Session& session) {
 }  // namespace
 
 void addValueTextChecks(CheckList& checks) {
-  for (const Row& row : rows) {
+  for (const ValueTextRow& row : valueTextRows) {
     checks.push_back(
         {std::string("value-text-") + row.name,
          "A floating number reads with six significant digits, the same in all widths.",

@@ -12,7 +12,7 @@ namespace {
 
 /// An array and what its block says.
 template <typename T>
-struct Row {
+struct StatisticsRow {
   const char* name;
   std::vector<T> elements;
   const char* minimum;
@@ -21,7 +21,7 @@ struct Row {
 };
 
 template <typename T>
-void blockReads(Session& session, const Row<T>& row) {
+void blockReads(Session& session, const StatisticsRow<T>& row) {
   const std::string name = valueType<T>().name;
   PortHost host(session);
   expect(host.reportAny(makeAny(arrayOf<T>(row.elements))), "the answer is true");
@@ -33,8 +33,8 @@ void blockReads(Session& session, const Row<T>& row) {
 }
 
 template <typename T>
-void add(CheckList& checks, std::vector<Row<T>> rows) {
-  for (Row<T>& row : rows) {
+void add(CheckList& checks, std::vector<StatisticsRow<T>> rows) {
+  for (StatisticsRow<T>& row : rows) {
     checks.push_back({"statistics-" + nameOfType(valueType<T>().name) + "-" + row.name,
                       std::string("The block of such an array of ") + valueType<T>().name +
                           " is exact to the character.",
