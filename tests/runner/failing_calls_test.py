@@ -17,9 +17,8 @@ import tempfile
 from expectations import expect, fail, finish
 
 parser = argparse.ArgumentParser(description=__doc__)
-parser.add_argument("--program", required=True)
+parser.add_argument("--program", required=True, help="whose calls can be made to fail")
 parser.add_argument("--folder", required=True)
-parser.add_argument("--library", required=True, help="that lets calls fail")
 parser.add_argument("--tries", type=int, default=40, help="of each run and kind of call; 0 for all")
 arguments = parser.parse_args()
 
@@ -39,10 +38,6 @@ def vtlcmd(words, **environment):
     return subprocess.run([arguments.program, *words], cwd=arguments.folder, text=True, errors="replace",
                           stdin=subprocess.DEVNULL, capture_output=True, timeout=SECONDS,
                           env={**os.environ, **environment})
-
-
-def preload(call, **more):
-    return {"LD_PRELOAD": str(pathlib.Path(arguments.library).resolve()), "FAILING_CALL": call, **more}
 
 
 def report_of(journal):
@@ -101,15 +96,15 @@ def check_run(run, call, inputs, pool):
     undisturbed = Attempt(run, inputs)
     expect(f"{run}, undisturbed", undisturbed.code, 0)
     with tempfile.NamedTemporaryFile() as file:
-        Attempt(run, inputs, **preload(call, CALLS_FILE=file.name))
+        Attempt(run, inputs, FAILING_CALL=call, CALLS_FILE=file.name)
         count = int(pathlib.Path(file.name).read_text())
     expect(f"{run} has a {call}", count > 0)
 
     def attempt(number):
         name = f"{run}, {call} {number} of {count}"
         try:
-            check(name, Attempt(run, inputs, **preload(call, FAILING_NUMBER=str(number))),
-                         undisturbed)
+            check(name, Attempt(run, inputs, FAILING_CALL=call, FAILING_NUMBER=str(number)),
+                  undisturbed)
         except subprocess.TimeoutExpired:
             fail(f"{name}: hangs")
         except ValueError as error:

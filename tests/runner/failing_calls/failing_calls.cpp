@@ -3,13 +3,12 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
-#include <dlfcn.h>
 #include <fcntl.h>
 #include <sys/syscall.h>
 #include <sys/uio.h>
 #include <unistd.h>
 
-/// Preloaded into a program, lets one of its calls fail, counted from the start of its main:
+/// Lets one call of the program fail, counted from the start of its main:
 ///   FAILING_CALL    allocation, read or write
 ///   FAILING_NUMBER  which one, from 0; none when it isn't given
 ///   CALLS_FILE      where the number of such calls is written at the end of a program
@@ -51,30 +50,11 @@ Call callNamed(const char* name) {
   return std::strcmp(name, "read") == 0 ? Call::read : Call::write;
 }
 
-int (*programMain)(int, char**, char**);
-
-int countingMain(int count, char** words, char** environment) {
-  if (const char* number = std::getenv("FAILING_NUMBER")) failingNumber = std::atol(number);
-  callsFile = std::getenv("CALLS_FILE");
-  if (callsFile != nullptr) std::atexit(writeCalls);
-  counted = callNamed(std::getenv("FAILING_CALL"));
-  return programMain(count, words, environment);
-}
-
-using StartMain = int(int (*)(int, char**, char**), int, char**, void (*)(), void (*)(), void (*)(),
-                      void*);
-
 }  // namespace
 
+// Libraries find these in the program before the C library's.
 #pragma GCC visibility push(default)
 extern "C" {
-
-int __libc_start_main(int (*main)(int, char**, char**), int count, char** words, void (*init)(),
-                      void (*fini)(), void (*loaderFini)(), void* stackEnd) {
-  programMain = main;
-  auto* const start = reinterpret_cast<StartMain*>(dlsym(RTLD_NEXT, "__libc_start_main"));
-  return start(countingMain, count, words, init, fini, loaderFini, stackEnd);
-}
 
 void* malloc(std::size_t size) {
   return fails(Call::allocation, ENOMEM) ? nullptr : __libc_malloc(size);
@@ -111,3 +91,14 @@ ssize_t writev(int file, const iovec* parts, int count) {
 }
 }
 #pragma GCC visibility pop
+
+/// The program's own main.
+int programMain(int count, char** words);
+
+int main(int count, char** words) {
+  if (const char* number = std::getenv("FAILING_NUMBER")) failingNumber = std::atol(number);
+  callsFile = std::getenv("CALLS_FILE");
+  if (callsFile != nullptr) std::atexit(writeCalls);
+  counted = callNamed(std::getenv("FAILING_CALL"));
+  return programMain(count, words);
+}
