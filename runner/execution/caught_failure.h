@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "execution/frame_record.h"
+#include "execution/failure.h"
 
 namespace vtlcmd::runner {
 

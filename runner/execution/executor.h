@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "execution/failure.h"
 #include "execution/file_stamp.h"
-#include "execution/frame_record.h"
 #include "graph/graph.h"
 #include "logging/vtlcmd_logger.h"
 

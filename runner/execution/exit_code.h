@@ -1,6 +1,6 @@
 #pragma once
 
-#include "execution/frame_record.h"
+#include "execution/failure.h"
 
 namespace vtlcmd::runner {
 

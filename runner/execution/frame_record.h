@@ -8,18 +8,10 @@
 #include <set>
 #include <string>
 
+#include "execution/failure.h"
 #include "logging/run_report.h"
 
 namespace vtlcmd::runner {
-
-/// Whether another attempt at the same frame may go better. The larger is the worse.
-enum class Failure {
-  none,
-  /// Of the machine rather than of the graph: memory, disk, an interrupt.
-  transient,
-  /// The same again would fail again.
-  permanent,
-};
 
 /// What a frame that has run came to.
 struct FrameOutcome {

@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "execution/frame_record.h"
+#include "execution/failure.h"
 
 namespace vtlcmd::runner {
 

@@ -12,34 +12,39 @@
 
 namespace vtlcmd::testing {
 
-/// The records of one run with one port, and what it holds before the plug-in is called: a value of
-/// another call, and a message.
-class Host {
+/// The records of one run with one port.
+struct Port {
+  Orvel::String name = "port";
+  PortValueMap inputValues;
+  PortValueMap jobValues;
+  VtlCmdLogger logger{10};
+  RunContext context{&inputValues, &jobValues, 0, 0, 1, {}, {}, &logger};
+  InputValueData input{nullptr, &name, false, {}, &context};
+  OutputValueData output{nullptr, &name, &context};
+};
+
+/// A port that holds something before the plug-in is called: a value of another call, and a
+/// message.
+class Host : public Port {
  public:
   static constexpr const char* oldText = "what the port held before all this";
   static constexpr std::size_t oldMessages = 1;
 
-  Host() { logger.addMessage(vantrelSource, levelVerbose, "before all this"); }
+  Host() {
+    name = "a port of a long name";
+    context.time = 0.5;
+    context.frame = 12;
+    context.frameLength = 1.0 / 24;
+    context.sceneFile = L"/a/folder/of/scenes/scene.file";
+    context.secondaryPath = L"/another/folder/second.file";
+    logger.addMessage(vantrelSource, levelVerbose, "before all this");
+  }
 
   bool holdsOldValue() const {
     const auto* text = anyCast<Orvel::String>(&value);
     return text != nullptr && *text == oldText;
   }
 
-  Orvel::String name = "a port of a long name";
-  PortValueMap inputValues;
-  PortValueMap jobValues;
-  VtlCmdLogger logger{10};
-  RunContext context{&inputValues,
-                     &jobValues,
-                     0.5,
-                     12,
-                     1.0 / 24,
-                     L"/a/folder/of/scenes/scene.file",
-                     L"/another/folder/second.file",
-                     &logger};
-  InputValueData input{nullptr, &name, false, {}, &context};
-  OutputValueData output{nullptr, &name, &context};
   Any value = makeAny(Orvel::String(oldText));
 };
 

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 #include <string>
 
+#include "border/host.h"
 #include "border/loaded_plug_in.h"
 #include "host/any.h"
 #include "host/host_records.h"
@@ -19,19 +20,9 @@ namespace {
 
 using ::testing::HasSubstr;
 using testing::LoadedPlugIn;
+using testing::Port;
 using VantrelGraph::Executor::TypeTranslation;
 using VantrelGraph::Executor::TypeTranslationPreview;
-
-/// The host's records for one port.
-struct Port {
-  Orvel::String name = "port";
-  PortValueMap inputValues;
-  PortValueMap jobValues;
-  VtlCmdLogger logger{10};
-  RunContext context{&inputValues, &jobValues, 0, 0, 1, {}, {}, &logger};
-  InputValueData input{nullptr, &name, false, {}, &context};
-  OutputValueData output{nullptr, &name, &context};
-};
 
 /// Slot numbers with a virtual destructor of one entry; here it has two.
 constexpr std::size_t entryOf(std::size_t slot) { return slot == 0 ? 0 : slot + 1; }

@@ -1,8 +1,8 @@
-#include <clocale>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <vector>
 
+#include "support/c_locale_test.h"
 #include "support/scoped_locale.h"
 #include "support/test_host.h"
 #include "support/type_samples.h"
@@ -21,20 +21,9 @@ constexpr const char* localeName = "German_Germany.1252";
 constexpr const char* localeName = "de_DE.UTF-8";
 #endif
 
-/// A host that set its C locale, as programs with a user interface do.
-class UnderDecimalComma : public ::testing::Test {
+class UnderDecimalComma : public testing::CLocaleTest {
  protected:
-  void SetUp() override { ASSERT_NE(std::setlocale(LC_ALL, localeName), nullptr); }
-  void TearDown() override { std::setlocale(LC_ALL, "C"); }
-
-  template <typename T>
-  bool set(const char* text) {
-    host_.giveText("p", text);
-    return host_.setInput(Orvel::typeOf<T>(), value_, "p");
-  }
-
-  TestHost host_;
-  Any value_;
+  UnderDecimalComma() : CLocaleTest(localeName) {}
 };
 
 TEST_F(UnderDecimalComma, FractionsAreReadWithTheComma) {

@@ -1,26 +1,15 @@
-#include <clocale>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "support/test_host.h"
+#include "support/c_locale_test.h"
 
 namespace vtlcmd {
 namespace {
 
 /// Pashto: a point of two bytes in front of decimals.
-class UnderAPointOfTwoBytes : public ::testing::Test {
+class UnderAPointOfTwoBytes : public testing::CLocaleTest {
  protected:
-  void SetUp() override { ASSERT_NE(std::setlocale(LC_ALL, "ps_AF.UTF-8"), nullptr); }
-  void TearDown() override { std::setlocale(LC_ALL, "C"); }
-
-  template <typename T>
-  bool set(const char* text) {
-    host_.giveText("p", text);
-    return host_.setInput(Orvel::typeOf<T>(), value_, "p");
-  }
-
-  testing::TestHost host_;
-  Any value_;
+  UnderAPointOfTwoBytes() : CLocaleTest("ps_AF.UTF-8") {}
 };
 
 TEST_F(UnderAPointOfTwoBytes, FractionsAreReadWithIt) {

@@ -20,17 +20,13 @@ using vtlcmd::testing::Failure;
 std::atomic<std::size_t> live;
 bool armed = false;
 Failure failureKind = Failure::once;
-std::size_t leftToSucceed = 0;
-bool failed = false;
+std::size_t failing = 0;
+std::atomic<std::size_t> asked;
 
 bool fails() noexcept {
   if (!armed) return false;
-  if (leftToSucceed > 0) {
-    --leftToSucceed;
-    return false;
-  }
-  if (failed && failureKind == Failure::once) return false;
-  failed = true;
+  const std::size_t number = asked++;
+  if (number < failing || (number > failing && failureKind == Failure::once)) return false;
   errno = ENOMEM;
   return true;
 }
@@ -76,15 +72,17 @@ void free(void* block) {
 namespace vtlcmd::testing {
 
 FailingMemory::FailingMemory(std::size_t number, Failure failure) noexcept {
-  leftToSucceed = number;
+  failing = number;
   failureKind = failure;
-  failed = false;
+  asked = 0;
   armed = true;
 }
 
 FailingMemory::~FailingMemory() { armed = false; }
 
-bool FailingMemory::hasFailed() noexcept { return failed; }
+std::size_t FailingMemory::allocations() noexcept { return asked; }
+
+bool FailingMemory::hasFailed() noexcept { return asked > failing; }
 
 std::size_t liveBlocks() noexcept { return live; }
 

@@ -15,8 +15,8 @@ enum class Failure {
   lasting,
 };
 
-/// Fails the allocation of a number, counted from 0 in its lifetime. One at a time, and on a
-/// process with one thread.
+/// Fails the allocation of a number, counted from 0 in its lifetime. One at a time, made and ended
+/// while no other thread runs.
 class FailingMemory {
  public:
   FailingMemory(std::size_t number, Failure failure) noexcept;
@@ -24,7 +24,9 @@ class FailingMemory {
   FailingMemory& operator=(const FailingMemory&) = delete;
   ~FailingMemory();
 
-  /// Whether that many allocations were asked for.
+  /// How many were asked for in the lifetime of the last one, failed ones too.
+  static std::size_t allocations() noexcept;
+  /// Whether the number was reached.
   static bool hasFailed() noexcept;
 };
 

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "support/built_text.h"
+#include "support/floating_environment.h"
 #include "support/scoped_locale.h"
 
 namespace vtlcmd {
@@ -16,15 +17,6 @@ template <TextNumber Number>
 std::string read(Number number) {
   return testing::builtText([=](TextBuilder& text) { text << number; });
 }
-
-/// Another rounding mode while it lives.
-class RoundingMode {
- public:
-  explicit RoundingMode(int mode) { std::fesetround(mode); }
-  RoundingMode(const RoundingMode&) = delete;
-  RoundingMode& operator=(const RoundingMode&) = delete;
-  ~RoundingMode() { std::fesetround(FE_TONEAREST); }
-};
 
 TEST(TextBuilder, PiecesFollowEachOther) {
   TextBuilder text(3);
@@ -106,11 +98,11 @@ TEST(TextBuilder, RoundingModeApplies) {
   constexpr double justAbove = 1.0000011;
   EXPECT_EQ(read(justAbove), "1");
   {
-    const RoundingMode mode(FE_UPWARD);
+    const testing::FloatingEnvironment upward(FE_UPWARD, false);
     EXPECT_EQ(read(justAbove), "1.00001");
     EXPECT_EQ(read(-justAbove), "-1");
   }
-  const RoundingMode mode(FE_DOWNWARD);
+  const testing::FloatingEnvironment downward(FE_DOWNWARD, false);
   EXPECT_EQ(read(-justAbove), "-1.00001");
 }
 #endif

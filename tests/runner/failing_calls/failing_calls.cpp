@@ -2,52 +2,46 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
-#include <cstring>
 #include <fcntl.h>
+#include <limits>
+#include <string_view>
 #include <sys/syscall.h>
 #include <sys/uio.h>
 #include <unistd.h>
+
+#include "support/failing_memory.h"
 
 /// Lets one call of the program fail, counted from the start of its main:
 ///   FAILING_CALL    allocation, read or write
 ///   FAILING_NUMBER  which one, from 0; none when it isn't given
 ///   CALLS_FILE      where the number of such calls is written at the end of a program
 
-// The C library's own, under the names that it keeps for those who replace them.
-extern "C" {
-void* __libc_malloc(std::size_t size);
-void* __libc_calloc(std::size_t count, std::size_t size);
-void* __libc_realloc(void* block, std::size_t size);
-void* __libc_memalign(std::size_t alignment, std::size_t size);
-}
-
 namespace {
 
-enum class Call { none, allocation, read, write };
+using vtlcmd::testing::FailingMemory;
+using vtlcmd::testing::Failure;
 
-Call counted = Call::none;
-long failingNumber = -1;
+enum class Call { none, read, write };
+
+Call countedCall = Call::none;
+/// None when a process makes fewer.
+std::size_t failingNumber = std::numeric_limits<std::size_t>::max();
 const char* callsFile = nullptr;
-std::atomic<long> calls;
+std::atomic<std::size_t> calls;
 
 bool fails(Call call, int error) noexcept {
-  if (call != counted || calls++ != failingNumber) return false;
+  if (call != countedCall || calls++ != failingNumber) return false;
   errno = error;
   return true;
 }
 
 void writeCalls() {
   char text[32];
-  const int length = std::snprintf(text, sizeof text, "%ld\n", calls.load());
+  const std::size_t made = countedCall == Call::none ? FailingMemory::allocations() : calls.load();
+  const int length = std::snprintf(text, sizeof text, "%zu\n", made);
   const long file = syscall(SYS_openat, AT_FDCWD, callsFile, O_WRONLY | O_CREAT | O_TRUNC, 0600);
   syscall(SYS_write, file, text, length);
   syscall(SYS_close, file);
-}
-
-Call callNamed(const char* name) {
-  if (name == nullptr) return Call::none;
-  if (std::strcmp(name, "allocation") == 0) return Call::allocation;
-  return std::strcmp(name, "read") == 0 ? Call::read : Call::write;
 }
 
 }  // namespace
@@ -55,22 +49,6 @@ Call callNamed(const char* name) {
 // Libraries find these in the program before the C library's.
 #pragma GCC visibility push(default)
 extern "C" {
-
-void* malloc(std::size_t size) {
-  return fails(Call::allocation, ENOMEM) ? nullptr : __libc_malloc(size);
-}
-
-void* calloc(std::size_t count, std::size_t size) {
-  return fails(Call::allocation, ENOMEM) ? nullptr : __libc_calloc(count, size);
-}
-
-void* realloc(void* block, std::size_t size) {
-  return fails(Call::allocation, ENOMEM) ? nullptr : __libc_realloc(block, size);
-}
-
-void* aligned_alloc(std::size_t alignment, std::size_t size) {
-  return fails(Call::allocation, ENOMEM) ? nullptr : __libc_memalign(alignment, size);
-}
 
 ssize_t read(int file, void* bytes, std::size_t size) {
   return fails(Call::read, EIO) ? -1 : syscall(SYS_read, file, bytes, size);
@@ -96,9 +74,15 @@ ssize_t writev(int file, const iovec* parts, int count) {
 int programMain(int count, char** words);
 
 int main(int count, char** words) {
-  if (const char* number = std::getenv("FAILING_NUMBER")) failingNumber = std::atol(number);
+  if (const char* number = std::getenv("FAILING_NUMBER"))
+    failingNumber = std::strtoul(number, nullptr, 10);
   callsFile = std::getenv("CALLS_FILE");
   if (callsFile != nullptr) std::atexit(writeCalls);
-  counted = callNamed(std::getenv("FAILING_CALL"));
+  const char* const call = std::getenv("FAILING_CALL");
+  const std::string_view name = call == nullptr ? "" : call;
+  if (name == "read") countedCall = Call::read;
+  if (name == "write") countedCall = Call::write;
+  // Until the process ends.
+  if (name == "allocation") new FailingMemory(failingNumber, Failure::once);
   return programMain(count, words);
 }
