@@ -2,17 +2,15 @@
 
 #include <cmath>
 #include <limits>
-#include <nlohmann/json.hpp>
 
 #include "command_line/port_kinds.h"
 #include "orvel_sdk/value_factory.h"
+#include "text/json.h"
 #include "text/shortest_text.h"
 #include "values/type_dispatch.h"
 
 namespace vtlcmd::runner {
 namespace {
-
-using Json = nlohmann::ordered_json;
 
 /// Whether a text of the number is taken for a T.
 template <typename T>
@@ -50,7 +48,7 @@ std::optional<std::string> vectorText(const Json& json, const T& vector) {
 
 std::optional<std::string> defaultAsText(const GraphPort& port) {
   if (!port.defaultValue || portKindOf(port.type).source != PortSource::text) return std::nullopt;
-  const Json json = Json::parse(port.defaultText);
+  const Json json = parseJson(port.defaultText);
   std::optional<std::string> text;
   withTypeNamed(registeredTypes, port.type.element, [&]<typename T>() {
     if constexpr (Composite<T>) {

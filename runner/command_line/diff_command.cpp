@@ -14,8 +14,6 @@
 namespace vtlcmd::runner {
 namespace {
 
-using Json = nlohmann::ordered_json;
-
 constexpr const char* diffFooter = R"(Examples:
   vtlcmd diff yesterday.journal today.journal
   vtlcmd diff a.json b.json --tolerance 1e-6,1e-9 --json
@@ -57,8 +55,8 @@ std::string causeOf(const ComparedRun& a, const ComparedRun& b) {
   return keyDifference(b.run().value("key", Json()), a.run().value("key", Json()));
 }
 
-bool printText(const DiffOptions& options, ComparedRun& a, ComparedRun& b,
-               const Tolerance& tolerance) {
+bool printTextDifferences(const DiffOptions& options, ComparedRun& a, ComparedRun& b,
+                          const Tolerance& tolerance) {
   std::uint64_t lines = 0;
   const auto print = [&](const RunDifference& difference) {
     if (lines == 0) {
@@ -84,8 +82,8 @@ bool printText(const DiffOptions& options, ComparedRun& a, ComparedRun& b,
   return false;
 }
 
-bool printJson(const DiffOptions& options, ComparedRun& a, ComparedRun& b,
-               const Tolerance& tolerance) {
+bool printJsonDifferences(const DiffOptions& options, ComparedRun& a, ComparedRun& b,
+                          const Tolerance& tolerance) {
   std::cout << "{\n  \"a\": " << jsonText(options.a) << ",\n  \"b\": " << jsonText(options.b)
             << ",\n  \"given\": " << jsonText(causeOf(a, b)) << ",\n  \"differences\": [";
   const char* separator = "\n    ";
@@ -113,7 +111,8 @@ ExitCode diff(const DiffOptions& options) {
   const std::unique_ptr<ComparedRun> a = openRun(options.a);
   const std::unique_ptr<ComparedRun> b = openRun(options.b);
   try {
-    const bool areEqual = (options.json ? printJson : printText)(options, *a, *b, tolerance);
+    const bool areEqual = (options.json ? printJsonDifferences : printTextDifferences)(
+        options, *a, *b, tolerance);
     return areEqual ? ExitCode::success : ExitCode::runFailed;
   } catch (const Json::exception&) {
     throw LoadError(options.a + " or " + options.b + " lacks something that reports have");

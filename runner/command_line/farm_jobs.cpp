@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <chrono>
 #include <iostream>
-#include <nlohmann/json.hpp>
 #include <optional>
 #include <system_error>
 #include <thread>
@@ -15,6 +14,7 @@
 #include "farm/submission.h"
 #include "farm/task_scripts.h"
 #include "journal/run_line.h"
+#include "text/json.h"
 #include "text/library_text.h"
 #include "text/path_text.h"
 #include "text/shell_quoting.h"
@@ -74,8 +74,7 @@ FarmFolder farmFolder(const std::string& name) {
 }
 
 std::string keyOf(const LoadedRun& run, const RunOptions& options) {
-  return nlohmann::ordered_json::parse(
-             runContent(run.graph, run.settings, run.plugInFile, options.report.printLimit()))
+  return parseJson(runContent(run.graph, run.settings, run.plugInFile, options.report.printLimit()))
       .at("key")
       .dump();
 }

@@ -1,18 +1,16 @@
 #include <CLI/App.hpp>
 #include <iostream>
 #include <memory>
-#include <nlohmann/json.hpp>
 
 #include "command_line/commands.h"
 #include "command_line/report_options.h"
 #include "execution/plug_in.h"
 #include "nodes/node_table.h"
+#include "text/json.h"
 #include "text/json_text.h"
 
 namespace vtlcmd::runner {
 namespace {
-
-using Json = nlohmann::ordered_json;
 
 std::vector<std::string> supportedTypes(const std::string& plugInOption) {
   const PlugIn plugIn(plugInFileFrom(plugInOption));

@@ -2,13 +2,13 @@
 #include <algorithm>
 #include <iostream>
 #include <memory>
-#include <nlohmann/json.hpp>
 
 #include "command_line/commands.h"
 #include "command_line/default_text.h"
 #include "command_line/port_kinds.h"
 #include "graph/graph_file.h"
 #include "text/control_characters.h"
+#include "text/json.h"
 #include "text/json_text.h"
 #include "text/shell_quoting.h"
 
@@ -71,20 +71,20 @@ void printTable(const std::vector<PortRow>& rows) {
   }
 }
 
-void printJson(const Graph& graph) {
-  nlohmann::ordered_json ports = nlohmann::ordered_json::array();
+void printPortsJson(const Graph& graph) {
+  Json ports = Json::array();
   for (const PortRow& row : portRows(graph)) {
-    nlohmann::ordered_json port{{"kind", row.kind}, {"name", row.name}, {"type", row.type}};
+    Json port{{"kind", row.kind}, {"name", row.name}, {"type", row.type}};
     if (row.port != nullptr && row.port->defaultValue) {
-      port["default"] = nlohmann::ordered_json::parse(row.port->defaultText);
+      port["default"] = parseJson(row.port->defaultText);
       const std::optional<std::string> text = defaultAsText(*row.port);
-      port["default_text"] = text ? nlohmann::ordered_json(*text) : nullptr;
+      port["default_text"] = text ? Json(*text) : nullptr;
     }
     if (row.portKind != nullptr) port["takes_text"] = row.takesText();
     if (!row.description.empty()) port["description"] = row.description;
     ports.push_back(std::move(port));
   }
-  const nlohmann::ordered_json document{{"graph", graph.name}, {"ports", std::move(ports)}};
+  const Json document{{"graph", graph.name}, {"ports", std::move(ports)}};
   std::cout << jsonText(document, 2) << '\n';
 }
 
@@ -107,7 +107,7 @@ void addPortsCommand(CLI::App& app) {
   command->add_flag("--json", options->json, "Print a JSON document");
   command->callback([options] {
     const Graph graph = loadGraph(options->graph);
-    options->json ? printJson(graph) : printTable(portRows(graph));
+    options->json ? printPortsJson(graph) : printTable(portRows(graph));
   });
 }
 

@@ -68,8 +68,7 @@ std::string keyOf(const FarmJob& job) {
 
 /// Frames of something else would fit no report.
 void refuseChanges(const FarmJob& job) {
-  using Json = nlohmann::ordered_json;
-  const std::string changed = keyDifference(Json::parse(job.key), Json::parse(keyOf(job)));
+  const std::string changed = keyDifference(parseJson(job.key), parseJson(keyOf(job)));
   if (!changed.empty())
     throw UsageError("since the job was submitted there have changed: " + changed +
                      "; 'vtlcmd submit' to a new folder runs all anew");

@@ -15,8 +15,6 @@
 namespace vtlcmd::runner {
 namespace {
 
-using Json = nlohmann::ordered_json;
-
 class JournalRun : public ComparedRun {
  public:
   explicit JournalRun(const std::string& file)

@@ -1,9 +1,10 @@
 #pragma once
 
 #include <memory>
-#include <nlohmann/json.hpp>
 #include <optional>
 #include <string>
+
+#include "text/json.h"
 
 namespace vtlcmd::runner {
 
@@ -11,7 +12,7 @@ namespace vtlcmd::runner {
 struct ComparedFrame {
   double number = 0;
   /// What its line in a journal tells; the same stands in reports.
-  nlohmann::ordered_json content;
+  Json content;
 };
 
 /// A run that is compared with another, from its journal or its JSON report.
@@ -20,7 +21,7 @@ class ComparedRun {
   virtual ~ComparedRun() = default;
 
   /// What a journal's first line tells of the run.
-  virtual const nlohmann::ordered_json& run() const = 0;
+  virtual const Json& run() const = 0;
 
   /// The next frame, by rising number; nothing at the end. Throws JournalError.
   virtual std::optional<ComparedFrame> next() = 0;

@@ -4,17 +4,15 @@
 
 namespace vtlcmd::runner {
 
-using Json = nlohmann::ordered_json;
-
 ReportFrames::ReportFrames(std::istream& stream) : scanner_(stream) {
   std::optional<std::istream::pos_type> frames;
   scanner_.require('{');
   do {
-    const std::string name = Json::parse(scanner_.value());
+    const std::string name = parseJson(scanner_.value());
     scanner_.require(':');
     if (name == "frames") frames = stream.tellg();
     if (name == "run") {
-      run_ = Json::parse(scanner_.value());
+      run_ = parseJson(scanner_.value());
     } else {
       scanner_.skipValue();
     }
@@ -30,7 +28,7 @@ std::optional<Json> ReportFrames::next() {
   if (scanner_.take(']')) return std::nullopt;
   if (!isFirst_) scanner_.require(',');
   isFirst_ = false;
-  return Json::parse(scanner_.value());
+  return parseJson(scanner_.value());
 }
 
 }  // namespace vtlcmd::runner

@@ -1,9 +1,9 @@
 #pragma once
 
 #include <istream>
-#include <nlohmann/json.hpp>
 #include <optional>
 
+#include "text/json.h"
 #include "text/json_scanner.h"
 
 namespace vtlcmd::runner {
@@ -16,14 +16,14 @@ class ReportFrames {
   explicit ReportFrames(std::istream& stream);
 
   /// The member of that name.
-  const nlohmann::ordered_json& run() const noexcept { return run_; }
+  const Json& run() const noexcept { return run_; }
 
   /// The frame that is listed next; nothing at the end. Throws nlohmann::json::exception.
-  std::optional<nlohmann::ordered_json> next();
+  std::optional<Json> next();
 
  private:
   JsonScanner scanner_;
-  nlohmann::ordered_json run_;
+  Json run_;
   bool isFirst_ = true;
 };
 

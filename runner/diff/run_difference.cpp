@@ -9,8 +9,6 @@
 namespace vtlcmd::runner {
 namespace {
 
-using Json = nlohmann::ordered_json;
-
 Json stateOf(const Json& frame) {
   if (frame.is_null()) return nullptr;
   if (frame.at("interrupted")) return "interrupted";

@@ -2,11 +2,11 @@
 
 #include <cstdint>
 #include <functional>
-#include <nlohmann/json.hpp>
 #include <string>
 
 #include "diff/compared_run.h"
 #include "diff/tolerance.h"
+#include "text/json.h"
 
 namespace vtlcmd::runner {
 
@@ -19,8 +19,8 @@ struct RunDifference {
   /// empty; of the frame "state" or "messages".
   std::string place;
   /// Null where a run has nothing there.
-  nlohmann::ordered_json a;
-  nlohmann::ordered_json b;
+  Json a;
+  Json b;
 };
 
 /// How many frames were compared.

@@ -7,8 +7,6 @@
 namespace vtlcmd::runner {
 namespace {
 
-using Json = nlohmann::ordered_json;
-
 bool areSameBits(double a, double b) { return a == b && std::signbit(a) == std::signbit(b); }
 
 /// The distance between integers of 64 bits, which doubles can't tell apart.

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <nlohmann/json.hpp>
+#include "text/json.h"
 
 namespace vtlcmd::runner {
 
@@ -16,7 +16,6 @@ struct Tolerance {
 
 /// Whether two numbers, truths or texts of exact values are equal. "nan" and infinities stand there
 /// as texts and are equal to themselves only.
-bool areEqual(const nlohmann::ordered_json& a, const nlohmann::ordered_json& b,
-              const Tolerance& tolerance);
+bool areEqual(const Json& a, const Json& b, const Tolerance& tolerance);
 
 }  // namespace vtlcmd::runner

@@ -1,10 +1,10 @@
 #include "farm/farm_job.h"
 
-#include <nlohmann/json.hpp>
 #include <system_error>
 
 #include "readers/file_text.h"
 #include "report/whole_file.h"
+#include "text/json.h"
 #include "text/path_text.h"
 #include "text/program_version.h"
 #include "text/system_reason.h"
@@ -12,7 +12,6 @@
 namespace vtlcmd::runner {
 namespace {
 
-using Json = nlohmann::ordered_json;
 namespace fs = std::filesystem;
 
 /// The version of the form of a farm's folder.
@@ -31,7 +30,7 @@ void writeJson(const fs::path& file, const Json& document) {
 
 Json readJson(const fs::path& file) {
   try {
-    return Json::parse(readFile(file));
+    return parseJson(readFile(file));
   } catch (const std::system_error& error) {
     throw FarmError(fileText(file) + ": " + reasonOf(error));
   } catch (const Json::exception&) {
@@ -75,7 +74,7 @@ void writeFarmJob(const FarmFolder& folder, const FarmJob& job) {
                            {"reports", textsOf(job.reports)},
                            {"report_words", job.reportWords},
                            {"scheduler_words", job.schedulerWords},
-                           {"key", Json::parse(job.key)}});
+                           {"key", parseJson(job.key)}});
 }
 
 bool holdsFarmJob(const FarmFolder& folder) {

@@ -1,6 +1,5 @@
 #include "farm/frame_survey.h"
 
-#include <nlohmann/json.hpp>
 #include <optional>
 #include <set>
 

@@ -1,17 +1,15 @@
 #include "journal/earlier_run.h"
 
 #include <map>
-#include <nlohmann/json.hpp>
 
 #include "journal/content_hash.h"
 #include "journal/journal_reader.h"
 #include "journal/run_key.h"
+#include "text/json.h"
 #include "text/path_text.h"
 
 namespace vtlcmd::runner {
 namespace {
-
-using Json = nlohmann::ordered_json;
 
 /// What must be the same.
 Json identityOf(const Json& run) {
@@ -27,7 +25,7 @@ class Reader {
       : stream_(stream),
         reader_(stream, name),
         name_(name),
-        identity_(identityOf(Json::parse(runContent))) {
+        identity_(identityOf(parseJson(runContent))) {
     earlier_.isDone.resize(frames.size());
     for (std::size_t place = 0; place < frames.size(); ++place)
       places_.emplace_hint(places_.end(), frames.placeInWhole(place), place);

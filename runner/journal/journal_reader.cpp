@@ -51,9 +51,9 @@ bool JournalReader::next() {
   return true;
 }
 
-nlohmann::ordered_json JournalReader::parse(std::string_view object) const {
+Json JournalReader::parse(std::string_view object) const {
   try {
-    return nlohmann::ordered_json::parse(object);
+    return parseJson(object);
   } catch (const nlohmann::json::exception&) {
     fail();
   }

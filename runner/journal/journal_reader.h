@@ -3,10 +3,10 @@
 #include <cstddef>
 #include <cstdint>
 #include <fstream>
-#include <nlohmann/json.hpp>
 #include <string>
 
 #include "journal/journal_lines.h"
+#include "text/json.h"
 #include "text/load_error.h"
 
 namespace vtlcmd::runner {
@@ -35,7 +35,7 @@ class JournalReader {
   /// The current line, valid until the next one. A JSON object of it is parsed by the second one,
   /// which throws JournalError.
   const JournalLine& line() const noexcept { return line_; }
-  nlohmann::ordered_json parse(std::string_view object) const;
+  Json parse(std::string_view object) const;
 
   /// The place of the current line's first byte in the stream.
   std::uint64_t offset() const noexcept { return offset_; }

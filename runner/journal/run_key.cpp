@@ -7,8 +7,6 @@
 namespace vtlcmd::runner {
 namespace {
 
-using Json = nlohmann::ordered_json;
-
 /// Nobody compares these by eye.
 bool isHash(const Json& value) {
   constexpr std::size_t digits = 64;

@@ -1,12 +1,11 @@
 #include "journal/run_line.h"
 
-#include <nlohmann/json.hpp>
-
 #include "journal/content_hash.h"
 #include "journal/journal_lines.h"
 #include "journal/process_identity.h"
 #include "journal/sha256.h"
 #include "journal/time_text.h"
+#include "text/json.h"
 #include "text/json_text.h"
 #include "text/library_text.h"
 #include "text/path_text.h"
@@ -14,8 +13,6 @@
 
 namespace vtlcmd::runner {
 namespace {
-
-using Json = nlohmann::ordered_json;
 
 std::string hashOfText(std::string_view text) {
   Sha256 hash;

@@ -12,8 +12,6 @@
 namespace vtlcmd::runner {
 namespace {
 
-using Json = nlohmann::ordered_json;
-
 constexpr std::array factColumns{
     "index",       "frame",        "succeeded",        "failure",
     "inputs_set",  "executed",     "outputs_reported", "without_errors",

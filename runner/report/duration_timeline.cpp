@@ -18,7 +18,7 @@ constexpr std::size_t mostLanes = 16;
 constexpr double timelineWidth = 1000;
 constexpr double timelineHeight = 100;
 
-std::string workerName(const nlohmann::ordered_json& worker) {
+std::string workerName(const Json& worker) {
   return worker.is_string() ? worker.get<std::string>() : worker.dump();
 }
 

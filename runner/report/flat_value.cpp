@@ -6,8 +6,6 @@
 namespace vtlcmd::runner {
 namespace {
 
-using Json = nlohmann::ordered_json;
-
 constexpr std::array componentNames{"x", "y", "z", "w"};
 
 class PartList {

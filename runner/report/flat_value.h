@@ -1,8 +1,9 @@
 #pragma once
 
-#include <nlohmann/json.hpp>
 #include <string>
 #include <vector>
+
+#include "text/json.h"
 
 namespace vtlcmd::runner {
 
@@ -12,11 +13,11 @@ struct ValuePart {
   /// "size" or "min.y" of an array, "position.size" of an object, "elements.3".
   std::string place;
   /// Belongs to the value.
-  const nlohmann::ordered_json* part = nullptr;
+  const Json* part = nullptr;
 };
 
 /// The parts of an exact value as journals have it, in its own order. The elements of arrays only
 /// `withElements`.
-std::vector<ValuePart> partsOf(const nlohmann::ordered_json& value, bool withElements);
+std::vector<ValuePart> partsOf(const Json& value, bool withElements);
 
 }  // namespace vtlcmd::runner

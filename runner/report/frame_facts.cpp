@@ -4,14 +4,12 @@
 #include <charconv>
 #include <cstddef>
 #include <limits>
-#include <nlohmann/json.hpp>
 
 #include "journal/journal_lines.h"
+#include "text/json.h"
 
 namespace vtlcmd::runner {
 namespace {
-
-using AnyOrderJson = nlohmann::json;
 
 /// What every frame's line has; the places are those of `factNames`.
 enum Fact : std::size_t {
@@ -32,7 +30,7 @@ std::size_t placeOf(std::string_view name, const std::array<std::string_view, Si
 }
 
 /// Gathers the facts while a line is parsed, without a document of it in memory.
-class FactsGatherer : public nlohmann::json_sax<AnyOrderJson> {
+class FactsGatherer : public nlohmann::json_sax<Json> {
  public:
   const FrameFacts& facts() const { return facts_; }
   bool isComplete() const {
@@ -84,7 +82,7 @@ class FactsGatherer : public nlohmann::json_sax<AnyOrderJson> {
   }
   bool start_array(std::size_t) override { return true; }
   bool end_array() override { return true; }
-  bool parse_error(std::size_t, const std::string&, const AnyOrderJson::exception&) override {
+  bool parse_error(std::size_t, const std::string&, const Json::exception&) override {
     return false;
   }
 
@@ -108,7 +106,7 @@ class FactsGatherer : public nlohmann::json_sax<AnyOrderJson> {
 
 std::optional<FrameFacts> frameFacts(std::string_view content) {
   FactsGatherer gatherer;
-  if (!AnyOrderJson::sax_parse(content, &gatherer) || !gatherer.isComplete()) return std::nullopt;
+  if (!Json::sax_parse(content, &gatherer) || !gatherer.isComplete()) return std::nullopt;
   return gatherer.facts();
 }
 

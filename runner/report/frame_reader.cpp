@@ -22,9 +22,9 @@ bool FrameReader::next() {
   return false;
 }
 
-nlohmann::ordered_json FrameReader::parse(std::string_view object) const {
+Json FrameReader::parse(std::string_view object) const {
   try {
-    return nlohmann::ordered_json::parse(object);
+    return parseJson(object);
   } catch (const nlohmann::json::exception&) {
     fail();
   }

@@ -1,11 +1,11 @@
 #pragma once
 
 #include <cstddef>
-#include <nlohmann/json.hpp>
 #include <string>
 
 #include "journal/journal_lines.h"
 #include "report/journal_survey.h"
+#include "text/json.h"
 
 namespace vtlcmd::runner {
 
@@ -22,7 +22,7 @@ class FrameReader {
   /// The frame's line, valid until the next one; its "index" is that of the job. A JSON object of
   /// it is parsed by the second one, which throws JournalError.
   const JournalLine& line() const noexcept { return line_; }
-  nlohmann::ordered_json parse(std::string_view object) const;
+  Json parse(std::string_view object) const;
 
   const FrameEntry& entry() const { return survey_.entries[survey_.job.indexAt(place_)]; }
   const ReportedRun& run() const { return survey_.runs[entry().run]; }

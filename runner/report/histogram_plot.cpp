@@ -12,8 +12,6 @@
 namespace vtlcmd::runner {
 namespace {
 
-using Json = nlohmann::ordered_json;
-
 /// Of a bar's place, between bars.
 constexpr double gap = 0.08;
 

@@ -1,11 +1,12 @@
 #pragma once
 
-#include <nlohmann/json.hpp>
 #include <string>
+
+#include "text/json.h"
 
 namespace vtlcmd::runner {
 
 /// A histogram, as a frame's line has it, as a `figure`.
-std::string histogramHtml(const nlohmann::ordered_json& histogram, const std::string& frame);
+std::string histogramHtml(const Json& histogram, const std::string& frame);
 
 }  // namespace vtlcmd::runner

@@ -15,8 +15,6 @@
 namespace vtlcmd::runner {
 namespace {
 
-using Json = nlohmann::ordered_json;
-
 /// For report texts, in bytes, so that a page stays one that a browser opens at once.
 constexpr std::size_t roomForTexts = 1'500'000;
 

@@ -8,15 +8,13 @@
 namespace vtlcmd::runner {
 namespace {
 
-using Json = nlohmann::ordered_json;
-
 /// By run, from the earliest to the latest; null of runs that were cut off.
 std::vector<Json> endsOf(const std::vector<ReportedRun>& runs) {
   std::vector<Json> ends;
   for (const ReportedRun& run : runs) {
     // Of copies the first one tells most.
     if (run.number < ends.size()) continue;
-    ends.push_back(run.end.empty() ? Json(nullptr) : Json::parse(run.end));
+    ends.push_back(run.end.empty() ? Json(nullptr) : parseJson(run.end));
   }
   return ends;
 }

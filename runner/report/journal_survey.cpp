@@ -10,15 +10,13 @@
 namespace vtlcmd::runner {
 namespace {
 
-using Json = nlohmann::ordered_json;
-
 /// The line's content, in which the report of a part of a job is one of the job.
 Json firstRun(Journals& journals, const ReportedRun& first, const Job& job) {
   std::string text;
   journals.readLine(first.journal, first.offset, text);
   const std::optional<JournalLine> line = parseJournalText(text);
   if (!line) throw JournalError(journals.name(first.journal) + " changed while it was read");
-  Json run = Json::parse(line->content);
+  Json run = parseJson(line->content);
   if (run.at("loaded")) {
     run["frames"] = job.framesText();
     run["frame_count"] = job.size();
@@ -57,8 +55,8 @@ JournalSurvey surveyOf(Journals& journals) {
   survey.entries = readEntries(journals, survey.runs, survey.job);
   const ReportedRun& first = survey.runs.front();
   survey.run = firstRun(journals, first, survey.job);
-  survey.runTimes = Json::parse(first.times);
-  if (!first.endTimes.empty()) survey.endTimes = Json::parse(first.endTimes);
+  survey.runTimes = parseJson(first.times);
+  if (!first.endTimes.empty()) survey.endTimes = parseJson(first.endTimes);
   survey.end = endOfJob(survey.runs, survey.entries);
   for (const FrameEntry& entry : survey.entries) count(survey, entry);
   if (!survey.end.is_null()) countMessages(survey, survey.end.at("messages"));

@@ -3,7 +3,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <map>
-#include <nlohmann/json.hpp>
 #include <string>
 #include <vector>
 
@@ -11,6 +10,7 @@
 #include "report/job.h"
 #include "report/journals.h"
 #include "report/reported_runs.h"
+#include "text/json.h"
 
 namespace vtlcmd::runner {
 
@@ -19,12 +19,12 @@ namespace vtlcmd::runner {
 /// failure, then that of the later run, then the later line.
 struct JournalSurvey {
   /// The first run's line; "frames" and "frame_count" are those of the whole job.
-  nlohmann::ordered_json run;
+  Json run;
   /// Of the first run; null when the report is to be without times.
-  nlohmann::ordered_json runTimes;
+  Json runTimes;
   /// How it all ended, as an "end" line tells it; null when the job didn't come to its end.
-  nlohmann::ordered_json end;
-  nlohmann::ordered_json endTimes;
+  Json end;
+  Json endTimes;
   /// Those that are there, and what is counted of them.
   std::uint64_t frames = 0;
   std::uint64_t failed = 0;

@@ -9,8 +9,6 @@
 namespace vtlcmd::runner {
 namespace {
 
-using Json = nlohmann::ordered_json;
-
 /// The version of the report's form.
 constexpr int reportForm = 2;
 
@@ -40,8 +38,8 @@ std::string opened(std::string object, std::string_view ending) {
 }
 
 Json timesOf(const ReportedRun& run) {
-  Json times = Json::parse(run.times);
-  times["ended"] = run.endTimes.empty() ? Json(nullptr) : Json::parse(run.endTimes).at("ended");
+  Json times = parseJson(run.times);
+  times["ended"] = run.endTimes.empty() ? Json(nullptr) : parseJson(run.endTimes).at("ended");
   return times;
 }
 

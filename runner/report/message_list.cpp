@@ -10,8 +10,6 @@
 namespace vtlcmd::runner {
 namespace {
 
-using Json = nlohmann::ordered_json;
-
 /// Of texts that a page has room for.
 constexpr std::uint64_t mostBytes = 400'000;
 

@@ -16,7 +16,7 @@ class MessageList {
  public:
   void add(const PageFrame& frame);
   /// Those of no frame, by who speaks and by level.
-  void addOfRun(const nlohmann::ordered_json& messages);
+  void addOfRun(const Json& messages);
 
   /// Which frames are missing, by `missing`, and which failed, and critical messages, errors and
   /// warnings, the worst first.

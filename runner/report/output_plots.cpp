@@ -6,8 +6,6 @@
 namespace vtlcmd::runner {
 namespace {
 
-using Json = nlohmann::ordered_json;
-
 /// More points than this can't be told apart at the picture's size.
 constexpr std::uint64_t mostPlotted = 1000;
 

@@ -1,12 +1,12 @@
 #pragma once
 
 #include <cstdint>
-#include <nlohmann/json.hpp>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "report/line_plot.h"
+#include "text/json.h"
 
 namespace vtlcmd::runner {
 
@@ -18,7 +18,7 @@ class OutputPlots {
   explicit OutputPlots(std::uint64_t frameCount);
 
   /// The exact value of a frame as its journal line has it; `index` is below the count.
-  void add(std::uint64_t index, double frame, const nlohmann::ordered_json& value);
+  void add(std::uint64_t index, double frame, const Json& value);
 
   /// A plot for the numbers of one thing, as far as they change.
   std::vector<LinePlot> changing() const;
@@ -33,7 +33,7 @@ class OutputPlots {
  private:
   struct Series {
     PlotSeries plot;
-    nlohmann::ordered_json first;
+    Json first;
     bool changes = false;
   };
   struct Thing {
@@ -45,11 +45,11 @@ class OutputPlots {
     double frame;
   };
 
-  void addValue(const Place& place, const std::string& title, const nlohmann::ordered_json& value);
+  void addValue(const Place& place, const std::string& title, const Json& value);
   void addStatistic(const Place& place, const std::string& title, const char* name,
-                    const nlohmann::ordered_json& value);
+                    const Json& value);
   void addNumber(const Place& place, const std::string& title, const std::string& name,
-                 const nlohmann::ordered_json& number);
+                 const Json& number);
 
   std::uint64_t stretch_;
   std::vector<Thing> things_;

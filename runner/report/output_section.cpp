@@ -10,8 +10,6 @@
 namespace vtlcmd::runner {
 namespace {
 
-using Json = nlohmann::ordered_json;
-
 /// So many different texts are shown at once.
 constexpr std::size_t mostOpenTexts = 3;
 constexpr std::ptrdiff_t mostOpenLines = 16;

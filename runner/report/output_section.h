@@ -34,7 +34,7 @@ class OutputSection {
  private:
   void writeConstants(std::ostream& page) const;
   void writePlots(std::ostream& page, const FrameRange& frames) const;
-  void addPicture(const nlohmann::ordered_json& picture, const std::string& frame);
+  void addPicture(const Json& picture, const std::string& frame);
   void writePictures(std::ostream& page) const;
   void writeTexts(std::ostream& page) const;
   static void writeText(std::ostream& page, const std::string& text);

@@ -1,8 +1,9 @@
 #pragma once
 
 #include <cstdint>
-#include <nlohmann/json.hpp>
 #include <string>
+
+#include "text/json.h"
 
 namespace vtlcmd::runner {
 
@@ -15,9 +16,9 @@ struct PageFrame {
   std::string text;
   double number = 0;
   /// What its line tells.
-  const nlohmann::ordered_json& content;
+  const Json& content;
   /// Null when times are left out.
-  const nlohmann::ordered_json& times;
+  const Json& times;
 };
 
 }  // namespace vtlcmd::runner

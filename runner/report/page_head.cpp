@@ -15,8 +15,6 @@
 namespace vtlcmd::runner {
 namespace {
 
-using Json = nlohmann::ordered_json;
-
 /// So many digits of a hash tell files apart.
 constexpr std::size_t shortHash = 12;
 constexpr std::size_t mostHosts = 8;

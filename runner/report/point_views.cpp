@@ -14,7 +14,6 @@
 namespace vtlcmd::runner {
 namespace {
 
-using Json = nlohmann::ordered_json;
 using Point = std::array<double, 3>;
 
 constexpr std::array<const char*, 3> axisNames{"x", "y", "z"};

@@ -8,8 +8,6 @@
 namespace vtlcmd::runner {
 namespace {
 
-using Json = nlohmann::ordered_json;
-
 /// Of the job where the run is a part of one.
 std::string jobText(const Json& run) {
   return run.contains("job_frames") ? run.at("job_frames") : run.at("frames");

@@ -2,7 +2,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <nlohmann/json.hpp>
 #include <set>
 #include <stdexcept>
 #include <string>

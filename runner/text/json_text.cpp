@@ -1,7 +1,8 @@
 #include "text/json_text.h"
 
-#include <nlohmann/json.hpp>
 #include <string_view>
+
+#include "text/json.h"
 
 namespace vtlcmd::runner {
 namespace {
@@ -20,9 +21,8 @@ void appendEscape(std::string& text, char last) {
 
 }  // namespace
 
-std::string jsonText(const nlohmann::ordered_json& json, int indent) {
-  std::string text =
-      json.dump(indent, ' ', false, nlohmann::ordered_json::error_handler_t::replace);
+std::string jsonText(const Json& json, int indent) {
+  std::string text = json.dump(indent, ' ', false, Json::error_handler_t::replace);
   if (text.find_first_of({deleteCharacter, latinLead}) == std::string::npos) return text;
   // Such characters stand in JSON's texts only.
   std::string safe;

@@ -1,7 +1,6 @@
 #include "text/json_writer.h"
 
-#include <nlohmann/json.hpp>
-
+#include "text/json.h"
 #include "text/json_text.h"
 
 namespace vtlcmd::runner {

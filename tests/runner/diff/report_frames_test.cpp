@@ -8,8 +8,6 @@
 namespace vtlcmd::runner {
 namespace {
 
-using Json = nlohmann::ordered_json;
-
 std::vector<std::string> framesIn(const std::string& document) {
   std::istringstream stream(document);
   ReportFrames report(stream);

@@ -6,11 +6,9 @@
 namespace vtlcmd::runner {
 namespace {
 
-using Json = nlohmann::ordered_json;
-
 bool areEqualTexts(const std::string& a, const std::string& b, const Tolerance& tolerance = {}) {
-  const bool result = areEqual(Json::parse(a), Json::parse(b), tolerance);
-  EXPECT_EQ(areEqual(Json::parse(b), Json::parse(a), tolerance), result) << a << " and " << b;
+  const bool result = areEqual(parseJson(a), parseJson(b), tolerance);
+  EXPECT_EQ(areEqual(parseJson(b), parseJson(a), tolerance), result) << a << " and " << b;
   return result;
 }
 

@@ -5,10 +5,8 @@
 namespace vtlcmd::runner {
 namespace {
 
-using Json = nlohmann::ordered_json;
-
 std::string placesIn(const char* value, bool withElements = true) {
-  const Json json = Json::parse(value);
+  const Json json = parseJson(value);
   std::string text;
   for (const ValuePart& part : partsOf(json, withElements))
     text += part.place + "=" + part.part->dump() + " ";

@@ -11,8 +11,7 @@ namespace {
 OutputPlots plotsOf(const std::vector<std::string>& values) {
   OutputPlots plots(values.size());
   for (std::size_t i = 0; i < values.size(); ++i) {
-    if (!values[i].empty())
-      plots.add(i, static_cast<double>(i + 1), nlohmann::ordered_json::parse(values[i]));
+    if (!values[i].empty()) plots.add(i, static_cast<double>(i + 1), parseJson(values[i]));
   }
   return plots;
 }

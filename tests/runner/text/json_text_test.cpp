@@ -1,13 +1,12 @@
 #include "text/json_text.h"
 
 #include <gtest/gtest.h>
-#include <nlohmann/json.hpp>
 #include <string>
+
+#include "text/json.h"
 
 namespace vtlcmd::runner {
 namespace {
-
-using Json = nlohmann::ordered_json;
 
 TEST(JsonText, ControlCharactersAreEscaped) {
   EXPECT_EQ(jsonText("a\x1b\x7f\xc2\x80\xc2\x9f"), R"("a\u001b\u007f\u0080\u009f")");
@@ -27,7 +26,7 @@ TEST(JsonText, EveryControlCharacterReadsBack) {
     } else {
       text = {static_cast<char>(0xC0U | c >> 6U), static_cast<char>(0x80U | (c & 0x3FU))};
     }
-    EXPECT_EQ(Json::parse(jsonText(text)), text) << static_cast<unsigned>(c);
+    EXPECT_EQ(parseJson(jsonText(text)), text) << static_cast<unsigned>(c);
   }
 }
 

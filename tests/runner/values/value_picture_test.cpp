@@ -2,9 +2,9 @@
 
 #include <gtest/gtest.h>
 #include <limits>
-#include <nlohmann/json.hpp>
 
 #include "orvel_sdk/any_bridge.h"
+#include "text/json.h"
 #include "text/library_text.h"
 #include "values/library_array.h"
 #include "vantrel_geometry/geometry_builder.h"
