@@ -2,7 +2,6 @@
 #include <algorithm>
 #include <iostream>
 #include <memory>
-#include <nlohmann/json.hpp>
 
 #include "command_line/commands.h"
 #include "command_line/farm_jobs.h"
@@ -11,13 +10,12 @@
 #include "farm/frame_survey.h"
 #include "farm/submission.h"
 #include "text/control_characters.h"
+#include "text/json.h"
 #include "text/json_text.h"
 #include "text/path_text.h"
 
 namespace vtlcmd::runner {
 namespace {
-
-using Json = nlohmann::ordered_json;
 
 constexpr const char* statusFooter = R"(Examples:
   vtlcmd status /farm/scatter
@@ -61,7 +59,8 @@ Json submissionsOf(const FarmFolder& folder) {
   return submissions;
 }
 
-void printJson(const FarmFolder& folder, const FarmJob& job, const std::vector<double>& frames) {
+void printStatusJson(const FarmFolder& folder, const FarmJob& job,
+                     const std::vector<double>& frames) {
   Json document{{"form", 1},
                 {"graph_file", job.graph},
                 {"frames", job.frames},
@@ -72,7 +71,8 @@ void printJson(const FarmFolder& folder, const FarmJob& job, const std::vector<d
   std::cout << jsonText(document, 2) << '\n';
 }
 
-void printText(const FarmFolder& folder, const FarmJob& job, const std::vector<double>& frames) {
+void printStatusText(const FarmFolder& folder, const FarmJob& job,
+                     const std::vector<double>& frames) {
   std::cout << withoutControls(job.graph, "") << ", frames " << job.frames << '\n';
   for (const Group& group : groupsOf(folder, frames)) {
     std::cout << group.name << std::string(9 - std::string_view(group.name).size(), ' ')
@@ -105,7 +105,8 @@ void addStatusCommand(CLI::App& app) {
   command->callback([options] {
     const FarmFolder folder = farmFolder(options->folder);
     const FarmJob job = readFarmJob(folder);
-    (options->json ? printJson : printText)(folder, job, parseFrames(job.frames).numbers());
+    (options->json ? printStatusJson : printStatusText)(folder, job,
+                                                        parseFrames(job.frames).numbers());
   });
 }
 
