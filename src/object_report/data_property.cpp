@@ -28,7 +28,7 @@ bool printUnsupported(const Any&, TextBuilder& text, const Orvel::String& name) 
 }
 
 template <typename T>
-constexpr Row rowOf() {
+consteval Row rowOf() {
   if constexpr (Summarised<T>) {
     return {&typeTag<T, 1>, &printStatistics<T>};
   } else {
@@ -37,7 +37,7 @@ constexpr Row rowOf() {
 }
 
 template <typename... Elements>
-constexpr auto rowsOf() {
+consteval auto rowsOf() {
   return std::array{rowOf<Elements>()...};
 }
 

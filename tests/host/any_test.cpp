@@ -82,6 +82,10 @@ void exerciseEveryOperation(const T& value, const T& other) {
   expectHolds(a, other);
   swap(empty, empty);
   expectEmpty(empty);
+  Any alsoEmpty;
+  swap(empty, alsoEmpty);
+  expectEmpty(empty);
+  expectEmpty(alsoEmpty);
 
   Any heap = makeAny(Math::double4{});
   swap(a, heap);

@@ -3,6 +3,7 @@
 #include <limits>
 
 #include "host/value_types.h"
+#include "support/given_table.h"
 #include "support/test_host.h"
 #include "support/type_samples.h"
 #include "translation/scene_path.h"
@@ -50,6 +51,19 @@ TEST_F(InputDispatch, SetterThatLeavesTheAnyEmptyMakesTheResultFalse) {
   host_.giveText("count", "12abc");
   EXPECT_FALSE(host_.setInput(Orvel::typeOf<std::int32_t>(), held_, "count"));
   EXPECT_FALSE(held_.holdsValue());
+}
+
+TEST_F(InputDispatch, RowWithoutSetterIsAsNoRow) {
+  HandlerTable table;
+  table.byName["int"].setter = nullptr;
+  testing::giveTable(host_.translation, table);
+  host_.giveText("count", "12");
+  EXPECT_FALSE(host_.setInput(Orvel::typeOf<std::int32_t>(), held_, "count"));
+  expectUnchanged();
+  EXPECT_THAT(host_.messages(),
+              ElementsAre("progress Input port 'count' [int]",
+                          "critical The TypeTranslation does not support setting a value of type "
+                          "'int' for the input port named 'count'."));
 }
 
 TEST_F(InputDispatch, UnknownTypeIsRefusedInTwoLines) {

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "host/value_types.h"
+#include "support/given_table.h"
 #include "support/test_host.h"
 #include "support/type_samples.h"
 
@@ -30,6 +31,20 @@ TEST_F(OutputDispatch, UnsupportedValueGetsAWarning) {
               ElementsAre("progress Output port 'm' [Math::float2x2]",
                           "warning The TypeTranslation does not support getting a value of type "
                           "'Math::float2x2' for the Terminal output named 'm'."));
+}
+
+TEST_F(OutputDispatch, RowsWithoutReporterAreAsNoRows) {
+  HandlerTable table;
+  table.byName["int"].reporter = nullptr;
+  table.byTag[&typeTag<std::int32_t, 0>] = nullptr;
+  testing::giveTable(host_.translation, table);
+  EXPECT_FALSE(host_.getAny(makeAny(std::int32_t{1}), "n"));
+  EXPECT_THAT(host_.messages(), IsEmpty());
+  EXPECT_FALSE(host_.getValue(Orvel::makeValue(std::int32_t{1}), "n"));
+  EXPECT_THAT(host_.messages(),
+              ElementsAre("progress Output port 'n' [int]",
+                          "warning The TypeTranslation does not support getting a value of type "
+                          "'int' for the Terminal output named 'n'."));
 }
 
 TEST_F(OutputDispatch, UnsupportedArrayIsNamedWholeThenByItsElement) {

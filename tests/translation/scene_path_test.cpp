@@ -56,5 +56,34 @@ TEST(SplitScenePath, CutsBehindTheLastSeparatorOrTheRoot) {
   }
 }
 
+TEST(SplitScenePath, TakesTheLettersOfTheAlphabetForDrives) {
+  for (const wchar_t letter : {L'A', L'Z', L'a', L'z'}) {
+    const ScenePath split = splitScenePath({letter, L':', L's'});
+    EXPECT_EQ(split.directory, (HostPath{letter, L':'}));
+    EXPECT_EQ(split.fileName, L"s");
+  }
+  // The neighbours of the two alphabets, and a letter with an accent.
+  for (const wchar_t other : {L'@', L'[', L'`', L'{', L'\u00e9'}) {
+    const HostPath path{other, L':', L's'};
+    const ScenePath split = splitScenePath(path);
+    EXPECT_EQ(split.directory, L"");
+    EXPECT_EQ(split.fileName, path);
+  }
+}
+
+TEST(SplitScenePath, TakesNamesOfOneCharacterForServers) {
+  for (const Split& row : {
+           Split{L"\\\\s\\share\\scene.vs", L"\\\\s\\share\\", L"scene.vs"},
+           {L"\\\\s\\share", L"\\\\s\\share", L""},
+           {L"\\\\s", L"\\\\s", L""},
+           {L"\\\\?x\\share", L"\\\\?x\\share", L""},
+           {L"\\\\.x\\share", L"\\\\.x\\share", L""},
+       }) {
+    const ScenePath split = splitScenePath(row.path);
+    EXPECT_EQ(split.directory, row.directory) << ::testing::PrintToString(row.path);
+    EXPECT_EQ(split.fileName, row.fileName) << ::testing::PrintToString(row.path);
+  }
+}
+
 }  // namespace
 }  // namespace vtlcmd
