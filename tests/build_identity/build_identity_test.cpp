@@ -95,6 +95,7 @@ TEST(DumpVersionInfo, IsSilentWithoutAnErrorStream) {
     dumped = dumpVersionInfo();
   }
   EXPECT_FALSE(dumped);
+  EXPECT_TRUE(std::cerr.good()) << "something was written to a closed stream";
   EXPECT_TRUE(dumpVersionInfo());
   setEnvironment("QUILLON_DUMP_VERSION_INFO", nullptr);
 }

@@ -58,6 +58,15 @@ TEST(PortValueMap, EmptyNameAndEmptyTextAreEntriesLikeAnyOther) {
   EXPECT_STREQ(map.find("")->text.c_str(), "");
 }
 
+TEST(PortValueMap, EmptyNameIsFoundAfterGrowth) {
+  PortValueMap map;
+  map.insert("", {"", "empty"});
+  for (int i = 0; i < 1000; ++i) {
+    map.insert(("port" + std::to_string(i)).c_str(), {});
+    ASSERT_NE(map.find(""), nullptr) << i;
+  }
+}
+
 TEST(PortValueMap, CopiesStandAlone) {
   PortValueMap map;
   map.insert("count", {"", "1"});
@@ -76,6 +85,7 @@ TEST(PortValueMap, BucketIsTheHashMasked) {
     map.insert(("port" + std::to_string(count)).c_str(), {});
     EXPECT_EQ(map.bucketCount(), count <= 8 ? 8U : count <= 16 ? 16U : 32U);
   }
+  EXPECT_EQ(map.bucketOf(""), 0xcbf29ce484222325 & 31);
   EXPECT_EQ(map.bucketOf("foobar"), 0x85944171f73967e8 & 31);
   EXPECT_EQ(map.bucketOf("chongo was here!\n"), 0x46810940eff5f915 & 31);
 }

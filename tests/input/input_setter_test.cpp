@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "support/allocation_count.h"
 #include "support/test_host.h"
 #include "support/type_samples.h"
 
@@ -292,6 +293,18 @@ TEST(InputSetterOfObject, DefaultIsShared) {
   EXPECT_EQ(anyCast<ObjectPtr>(&value)->get(), object.get());
   EXPECT_EQ(Orvel::useCount(object), 2U);
 }
+
+#ifndef _WIN32
+// There each library has allocation functions of its own, and only the program's are counted.
+TYPED_TEST(InputSetter, NothingStaysInUseBehindTheRun) {
+  for (const State& state : allStates()) {
+    for (const char* text : {sampleOf<TypeParam>().text, "neither, this", "", "1,2,3,x",
+                             static_cast<const char*>(nullptr)}) {
+      EXPECT_EQ(testing::blocksLeftBy([&] { Call<TypeParam>(state, text); }), 0);
+    }
+  }
+}
+#endif
 
 }  // namespace
 }  // namespace vtlcmd

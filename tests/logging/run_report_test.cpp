@@ -84,7 +84,9 @@ TEST_F(RunReport, AnEntryMayDescribeTheFallbackEntryAndBackAgain) {
 TEST_F(RunReport, InAGroupWithoutEntryReportsAndMessagesPart) {
   logger.beginGroup("group");
   logger.reportOutputValue("result", "int", "42");
+  logger.reportOutputSuppressed("hidden", "int");
   EXPECT_EQ(logger.fallbackEntry.outputs.count("result"), 1U);
+  EXPECT_EQ(logger.fallbackEntry.outputs.count("hidden"), 1U);
   EXPECT_EQ(&logger.messagesFor(logger.currentGroupIndex, VtlCmdLogger::noCurrent),
             &logger.groups[0].messages);
 }
@@ -97,6 +99,8 @@ TEST_F(RunReport, EntryTakesReportsAndMessages) {
   expectDescribed(entry, "entry");
   EXPECT_EQ(entry.outputs.at("result").typeName, "float");
   EXPECT_FALSE(entry.outputs.at("result").valueShown);
+  logger.reportOutputValue("shown", "int", "42");
+  EXPECT_EQ(entry.outputs.count("shown"), 1U);
   EXPECT_TRUE(logger.fallbackEntry.outputs.empty());
   EXPECT_EQ(&logger.messagesFor(0, 0), &entry.messages);
   EXPECT_EQ(&logger.currentEntry(), &entry);

@@ -196,5 +196,19 @@ TEST(VtlCmdLogger, AddTextsAppendsUpToTheFirstNul) {
   EXPECT_EQ(logger.texts, (std::vector<std::string>{"before", "one", "tw", ""}));
 }
 
+TEST(VtlCmdLogger, AddTextsAppendsAllWhateverRoomThereIs) {
+  VtlCmdLogger logger(1);
+  Orvel::Array<Orvel::String> array;
+  logger.addTexts(array);
+  EXPECT_TRUE(logger.texts.empty());
+  array.append("a");
+  array.append("b");
+  array.append("c");
+  logger.addTexts(array);
+  EXPECT_EQ(logger.texts, (std::vector<std::string>{"a", "b", "c"}));
+  logger.addTexts(array);
+  EXPECT_EQ(logger.texts, (std::vector<std::string>{"a", "b", "c", "a", "b", "c"}));
+}
+
 }  // namespace
 }  // namespace vtlcmd

@@ -198,6 +198,7 @@ TYPED_TEST(ArrayPrinters, DepthZeroIsTheSingleValuesText) {
 }
 
 TYPED_TEST(ArrayPrinters, TypeNameWrapsTheBaseName) {
+  EXPECT_EQ(arrayTypeName<TypeParam>(0).c_str(), this->name());
   EXPECT_STREQ(arrayTypeName<TypeParam>(1).c_str(), ("array<" + this->name() + ">").c_str());
   EXPECT_STREQ(arrayTypeName<TypeParam>(2).c_str(), ("array<array<" + this->name() + ">>").c_str());
   EXPECT_STREQ(arrayTypeName<TypeParam>(3).c_str(),

@@ -1,11 +1,17 @@
 #include "text/text_builder.h"
 
 #include <cfenv>
+#include <cstring>
 #include <gtest/gtest.h>
+#include <iterator>
 #include <limits>
+#include <locale>
+#include <memory>
+#include <new>
 #include <sstream>
 #include <string>
 
+#include "support/allocation_count.h"
 #include "support/built_text.h"
 #include "support/floating_environment.h"
 #include "support/scoped_locale.h"
@@ -100,12 +106,75 @@ TEST(TextBuilder, RoundingModeApplies) {
   {
     const testing::FloatingEnvironment upward(FE_UPWARD, false);
     EXPECT_EQ(read(justAbove), "1.00001");
+    EXPECT_EQ(read(static_cast<float>(justAbove)), "1.00001");
     EXPECT_EQ(read(-justAbove), "-1");
   }
   const testing::FloatingEnvironment downward(FE_DOWNWARD, false);
   EXPECT_EQ(read(-justAbove), "-1.00001");
 }
 #endif
+
+/// Writes any number as one mark, so that whether it was asked can be seen of each.
+class Marks : public std::num_put<char> {
+  using std::num_put<char>::do_put;
+  iter_type do_put(iter_type out, std::ios_base&, char, bool) const override { return mark(out); }
+  iter_type do_put(iter_type out, std::ios_base&, char, long) const override { return mark(out); }
+  iter_type do_put(iter_type out, std::ios_base&, char, unsigned long) const override {
+    return mark(out);
+  }
+  iter_type do_put(iter_type out, std::ios_base&, char, long long) const override {
+    return mark(out);
+  }
+  iter_type do_put(iter_type out, std::ios_base&, char, unsigned long long) const override {
+    return mark(out);
+  }
+  iter_type do_put(iter_type out, std::ios_base&, char, double) const override { return mark(out); }
+  static iter_type mark(iter_type out) {
+    *out = '#';
+    return ++out;
+  }
+};
+
+template <typename Number>
+class TextBuilderOf : public ::testing::Test {
+ protected:
+  ~TextBuilderOf() override { std::locale::global(before_); }
+
+  static void setMarks() { std::locale::global(std::locale(std::locale::classic(), new Marks)); }
+
+ private:
+  std::locale before_;
+};
+
+using Numbers = ::testing::Types<bool, std::int16_t, std::uint16_t, std::int32_t, std::uint32_t,
+                                 std::int64_t, std::uint64_t, float, double>;
+TYPED_TEST_SUITE(TextBuilderOf, Numbers);
+
+TYPED_TEST(TextBuilderOf, EachNumberGoesByALocaleThatWasThereAtTheFirst) {
+  this->setMarks();
+  // Whatever stood in its place before.
+  alignas(TextBuilder) unsigned char place[sizeof(TextBuilder)];
+  std::memset(place, 0xFF, sizeof place);
+  auto* text = new (place) TextBuilder(100);
+  *text << TypeParam{1} << TypeParam{1};
+  EXPECT_EQ(text->text(), "##");
+  std::destroy_at(text);
+}
+
+TYPED_TEST(TextBuilderOf, ALocaleSetBehindTheFirstNumberDoesNotApply) {
+  TextBuilder text(100);
+  text << TypeParam{1};
+  this->setMarks();
+  text << TypeParam{1};
+  EXPECT_EQ(text.text(), "11");
+}
+
+TYPED_TEST(TextBuilderOf, NumbersTakeNoMemoryWhereThereIsRoom) {
+  TextBuilder text(100);
+  const std::size_t before = testing::allocationCount();
+  text << TypeParam{1} << TypeParam{1};
+  EXPECT_EQ(testing::allocationCount(), before);
+}
 
 }  // namespace
 }  // namespace vtlcmd

@@ -20,6 +20,8 @@ TEST(NarrowPath, IsUtf8) {
   EXPECT_EQ(narrowPath(wide(0xFFFF)), "\xef\xbf\xbf");
   EXPECT_EQ(narrowPath(wide(0x10000)), "\xf0\x90\x80\x80");
   EXPECT_EQ(narrowPath(wide(0x10FFFF)), "\xf4\x8f\xbf\xbf");
+  EXPECT_EQ(narrowPath(wide(0x80) + wide(0x800) + wide(0x10000) + L"z"),
+            "\xc2\x80\xe0\xa0\x80\xf0\x90\x80\x80z");
 }
 
 TEST(NarrowPath, RaisesForWhatNoTextCanExpress) {
