@@ -117,6 +117,22 @@ TYPED_TEST(InputSetter, BadOrEmptyTextLeavesNothingAndUsesNoDefault) {
   }
 }
 
+TYPED_TEST(InputSetter, OneBadPieceIsEnough) {
+  const std::size_t count = valueType<TypeParam>().components;
+  for (const char* bad : {"1x", "x", "", "1e999"}) {
+    for (std::size_t position = 0; count > 1 && position < count; ++position) {
+      std::string text;
+      for (std::size_t i = 0; i < count; ++i) text.append(i == position ? bad : "1").append(",");
+      text.pop_back();
+      const Call<TypeParam> call({false, true, Default::own}, text.c_str());
+      EXPECT_FALSE(call.result) << text;
+      EXPECT_THAT(call.host.messages(),
+                  ElementsAre(call.error(std::string("Unable to convert '") + bad +
+                                         valueType<TypeParam>().parseErrorEnd)));
+    }
+  }
+}
+
 TYPED_TEST(InputSetter, WithoutTextTheDefaultIsUsed) {
   for (const State& state : allStates()) {
     const Call<TypeParam> call(state, nullptr);
