@@ -90,7 +90,9 @@ def read_coverage(build, folders):
     merged = build / "coverage.profdata"
     listed = build / "profiles.txt"
     listed.write_text("\n".join(profiles))
-    run(f"llvm-profdata{LLVM}", "merge", "-sparse", f"-input-files={listed}", "-o", str(merged))
+    # A program that was killed while it wrote may have left half a profile.
+    run(f"llvm-profdata{LLVM}", "merge", "-sparse", "-failure-mode=all", f"-input-files={listed}",
+        "-o", str(merged))
     files = {}
     for path in sorted([*(build / "bin").iterdir(), *(build / "lib").iterdir()]):
         if path.is_symlink() or not is_object(path):
