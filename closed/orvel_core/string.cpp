@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "host/imports/orvel_string.h"
+#include "orvel_core/make_string.h"
 
 namespace Orvel {
 namespace {
@@ -24,11 +25,20 @@ char* copyText(std::string_view text) {
   return copy;
 }
 
+}  // namespace
+
+template <>
+struct Internal::Representation<String> {
+  static String make(std::string_view text) { return {copyText(text), text.size()}; }
+};
+
+namespace {
+
 String concatenate(std::string_view left, std::string_view right) {
   std::string text;
   text.reserve(left.size() + right.size());
   text.append(left).append(right);
-  return String(StringView{text.data(), text.size()});
+  return Internal::Representation<String>::make(text);
 }
 
 }  // namespace
@@ -37,9 +47,8 @@ String::String() noexcept : text_(nullptr), size_(0) {}
 
 String::String(const char* text) : text_(copyText(viewOf(text))), size_(viewOf(text).size()) {}
 
-String::String(StringView text) : text_(copyText(viewOf(text))), size_(text.size) {}
-
-String::String(const String& other) : String(other.internal_string_view()) {}
+String::String(const String& other)
+    : text_(copyText(viewOf(other.internal_string_view()))), size_(other.size_) {}
 
 // The source owns nothing afterwards: a moved value's storage may go away without its destructor.
 String::String(String&& other) noexcept
@@ -82,5 +91,7 @@ String operator+(const String& left, const char* right) {
 String operator+(const String& left, const String& right) {
   return concatenate(viewOf(left), viewOf(right));
 }
+
+String makeString(StringView text) { return Internal::Representation<String>::make(viewOf(text)); }
 
 }  // namespace Orvel

@@ -5,12 +5,14 @@
 
 #include "host/value_types.h"
 #include "orvel_sdk/any_tags.h"
+#include "orvel_sdk/representation.h"
 #include "orvel_sdk/value_factory.h"
 #include "orvel_sdk/value_rep.h"
 
 namespace Orvel {
 namespace {
 
+using Internal::repOf;
 using vtlcmd::Any;
 using vtlcmd::AnyOp;
 
@@ -79,23 +81,24 @@ void manageUntabled(vtlcmd::AnyOpArgs* args) {
 }  // namespace
 
 Any toAny(const Value& value) {
-  if (const AnyMaker make = anyMakerOf(*value.rep()->type)) return make(value.rep()->storage);
-  Any any =
-      vtlcmd::makeTaggedAny<handleTag>(Untabled{value.rep(), &Internal::tagOf(*value.rep()->type)});
+  if (const AnyMaker make = anyMakerOf(*repOf(value)->type)) return make(repOf(value)->storage);
+  Any any = vtlcmd::makeTaggedAny<handleTag>(
+      Untabled{repOf(value), &Internal::tagOf(*repOf(value)->type)});
   any.manager = &manageUntabled;
   return any;
 }
 
 Value fromAny(const Type& type, const Any& any) {
   if (any.manager == &manageUntabled) {
-    const Value held(vtlcmd::any_operations::valueOf<Untabled>(const_cast<Any&>(any))->value);
+    const Value held =
+        Internal::valueOf(vtlcmd::any_operations::valueOf<Untabled>(const_cast<Any&>(any))->value);
     if (equalTypes(held.getType(), type)) return held;
   } else if (any.holdsValue() &&
-             Internal::innermostOf(*type.rep()).storedIndex != Internal::TypeRep::notStored) {
-    const void* address = vtlcmd::any_operations::cast(any, Internal::tagOf(*type.rep()));
+             Internal::innermostOf(*repOf(type)).storedIndex != Internal::TypeRep::notStored) {
+    const void* address = vtlcmd::any_operations::cast(any, Internal::tagOf(*repOf(type)));
     if (address != nullptr) return Internal::copyValue(type, address);
   }
-  throw std::invalid_argument("The Any holds no value of type " + Internal::quoted(*type.rep()) +
+  throw std::invalid_argument("The Any holds no value of type " + Internal::quoted(*repOf(type)) +
                               ".");
 }
 

@@ -3,12 +3,14 @@
 
 #include "host/imports/orvel_values.h"
 #include "orvel_sdk/array_storage.h"
+#include "orvel_sdk/representation.h"
 #include "orvel_sdk/value_rep.h"
 
 namespace Orvel {
 
 using Internal::arrayIn;
 using Internal::elementsOf;
+using Internal::repOf;
 
 ArrayValue::ArrayValue(const Value& value) : value_(value) { arrayIn(value_); }
 ArrayValue::~ArrayValue() = default;
@@ -17,7 +19,7 @@ std::uint64_t ArrayValue::size() const { return elementsOf(arrayIn(value_)).coun
 
 Value ArrayValue::getElement(std::uint64_t index) {
   const Internal::Elements elements = elementsOf(arrayIn(value_));
-  const Internal::TypeRep& type = *value_.rep()->type;
+  const Internal::TypeRep& type = *repOf(value_)->type;
   if (index >= elements.count) {
     throw std::out_of_range("Element " + std::to_string(index) +
                             " was asked for in a value of type " + quoted(type) + " with " +
@@ -25,7 +27,7 @@ Value ArrayValue::getElement(std::uint64_t index) {
   }
   Internal::TypeHandle elementType = elementOf(type);
   const void* element = elements.data + index * elementType->size;
-  return Value(Internal::copyToValueRep(std::move(elementType), element));
+  return Internal::valueOf(Internal::copyToValueRep(std::move(elementType), element));
 }
 
 }  // namespace Orvel

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "orvel_core/owned_block.h"
+#include "orvel_sdk/representation.h"
 #include "orvel_sdk/stored_members.h"
 
 namespace Orvel::Internal {
@@ -44,7 +45,8 @@ template <typename T>
 void addMembers(TypeRep& type, const Reps& reps) {
   if constexpr (StoredStruct<T>) {
     for (const StoredMember& member : StoredMembers<T>::rows) {
-      type.members.emplace_back(member.name, Type(reps[member.type]));
+      type.members.push_back(
+          Representation<StructType::Member>::make(member.name, typeOf(reps[member.type])));
       type.offsets.push_back(member.offset);
     }
     type.structLevels = 1;

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <span>
 
+#include "orvel_sdk/representation.h"
 #include "orvel_sdk/type_rep.h"
 
 namespace Orvel::Internal {
@@ -17,7 +18,7 @@ void layOutMembers(TypeRep& type);
 void copyMembers(const TypeRep& type, void* raw, std::span<const void* const> sources);
 
 inline const TypeRep& memberType(const TypeRep& type, std::size_t index) noexcept {
-  return *type.members[index].declaredType().rep();
+  return *repOf(typeOf(type.members[index]));
 }
 
 }  // namespace Orvel::Internal

@@ -2,12 +2,15 @@
 #include <utility>
 
 #include "host/imports/orvel_types.h"
+#include "orvel_core/make_string.h"
+#include "orvel_sdk/representation.h"
 #include "orvel_sdk/type_rep.h"
 
 namespace Orvel {
 
 using Internal::nameOf;
 using Internal::quoted;
+using Internal::repOf;
 
 NamedEntity::NamedEntity(Internal::TypeHandle rep) noexcept : rep_(std::move(rep)) {}
 NamedEntity::NamedEntity(const NamedEntity& other) = default;
@@ -16,7 +19,7 @@ NamedEntity::~NamedEntity() = default;
 
 String NamedEntity::getFullyQualifiedName() const {
   const std::string name = nameOf(*rep_);
-  return String(StringView{name.data(), name.size()});
+  return makeString({name.data(), name.size()});
 }
 
 Type::Type(Internal::TypeHandle rep) noexcept : NamedEntity(std::move(rep)) {}
@@ -24,16 +27,16 @@ Type::Type(const Type& other) = default;
 Type& Type::operator=(const Type& other) = default;
 Type::~Type() = default;
 
-TypeKind Type::getTypeKind() const noexcept { return rep()->kind; }
+TypeKind Type::getTypeKind() const noexcept { return repOf(*this)->kind; }
 
 ArrayType::ArrayType(const Type& type) : Type(type) {
   if (getTypeKind() != TypeKind::array) {
-    throw std::invalid_argument("The type " + quoted(*rep()) + " is no array type.");
+    throw std::invalid_argument("The type " + quoted(*repOf(*this)) + " is no array type.");
   }
 }
 ArrayType::~ArrayType() = default;
 
-Type ArrayType::getElementType() const { return Type(elementOf(*rep())); }
+Type ArrayType::getElementType() const { return Internal::typeOf(elementOf(*repOf(*this))); }
 
 StructType::Member::Member(String name, const Type& type) : name_(std::move(name)), type_(type) {}
 StructType::Member::Member(const Member& other) = default;
@@ -43,17 +46,18 @@ String StructType::Member::getName() const { return name_; }
 
 StructType::StructType(const Type& type) : Type(type) {
   if (getTypeKind() != Internal::structKind) {
-    throw std::invalid_argument("The type " + quoted(*rep()) + " is no struct type.");
+    throw std::invalid_argument("The type " + quoted(*repOf(*this)) + " is no struct type.");
   }
 }
 StructType::~StructType() = default;
 
 BidirectionalIterator<StructType::Member> StructType::begin() const {
-  return BidirectionalIterator<Member>(rep()->members.data());
+  return BidirectionalIterator<Member>(repOf(*this)->members.data());
 }
 
 BidirectionalIterator<StructType::Member> StructType::end() const {
-  return BidirectionalIterator<Member>(rep()->members.data() + rep()->members.size());
+  const std::vector<Member>& members = repOf(*this)->members;
+  return BidirectionalIterator<Member>(members.data() + members.size());
 }
 
 }  // namespace Orvel

@@ -4,12 +4,15 @@
 #include <string>
 #include <string_view>
 
+#include "orvel_core/make_string.h"
 #include "orvel_core/owned_block.h"
+#include "orvel_sdk/representation.h"
 #include "orvel_sdk/stored_type_reps.h"
 #include "orvel_sdk/struct_storage.h"
 
 namespace Orvel {
 
+using Internal::repOf;
 using Internal::TypeHandle;
 using Internal::TypeRep;
 using Internal::viewOf;
@@ -35,11 +38,13 @@ std::vector<String> knownTypeNames() {
   return names;
 }
 
-Type makeArrayType(const Type& element) { return Type(Internal::arrayOf(element.rep())); }
+Type makeArrayType(const Type& element) {
+  return Internal::typeOf(Internal::arrayOf(repOf(element)));
+}
 
 Type makeStructType(StringView name, std::span<const MemberSpec> members) {
   MutablePtr<TypeRep> type =
-      Internal::makeOwnedMutable<TypeRep>(TypeRep{.name = String(name),
+      Internal::makeOwnedMutable<TypeRep>(TypeRep{.name = makeString(name),
                                                   .kind = Internal::structKind,
                                                   .size = 0,
                                                   .alignment = 1,
@@ -52,7 +57,8 @@ Type makeStructType(StringView name, std::span<const MemberSpec> members) {
                                     Internal::quoted(viewOf(member.name)) + ".");
       }
     }
-    type->members.emplace_back(member.name, member.type);
+    type->members.push_back(
+        Internal::Representation<StructType::Member>::make(member.name, member.type));
   }
   Internal::layOutMembers(*type);
   if (type->structLevels > Internal::maximumStructLevels) {
@@ -60,17 +66,22 @@ Type makeStructType(StringView name, std::span<const MemberSpec> members) {
                                 std::to_string(Internal::maximumStructLevels - 1) +
                                 " structs inside one another.");
   }
-  return Type(TypeHandle(Ptr<TypeRep>(std::move(type))));
+  return Internal::typeOf(TypeHandle(Ptr<TypeRep>(std::move(type))));
 }
 
 bool equalTypes(const Type& a, const Type& b) noexcept {
-  return a.rep()->depth == b.rep()->depth &&
-         &Internal::innermostOf(*a.rep()) == &Internal::innermostOf(*b.rep());
+  const TypeRep& left = *repOf(a);
+  const TypeRep& right = *repOf(b);
+  return left.depth == right.depth && &Internal::innermostOf(left) == &Internal::innermostOf(right);
+}
+
+const Type& declaredType(const StructType::Member& member) noexcept {
+  return Internal::typeOf(member);
 }
 
 Type Internal::storedType(StoredTypeId id) {
   const TypeHandle& element = storedTypeReps()[id.index];
-  return Type(id.depth == 0 ? element : arrayOf(element, id.depth));
+  return typeOf(id.depth == 0 ? element : arrayOf(element, id.depth));
 }
 
 }  // namespace Orvel

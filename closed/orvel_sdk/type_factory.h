@@ -33,6 +33,9 @@ ORVEL_SDK_API Type makeStructType(StringView name, std::span<const MemberSpec> m
 /// Whether two handles stand for one type. Array types are equal when their elements are.
 ORVEL_SDK_API bool equalTypes(const Type& a, const Type& b) noexcept;
 
+/// The declared type of a struct's member; valid as long as the member is.
+ORVEL_SDK_API const Type& declaredType(const StructType::Member& member) noexcept;
+
 namespace Internal {
 ORVEL_SDK_API Type storedType(StoredTypeId id);
 }  // namespace Internal

@@ -3,6 +3,7 @@
 
 #include "host/imports/orvel_values.h"
 #include "orvel_sdk/array_storage.h"
+#include "orvel_sdk/representation.h"
 #include "orvel_sdk/value_factory.h"
 #include "orvel_sdk/value_rep.h"
 
@@ -13,7 +14,7 @@ Value::Value(const Value& other) = default;
 Value& Value::operator=(const Value& other) = default;
 Value::~Value() = default;
 
-Type Value::getType() const { return Type(rep_->type); }
+Type Value::getType() const { return Internal::typeOf(rep_->type); }
 
 bool Value::getBool() const { return valueAs<bool>(*this); }
 std::int32_t Value::getInt() const { return valueAs<std::int32_t>(*this); }
@@ -37,7 +38,7 @@ ValueHandle copyToValueRep(TypeHandle type, const void* source) {
 }
 
 const Ptr<void>& arrayIn(const Value& value) {
-  const ValueRep& rep = *value.rep();
+  const ValueRep& rep = *repOf(value);
   if (rep.type->kind != TypeKind::array) {
     throw std::invalid_argument("A value of type " + quoted(*rep.type) + " was read as an array.");
   }

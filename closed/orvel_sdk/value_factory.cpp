@@ -6,23 +6,25 @@
 #include <vector>
 
 #include "orvel_sdk/array_storage.h"
+#include "orvel_sdk/representation.h"
 #include "orvel_sdk/struct_storage.h"
 #include "orvel_sdk/value_rep.h"
 
 namespace Orvel {
 
 using Internal::quoted;
+using Internal::repOf;
 using Internal::TypeRep;
 
 Value makeZero(const Type& type) {
-  const TypeRep& rep = *type.rep();
-  return Value(
-      Internal::makeValueRep(type.rep(), [&](void* raw) { rep.operations->zero(rep, raw); }));
+  const TypeRep& rep = *repOf(type);
+  return Internal::valueOf(
+      Internal::makeValueRep(repOf(type), [&](void* raw) { rep.operations->zero(rep, raw); }));
 }
 
 Value makeStruct(const Type& type, std::span<const Value> members) {
   const StructType structType(type);
-  const TypeRep& rep = *structType.rep();
+  const TypeRep& rep = *repOf(structType);
   if (members.size() != rep.members.size()) {
     throw std::invalid_argument("The type " + quoted(rep) + " has " +
                                 std::to_string(rep.members.size()) + " members, not " +
@@ -31,25 +33,25 @@ Value makeStruct(const Type& type, std::span<const Value> members) {
   std::vector<const void*> sources;
   for (const Value& member : members) {
     const StructType::Member& declared = rep.members[sources.size()];
-    if (!equalTypes(member.getType(), declared.declaredType())) {
+    if (!equalTypes(member.getType(), Internal::typeOf(declared))) {
       throw std::invalid_argument("The member " + quoted(Internal::viewOf(declared.getName())) +
                                   " of the type " + quoted(rep) + " is of type " +
-                                  quoted(*declared.declaredType().rep()) + ", not " +
-                                  quoted(*member.rep()->type) + ".");
+                                  quoted(*repOf(Internal::typeOf(declared))) + ", not " +
+                                  quoted(*repOf(member)->type) + ".");
     }
     sources.push_back(valueAddress(member));
   }
-  return Value(Internal::makeValueRep(
-      type.rep(), [&](void* raw) { Internal::copyMembers(rep, raw, sources); }));
+  return Internal::valueOf(Internal::makeValueRep(
+      repOf(type), [&](void* raw) { Internal::copyMembers(rep, raw, sources); }));
 }
 
 Value makeArray(const Type& elementType, std::span<const Value> elements) {
-  auto array = Internal::makeOwned<Internal::RunTimeArray>(elementType.rep(), elements.size());
+  auto array = Internal::makeOwned<Internal::RunTimeArray>(repOf(elementType), elements.size());
   for (const Value& element : elements) {
     if (!equalTypes(element.getType(), elementType)) {
       throw std::invalid_argument("Element " + std::to_string(array->size) + " is of type " +
-                                  quoted(*element.rep()->type) + ", not " +
-                                  quoted(*elementType.rep()) + ".");
+                                  quoted(*repOf(element)->type) + ", not " +
+                                  quoted(*repOf(elementType)) + ".");
     }
     array->append(valueAddress(element));
   }
@@ -57,19 +59,19 @@ Value makeArray(const Type& elementType, std::span<const Value> elements) {
   return Internal::copyValue(makeArrayType(elementType), &opaque);
 }
 
-const void* valueAddress(const Value& value) noexcept { return value.rep()->storage; }
+const void* valueAddress(const Value& value) noexcept { return repOf(value)->storage; }
 
 Value Internal::copyValue(const Type& type, const void* source) {
-  return Value(copyToValueRep(type.rep(), source));
+  return Internal::valueOf(copyToValueRep(repOf(type), source));
 }
 
 const void* Internal::checkedAddress(const Value& value, StoredTypeId id) {
-  const TypeRep& type = *value.rep()->type;
+  const TypeRep& type = *repOf(value)->type;
   if (!isStored(type, id)) {
     throw std::invalid_argument("A value of type " + quoted(type) + " was read as " +
-                                quoted(*storedType(id).rep()) + ".");
+                                quoted(*repOf(storedType(id))) + ".");
   }
-  return value.rep()->storage;
+  return repOf(value)->storage;
 }
 
 }  // namespace Orvel

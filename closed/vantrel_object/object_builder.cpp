@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "orvel_core/make_string.h"
 #include "orvel_core/owned_block.h"
 
 namespace Vantrel {
@@ -38,7 +39,7 @@ class PropertyList final : public Object {
   void set(Orvel::StringView key, vtlcmd::Any value) {
     const auto found = find(properties, key);
     if (found == properties.end()) {
-      properties.push_back({Orvel::String(key), std::move(value)});
+      properties.push_back({Orvel::makeString(key), std::move(value)});
     } else {
       swap(found->value, value);
     }

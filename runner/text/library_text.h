@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "host/imports/orvel_string.h"
+#include "orvel_core/make_string.h"
 
 /// Between the type library's strings and the standard ones. Lengths are kept, so a zero byte in a
 /// text survives.
@@ -14,7 +15,7 @@ inline Orvel::StringView viewOf(std::string_view text) noexcept {
   return {text.data(), text.size()};
 }
 
-inline Orvel::String libraryText(std::string_view text) { return Orvel::String(viewOf(text)); }
+inline Orvel::String libraryText(std::string_view text) { return Orvel::makeString(viewOf(text)); }
 
 inline std::string standardText(const Orvel::String& text) {
   const Orvel::StringView view = text;

@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 #include <string>
 
+#include "orvel_core/make_string.h"
+
 namespace vtlcmd {
 namespace {
 
@@ -91,9 +93,8 @@ TEST(PortValueMap, BucketIsTheHashMasked) {
 }
 
 TEST(PortValueMap, NamesAreToldApartBehindANulByte) {
-  const Orvel::String names[] = {Orvel::String("a"), Orvel::String(Orvel::StringView{"a\0b", 3}),
-                                 Orvel::String(Orvel::StringView{"a\0c", 3}),
-                                 Orvel::String(Orvel::StringView{"a\0", 2})};
+  const Orvel::String names[] = {Orvel::String("a"), Orvel::makeString({"a\0b", 3}),
+                                 Orvel::makeString({"a\0c", 3}), Orvel::makeString({"a\0", 2})};
   PortValueMap map;
   for (std::size_t i = 0; i < 3; ++i) map.insert(names[i], {"", std::to_string(i).c_str()});
   EXPECT_EQ(map.size(), 3U);

@@ -5,6 +5,7 @@
 #include <map>
 #include <string>
 
+#include "orvel_core/make_string.h"
 #include "support/test_host.h"
 
 namespace vtlcmd {
@@ -101,10 +102,10 @@ TYPED_TEST(FromString, SignsAndFormsByType) {
 }
 
 TYPED_TEST(FromString, TextEndsAtItsFirstNul) {
-  const Orvel::String text(Orvel::StringView{"12\0x", 4});
+  const Orvel::String text = Orvel::makeString({"12\0x", 4});
   if constexpr (std::is_same_v<TypeParam, bool>) {
     // Words compare whole: the text behind the NUL makes it another text.
-    const Orvel::String word(Orvel::StringView{"true\0", 5});
+    const Orvel::String word = Orvel::makeString({"true\0", 5});
     EXPECT_EQ(this->parse(word), std::nullopt);
     EXPECT_THAT(TestHost::messagesOf(this->logger_),
                 ElementsAre("error prefix: Unable to convert 'true' to a bool value."));

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "orvel_core/make_string.h"
 #include "support/allocation_count.h"
 #include "support/test_host.h"
 #include "support/type_samples.h"
@@ -281,7 +282,7 @@ TEST(InputSetterOfInt, DefaultThatCannotBeCopiedLeavesTheResult) {
 
 TEST(InputSetterOfInt, TextEndsAtItsFirstNul) {
   TestHost host;
-  host.inputValues.insert("p", {"", Orvel::String(Orvel::StringView{"12\0x", 4})});
+  host.inputValues.insert("p", {"", Orvel::makeString({"12\0x", 4})});
   Any value;
   EXPECT_TRUE(host.setInput(Orvel::typeOf<std::int32_t>(), value, "p"));
   EXPECT_THAT(host.messages(), ElementsAre("verbose Set input port 'p': (int) 12"));

@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 #include <string>
 
+#include "orvel_core/make_string.h"
+
 namespace vtlcmd {
 namespace {
 
@@ -190,7 +192,7 @@ TEST(VtlCmdLogger, AddTextsAppendsUpToTheFirstNul) {
   logger.texts = {"before"};
   Orvel::Array<Orvel::String> array;
   array.append("one");
-  array.append(Orvel::String(Orvel::StringView{"tw\0o", 4}));
+  array.append(Orvel::makeString({"tw\0o", 4}));
   array.append("");
   logger.addTexts(array);
   EXPECT_EQ(logger.texts, (std::vector<std::string>{"before", "one", "tw", ""}));

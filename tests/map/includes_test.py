@@ -22,8 +22,6 @@ PLATFORM_HEADERS = {"cpuid.h", "fcntl.h", "immintrin.h", "unistd.h", "windows.h"
 
 # Circles that are known, each with its reason.
 KNOWN_CIRCLES = {
-    ("src", ("host", "host/imports")):
-        "imported operations take and give an Any, and an Any is tagged by an imported record",
     ("runner", ("command_line", "manual")):
         "the program that writes the manual pages lists the commands; a command shows the form of "
         "graph files, which is a manual page too",

@@ -16,6 +16,7 @@
 #include "input/number_parsing.h"
 #include "input/set_from_string.h"
 #include "logging/vtlcmd_logger.h"
+#include "orvel_core/make_string.h"
 #include "text_model.h"
 
 namespace vtlcmd::oracle {
@@ -32,7 +33,7 @@ constexpr bool isVector<Math::Vector<Component, Count>> = true;
 template <typename T>
 TextAnswer<T> expectedAnswer(const std::string& text) {
   if constexpr (std::same_as<T, Orvel::String>) {
-    return {Orvel::String(Orvel::StringView{text.data(), text.size()}), {}};
+    return {Orvel::makeString({text.data(), text.size()}), {}};
   } else if constexpr (std::same_as<T, ObjectPtr>) {
     return {std::nullopt, {prefix + "UNSUPPORTED: setFromString() for Object"}};
   } else if constexpr (isVector<T>) {
@@ -103,7 +104,7 @@ std::string escaped(std::string_view text) {
 class Comparison {
  public:
   explicit Comparison(const std::string& text)
-      : text_(text), portText_(Orvel::StringView{text.data(), text.size()}) {}
+      : text_(text), portText_(Orvel::makeString({text.data(), text.size()})) {}
 
   template <typename T>
   void compareAll() {

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "orvel_core/make_string.h"
 #include "orvel_sdk/type_factory.h"
 #include "orvel_sdk/value_factory.h"
 #include "support/built_text.h"
@@ -102,7 +103,7 @@ TEST(ValueTextOfVectors, ComponentsHaveNoSuffix) {
 TEST(ValueTextOfStrings, NothingIsEscapedAndTheFirstNulEndsIt) {
   EXPECT_EQ(read(Orvel::String("a\"b\nc")), "\"a\"b\nc\"");
   EXPECT_EQ(read(Orvel::String("")), "\"\"");
-  EXPECT_EQ(read(Orvel::String(Orvel::StringView{"a\0b", 3})), "\"a\"");
+  EXPECT_EQ(read(Orvel::makeString({"a\0b", 3})), "\"a\"");
 }
 
 Orvel::Value makeStructOf(const std::vector<Orvel::Value>& members) {

@@ -2,6 +2,7 @@
 #include "checks/subjects.h"
 #include "checks/type_names.h"
 #include "host/port_host.h"
+#include "orvel_core/make_string.h"
 #include "orvel_sdk/type_factory.h"
 #include "orvel_sdk/value_factory.h"
 
@@ -64,7 +65,7 @@ void manyPortsAreFound(Session& session) {
 
 void textEndsAtItsNul(Session& session) {
   PortHost host(session);
-  host.giveText(Orvel::String(Orvel::StringView{"12\0x", 4}));
+  host.giveText(Orvel::makeString({"12\0x", 4}));
   expect(host.setInput(Orvel::typeOf<std::int32_t>()), "the answer is true");
   expectLines("messages", host.messages(), {"verbose Set input port 'port': (int) 12"});
 }

@@ -3,6 +3,7 @@
 #include "checks/outcome.h"
 #include "checks/subjects.h"
 #include "host/port_host.h"
+#include "orvel_core/make_string.h"
 #include "orvel_sdk/type_factory.h"
 #include "orvel_sdk/value_factory.h"
 
@@ -70,7 +71,7 @@ void vectorsHaveNoSuffix(Session& session) {
 void stringsStandBare(Session& session) {
   PortHost host(session);
   extremeReads(host, Orvel::String("a \"b\"\nc\\"), "\"a \"b\"\nc\\\"");
-  extremeReads(host, Orvel::String(Orvel::StringView{"ab\0cd", 5}), "\"ab\"");
+  extremeReads(host, Orvel::makeString({"ab\0cd", 5}), "\"ab\"");
 }
 
 void structsWithOtherMembers(Session& session) {

@@ -7,6 +7,7 @@
 #include "checks/subjects.h"
 #include "checks/type_names.h"
 #include "host/port_host.h"
+#include "orvel_core/make_string.h"
 #include "orvel_sdk/type_factory.h"
 #include "text_generator.h"
 #include "text_model.h"
@@ -46,7 +47,7 @@ bool sameBits(const T& a, const T& b) {
 template <typename T>
 void compare(Session& session, const std::string& text) {
   PortHost host(session);
-  host.giveText(Orvel::String(Orvel::StringView{text.data(), text.size()}));
+  host.giveText(Orvel::makeString({text.data(), text.size()}));
   const auto wanted =
       answerOf<T>(text, std::string("Input port 'port' (") + valueType<T>().name + "): ");
   const bool answer = host.setInput(Orvel::typeOf<T>());

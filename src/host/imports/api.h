@@ -1,7 +1,14 @@
 #pragma once
 
-/// Marks the declarations of the closed libraries: exported while the library itself is compiled
-/// (its build defines <Library>_EXPORTS), imported by everyone else.
+/// The headers of this folder declare what the plug-in imports from the closed libraries, and what
+/// those share with it as header code. They hold for every build of the libraries; what one of them
+/// has besides is declared elsewhere. Conditions stand in brackets, as in host/host_records.h;
+/// where [any thread] stands on an operation that isn't const, no other thread may use that object.
+/// Constructors of an object from nothing, a copy or a move, and its end, are [any thread].
+/// What is [may throw] changes nothing that exists when it does.
+
+/// Marks the declarations of a library: exported while the library itself is compiled (its build
+/// defines <Library>_EXPORTS), imported by everyone else.
 
 #if defined(_WIN32)
 #define CLOSED_LIBRARY_EXPORT __declspec(dllexport)

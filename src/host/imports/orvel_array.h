@@ -14,15 +14,18 @@ namespace Orvel {
 
 namespace Internal {
 
-/// What the library's allocator is told of an element, in bytes.
+/// What the library's allocator is told of an element, in bytes; the alignment is a power of two.
+/// A constant, whatever block was allocated with it.
 class ORVEL_CORE_API UntypedTypeRep {
  public:
   constexpr UntypedTypeRep(std::uint64_t size, std::uint64_t alignment) noexcept
       : elementSize(size), elementAlignment(alignment) {}
 
-  /// A raw block for `count` elements, at least one. Throws std::bad_alloc.
+  /// A raw block for `count` elements, at least one; the caller's until it is given back. Throws
+  /// std::bad_alloc. [any thread, may throw]
   void* allocate(std::uint64_t count) const;
-  /// Gives a block back with the count that it was allocated with.
+  /// Gives a block back, with the count that it was allocated with and by the same sizes.
+  /// [any thread, no throw]
   void deallocate(void* block, std::uint64_t count) const noexcept;
 
   std::uint64_t elementSize;
@@ -31,7 +34,9 @@ class ORVEL_CORE_API UntypedTypeRep {
 
 }  // namespace Internal
 
-/// The library's growing array. It owns its elements; memory comes from the library.
+/// The library's growing array. It owns its elements, in a block of `capacity` of them that the
+/// library allocated; without a block `data` is null. A pointer to an element is valid until the
+/// array grows or ends. Reads are [any thread]; a change excludes every other use of the array.
 template <typename T>
 class Array {
  public:
@@ -52,7 +57,7 @@ class Array {
 
   /// Grows by doubling, from 0 to 1 first; then the size, and the element is made of `source` in
   /// its place. `source` lies outside the array. When the library has no memory, or making the
-  /// element throws, the array holds the elements that it held.
+  /// element throws, the array holds the elements that it held. [may throw]
   template <std::convertible_to<T> Source = T>
   void append(Source&& source) {
     if (size == capacity) moveTo(capacity == 0 ? 1 : capacity + capacity);

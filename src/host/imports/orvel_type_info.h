@@ -8,8 +8,9 @@
 namespace Orvel::Internal {
 
 /// The tag of a stored type. Tags are compared by content, so that every module may have its own.
+/// A tag is constant and lives until the process ends, or its module is unloaded. [any thread]
 struct TypeInfo {
-  /// The type's spelling, read by `length`.
+  /// The type's spelling, read by `length`, in bytes; static storage.
   const char* name;
   std::uint64_t length;
   /// Not 0: equal to itself alone. 0 in every tag of ours.
@@ -20,7 +21,8 @@ struct TypeInfo {
   std::uint32_t rank;
   std::uint64_t reserved;
 
-  /// The tag that stands for no type at all.
+  /// The tag that stands for no type at all, and the type of an empty Any. What it says of itself
+  /// is the library's.
   ORVEL_CORE_API static const TypeInfo s_void;
 };
 

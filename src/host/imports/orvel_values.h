@@ -17,11 +17,10 @@ using ValueHandle = Ptr<const ValueRep>;
 }  // namespace Internal
 
 /// A handle of a value together with its type; copies share the value, which never changes.
-/// A getter of another type than the value's is the caller's mistake; the library decides.
+/// Operations on a constant handle are [any thread]. A getter of another type than the value's is
+/// the caller's mistake, and the library decides what comes of it. [may throw]
 class ORVEL_SDK_API Value {
  public:
-  /// By the library only.
-  explicit Value(Internal::ValueHandle rep) noexcept;
   Value(const Value& other);
   Value& operator=(const Value& other);
   ~Value();
@@ -36,52 +35,63 @@ class ORVEL_SDK_API Value {
   float getFloat() const;
   double getDouble() const;
   String getString() const;
-  /// The object of a class value.
+  /// One more use of the object that a class value holds; null when it holds none.
   Ptr<void> getOrvelClass() const;
 
-  /// The array of an array value whose elements are stored as T.
+  /// One more use of the array of an array value whose elements are stored as T.
   template <typename T>
   Ptr<const Array<T>> getArray() const {
     return getOpaqueArray().castTo<const Array<T>>();
   }
 
-  /// The library's storage behind the handle; meaningless outside the library.
-  const Internal::ValueHandle& rep() const noexcept { return rep_; }
+ protected:
+  explicit Value(Internal::ValueHandle rep) noexcept;
 
  private:
+  friend struct Internal::Representation<Value>;
   Ptr<void> getOpaqueArray() const;
 
   Internal::ValueHandle rep_;
 };
 
-/// A view of an array value.
+/// A view of an array value; it keeps the value alive. Making one of any other value is the
+/// caller's mistake, and the library decides what comes of it. [may throw]
 class ORVEL_SDK_API ArrayValue {
  public:
   explicit ArrayValue(const Value& value);
   ~ArrayValue();
 
+  /// [any thread, may throw]
   std::uint64_t size() const;
+  /// A value of its own, which may outlive the array. An index that isn't below `size` is the
+  /// caller's mistake. [any thread, may throw]
   Value getElement(std::uint64_t index);
 
  private:
   Value value_;
 };
 
-/// A view of a struct value.
+/// A view of a struct value; it keeps the value alive. Making one of any other value is the
+/// caller's mistake, and the library decides what comes of it. [may throw]
 class ORVEL_SDK_API StructValue {
  public:
   class ORVEL_SDK_API Member : public Value {
    public:
-    using Value::Value;
     Member(const Member& other);
     ~Member();
+
+   private:
+    friend class StructValue;
+    explicit Member(Internal::ValueHandle rep) noexcept : Value(std::move(rep)) {}
   };
 
   explicit StructValue(const Value& value);
   ~StructValue();
 
+  /// [any thread, may throw]
   StructType getType() const;
-  /// The member of that name; asking for one that isn't there is the caller's mistake.
+  /// The member of that name, a value of its own; asking for one that isn't there is the caller's
+  /// mistake. [any thread, may throw]
   Member operator[](const String& name) const;
 
  private:

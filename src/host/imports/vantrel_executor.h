@@ -2,7 +2,6 @@
 
 #include <cstdint>
 
-#include "host/any.h"
 #include "host/imports/api.h"
 #include "host/imports/orvel_array.h"
 #include "host/imports/orvel_string.h"
@@ -10,6 +9,7 @@
 #include "host/imports/orvel_values.h"
 
 namespace vtlcmd {
+class Any;
 struct InputValueData;
 struct OutputValueData;
 }  // namespace vtlcmd
@@ -24,7 +24,9 @@ class EntityIndexedList;
 namespace VantrelGraph::Executor {
 
 /// The executor's interface to a plug-in's translation object. The order of the virtual
-/// operations is the border: their slots are counted in declaration order.
+/// operations is the border: their slots are counted in declaration order. What a plug-in's own
+/// bodies promise stands with them; the executor's are called by hosts alone and never here.
+/// All operations but `destroy` and the destructor are [any thread].
 class VANTREL_BOARD_EXECUTOR_API TypeTranslation {
  public:
   class PortData;
@@ -36,13 +38,18 @@ class VANTREL_BOARD_EXECUTOR_API TypeTranslation {
   TypeTranslation& operator=(const TypeTranslation&) = delete;
 
   virtual ~TypeTranslation();
-  /// Ends the object; how a host disposes of what a plug-in allocated.
+  /// Ends the object; how a host disposes of what a plug-in allocated. Once, and nothing else of
+  /// the object afterwards or at the same time. [no throw]
   virtual void destroy() = 0;
   virtual void getSupportedTypes(const Orvel::Library& library,
                                  Orvel::EntityIndexedList<const Orvel::Type>& types) const;
+  /// Appends to `names`, which the host owns. [may throw]
   virtual void getSupportedTypeNames(Orvel::Array<Orvel::String>& names) const = 0;
+  /// True when `value` holds the port's value. `data` lives for the call. [logger's thread, may
+  /// throw]
   virtual bool setInputValue(const Orvel::Type& type, vtlcmd::Any& value,
                              vtlcmd::InputValueData* data) const = 0;
+  /// True when the value was reported. `data` lives for the call. [logger's thread, may throw]
   virtual bool getOutputAny(const vtlcmd::Any& value, vtlcmd::OutputValueData* data) const = 0;
   virtual bool portAdded(const Orvel::String& name, PortDirection direction,
                          const Orvel::Type& type, const Orvel::Metadata& metadata,
@@ -60,10 +67,11 @@ class VANTREL_BOARD_EXECUTOR_API TypeTranslation {
 /// The interface with the operation that a later executor added.
 class VANTREL_BOARD_EXECUTOR_API TypeTranslationPreview : public TypeTranslation {
  public:
+  /// True when the value was reported. `data` lives for the call. [logger's thread, may throw]
   virtual bool getOutputValue(const Orvel::Value& value, vtlcmd::OutputValueData* data) const = 0;
 
  protected:
-  /// Keeps the translation's name.
+  /// Keeps a copy of the translation's name. [may throw]
   explicit TypeTranslationPreview(const Orvel::String& name);
   ~TypeTranslationPreview() override;
 

@@ -6,7 +6,8 @@
 
 namespace Vantrel::Math {
 
-/// Components in order; the type library knows their names, nothing here spells them.
+/// Components in order, a plain value without code of a library; the type library knows their
+/// names, nothing here spells them.
 template <typename Component, std::size_t Count>
 struct Vector {
   using ComponentType = Component;

@@ -9,7 +9,7 @@ namespace Vantrel {
 
 namespace Simulation {
 
-/// The time of a frame.
+/// The time of a frame, a plain value without code of a library.
 struct Time {
   /// Always 1 here.
   std::int64_t mode;
@@ -28,7 +28,7 @@ static_assert(offsetof(Time, time) == 8 && offsetof(Time, frame) == 16 &&
 
 namespace File::Project {
 
-/// The files of a run, in narrow text.
+/// The files of a run, in narrow text: UTF-8, on Windows the file system's code page.
 struct SceneInfo {
   Orvel::String fileName;
   /// With its trailing separator.

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "host/imports/orvel_string.h"
+#include "orvel_core/make_string.h"
 
 namespace Orvel {
 namespace {
@@ -23,7 +24,7 @@ std::string bytesOf(const String& text) {
 
 TEST(String, EmptyOnesOwnNothingAndAreTerminated) {
   for (const String& empty : {String(), String(""), String(static_cast<const char*>(nullptr)),
-                              String(StringView{nullptr, 0}), String(StringView{"abc", 0})}) {
+                              makeString({nullptr, 0}), makeString({"abc", 0})}) {
     EXPECT_TRUE(ownsNothing(empty));
     EXPECT_STREQ(empty.c_str(), "");
   }
@@ -38,13 +39,13 @@ TEST(String, CopiesATerminatedTextUpToItsEnd) {
 }
 
 TEST(String, CopiesAViewByLength) {
-  const String text(withNul);
+  const String text = makeString(withNul);
   EXPECT_EQ(bytesOf(text), std::string("a\0b", 3));
   EXPECT_EQ(text.c_str()[3], '\0');
 }
 
 TEST(String, CopiesHaveTheirOwnText) {
-  const String text(withNul);
+  const String text = makeString(withNul);
   const String copy = text;
   EXPECT_EQ(bytesOf(copy), bytesOf(text));
   EXPECT_NE(copy.c_str(), text.c_str());
@@ -65,7 +66,7 @@ TEST(String, MovedFromOwnsNothing) {
 
 TEST(String, AssignsFromEverySource) {
   String text("old");
-  text = String(withNul);
+  text = makeString(withNul);
   EXPECT_EQ(bytesOf(text), std::string("a\0b", 3));
   const String other("other");
   text = other;
@@ -93,16 +94,16 @@ TEST(String, EqualityComparesWholeTexts) {
   EXPECT_FALSE(String("abc") == String("ab"));
   EXPECT_TRUE(String("abc") == "abc");
   EXPECT_FALSE(String("abc") == "abcd");
-  EXPECT_FALSE(String(withNul) == "a");
-  EXPECT_FALSE(String(withNul) == String("a"));
-  EXPECT_TRUE(String(withNul) == String(withNul));
+  EXPECT_FALSE(makeString(withNul) == "a");
+  EXPECT_FALSE(makeString(withNul) == String("a"));
+  EXPECT_TRUE(makeString(withNul) == makeString(withNul));
   EXPECT_TRUE(String() == "");
   EXPECT_TRUE(String() == static_cast<const char*>(nullptr));
 }
 
 TEST(String, ComparesByUnsignedBytesTheShorterFirst) {
-  const String ascending[] = {"",    "B", "a",    String(withNul), "ab",
-                              "abc", "b", "\x7f", "\x80",          "\xff"};
+  const String ascending[] = {"",     "B",    "a",   makeString(withNul), "ab", "abc", "b",
+                              "\x7f", "\x80", "\xff"};
   const int count = std::size(ascending);
   for (int i = 0; i < count; ++i) {
     for (int j = 0; j < count; ++j) {
@@ -116,7 +117,7 @@ TEST(String, ComparesByUnsignedBytesTheShorterFirst) {
 TEST(String, Concatenates) {
   EXPECT_EQ(bytesOf(String("ab") + "cd"), "abcd");
   EXPECT_EQ(bytesOf(String("ab") + static_cast<const char*>(nullptr)), "ab");
-  EXPECT_EQ(bytesOf(String(withNul) + String("c")), std::string("a\0bc", 4));
+  EXPECT_EQ(bytesOf(makeString(withNul) + String("c")), std::string("a\0bc", 4));
   EXPECT_TRUE(ownsNothing(String() + ""));
   EXPECT_TRUE(ownsNothing(String() + String()));
 }

@@ -4,6 +4,7 @@
 #include "closed/support/expect_error.h"
 #include "closed/support/type_text.h"
 #include "orvel_core/make_ptr.h"
+#include "orvel_sdk/representation.h"
 #include "orvel_sdk/type_factory.h"
 
 namespace Orvel {
@@ -14,15 +15,15 @@ using testing::nameOf;
 
 TEST(Type, CopiesShareTheDescription) {
   const Type type = makeStructType(String("Own::Row"), {});
-  EXPECT_EQ(useCount(type.rep()), 1U);
+  EXPECT_EQ(useCount(Internal::repOf(type)), 1U);
   {
     Type assigned = typeOf<int>();
     assigned = type;
     const Type copy = assigned;
-    EXPECT_EQ(useCount(type.rep()), 3U);
+    EXPECT_EQ(useCount(Internal::repOf(type)), 3U);
     EXPECT_EQ(nameOf(copy), "Own::Row");
   }
-  EXPECT_EQ(useCount(type.rep()), 1U);
+  EXPECT_EQ(useCount(Internal::repOf(type)), 1U);
 }
 
 TEST(Type, KindTellsArraysFromTheRest) {
@@ -68,10 +69,10 @@ TEST(StructType, IteratorsCopyAndCompareByPosition) {
 }
 
 TEST(StructType, MembersAreValues) {
-  const StructType::Member member("name", typeOf<float>());
-  const StructType::Member copy = member;
+  const StructType type(makeStructType({"s", 1}, std::array{MemberSpec{"name", typeOf<float>()}}));
+  const StructType::Member copy = *type.begin().operator->();
   EXPECT_EQ(copy.getName(), "name");
-  EXPECT_TRUE(equalTypes(copy.declaredType(), typeOf<float>()));
+  EXPECT_TRUE(equalTypes(declaredType(copy), typeOf<float>()));
 }
 
 }  // namespace

@@ -7,6 +7,8 @@
 #include "closed/support/stored_samples.h"
 #include "closed/support/type_text.h"
 #include "host/imports/orvel_values.h"
+#include "orvel_core/make_string.h"
+#include "orvel_sdk/representation.h"
 #include "orvel_sdk/value_factory.h"
 
 namespace Orvel {
@@ -44,7 +46,7 @@ TEST(Value, EachGetterReadsItsType) {
   EXPECT_EQ(makeValue(std::uint64_t{18446744073709551615U}).getULong(), 18446744073709551615U);
   EXPECT_EQ(makeValue(0.1F).getFloat(), 0.1F);
   EXPECT_EQ(makeValue(0.1).getDouble(), 0.1);
-  EXPECT_EQ(testing::textOf(makeValue(String(StringView{"a\0b", 3})).getString()),
+  EXPECT_EQ(testing::textOf(makeValue(makeString({"a\0b", 3})).getString()),
             std::string("a\0b", 3));
 }
 
@@ -75,10 +77,10 @@ TEST(Value, EveryOtherGetterThrowsAndNamesBothTypes) {
 
 TEST(Value, CopiesShareTheValue) {
   const Value value = makeValue(String("abc"));
-  EXPECT_EQ(useCount(value.rep()), 1U);
+  EXPECT_EQ(useCount(Internal::repOf(value)), 1U);
   Value assigned = makeValue(1);
   assigned = value;
-  EXPECT_EQ(useCount(value.rep()), 2U);
+  EXPECT_EQ(useCount(Internal::repOf(value)), 2U);
   EXPECT_TRUE(assigned.getString() == "abc");
 }
 
@@ -127,7 +129,7 @@ TEST(Value, MayBeUsedOnSeveralThreads) {
   }
   EXPECT_EQ(useCount(array), 2U);
   EXPECT_EQ(useCount((*array)[1]), 1U);
-  EXPECT_EQ(useCount(value.rep()), 1U);
+  EXPECT_EQ(useCount(Internal::repOf(value)), 1U);
 }
 
 TEST(ArrayValue, WalksElementsInOrderAtAnyDepth) {

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "host/imports/orvel_types.h"
+#include "orvel_sdk/type_factory.h"
 
 namespace Orvel::testing {
 
@@ -20,7 +21,8 @@ inline std::vector<std::string> membersOf(const Type& type) {
   std::vector<std::string> members;
   const auto end = structType.end();
   for (auto member = structType.begin(); member != end; member++) {
-    members.push_back(textOf(member->getName()) + ": " + nameOf(member->declaredType()));
+    members.push_back(textOf(member->getName()) + ": " +
+                      nameOf(declaredType(*member.operator->())));
   }
   return members;
 }
