@@ -1,7 +1,7 @@
 # Writes generated/build_facts.h, the identity of a build, anew whenever anything that the plug-in is
 # made of or the checked-out commit changes. Call it with the folder of the plug-in's sources.
 function(add_build_facts folder)
-  set(header ${CMAKE_BINARY_DIR}/generated/build_facts.h)
+  set(header ${PROJECT_BINARY_DIR}/generated/build_facts.h)
   # Headers and sources alike: each of them is in the plug-in, or in its copy for another platform.
   file(GLOB_RECURSE triggers CONFIGURE_DEPENDS ${folder}/* ${PROJECT_SOURCE_DIR}/cmake/*)
   list(APPEND triggers ${PROJECT_SOURCE_DIR}/CMakeLists.txt)
@@ -19,6 +19,6 @@ function(add_build_facts folder)
     VERBATIM)
   add_custom_target(build_facts_header DEPENDS ${header})
   add_library(build_facts INTERFACE)
-  target_include_directories(build_facts INTERFACE ${CMAKE_BINARY_DIR}/generated)
+  target_include_directories(build_facts INTERFACE ${PROJECT_BINARY_DIR}/generated)
   add_dependencies(build_facts build_facts_header)
 endfunction()

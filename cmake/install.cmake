@@ -1,54 +1,65 @@
-# The installed tree. Its folders are fixed, whatever the machine's habit: the program looks for the
-# plug-in at ../lib/vtlcmd, and every library for the others relative to itself.
+# The installed tree, in four components: the plug-in, the stand-ins for the closed libraries, what
+# the development of a host needs, and the programs with all that comes along.
 include(CMakePackageConfigHelpers)
+include(cmake/install_plug_in.cmake)
+set(CMAKE_INSTALL_DEFAULT_COMPONENT_NAME programs)
 
 set(closed_libraries OrvelCore OrvelSDK VantrelBoardExecutor VantrelObject VantrelGeometry)
 
-install(TARGETS vtlcmd RUNTIME DESTINATION bin)
-install(TARGETS ${closed_libraries} vtlcmd_shared EXPORT vtlcmd_targets
-  RUNTIME DESTINATION bin
-  LIBRARY DESTINATION lib
-  ARCHIVE DESTINATION lib
-  INCLUDES DESTINATION include/vtlcmd)
-install(TARGETS VtlCmdTranslation EXPORT vtlcmd_targets
-  RUNTIME DESTINATION lib/vtlcmd
-  LIBRARY DESTINATION lib/vtlcmd
-  ARCHIVE DESTINATION lib/vtlcmd)
-set_target_properties(vtlcmd PROPERTIES INSTALL_RPATH "$ORIGIN/../lib")
-set_target_properties(OrvelSDK VantrelBoardExecutor VantrelObject VantrelGeometry
+install(TARGETS vtlcmd RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+install(TARGETS ${closed_libraries} EXPORT vtlcmd_targets
+  RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT stand-ins
+  LIBRARY DESTINATION ${VTLCMD_LIBRARY_FOLDER}
+    COMPONENT stand-ins NAMELINK_COMPONENT development
+  ARCHIVE DESTINATION ${VTLCMD_LIBRARY_FOLDER} COMPONENT development
+  INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/vtlcmd)
+set_target_properties(vtlcmd PROPERTIES INSTALL_RPATH "$ORIGIN/${VTLCMD_PROGRAMS_TO_LIBRARIES}")
+set_target_properties(OrvelSDK VantrelBoardExecutor VantrelObject VantrelGeometry VtlCmdTranslation
   PROPERTIES INSTALL_RPATH "$ORIGIN")
-set_target_properties(VtlCmdTranslation PROPERTIES INSTALL_RPATH "$ORIGIN/..")
 
 # What a host compiles and links: the records and the logger, and how the stand-ins make values.
-set_target_properties(vtlcmd_shared PROPERTIES OUTPUT_NAME vtlcmd_host EXPORT_NAME host)
-install(DIRECTORY src/host src/logging DESTINATION include/vtlcmd FILES_MATCHING PATTERN *.h)
-install(FILES closed/orvel_core/make_ptr.h DESTINATION include/vtlcmd/orvel_core)
-install(FILES closed/orvel_sdk/any_bridge.h closed/orvel_sdk/stored_types.h
-              closed/orvel_sdk/type_factory.h closed/orvel_sdk/value_factory.h
-  DESTINATION include/vtlcmd/orvel_sdk)
-install(FILES closed/vantrel_object/object_builder.h DESTINATION include/vtlcmd/vantrel_object)
-install(FILES closed/vantrel_geometry/geometry_builder.h
-  DESTINATION include/vtlcmd/vantrel_geometry)
+install(TARGETS vtlcmd_shared EXPORT vtlcmd_targets
+  ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT development
+  INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/vtlcmd)
+function(install_headers folder)
+  install(FILES ${ARGN} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/vtlcmd/${folder}
+    COMPONENT development)
+endfunction()
+install(DIRECTORY src/host src/logging DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/vtlcmd
+  COMPONENT development FILES_MATCHING PATTERN *.h)
+install_headers(orvel_core closed/orvel_core/make_ptr.h closed/orvel_core/make_string.h)
+install_headers(orvel_sdk closed/orvel_sdk/any_bridge.h closed/orvel_sdk/stored_types.h
+  closed/orvel_sdk/type_factory.h closed/orvel_sdk/value_factory.h)
+install_headers(vantrel_object closed/vantrel_object/object_builder.h)
+install_headers(vantrel_geometry closed/vantrel_geometry/geometry_builder.h)
 
 # find_package(vtlcmd CONFIG)
-install(EXPORT vtlcmd_targets NAMESPACE vtlcmd:: DESTINATION lib/cmake/vtlcmd
-  FILE vtlcmd-targets.cmake)
-write_basic_package_version_file(${CMAKE_BINARY_DIR}/vtlcmd-config-version.cmake
+set(package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/vtlcmd)
+install(EXPORT vtlcmd_targets NAMESPACE vtlcmd:: DESTINATION ${package_folder}
+  FILE vtlcmd-targets.cmake COMPONENT development)
+write_basic_package_version_file(${PROJECT_BINARY_DIR}/vtlcmd-config-version.cmake
   COMPATIBILITY SameMinorVersion)
-install(FILES cmake/vtlcmd-config.cmake ${CMAKE_BINARY_DIR}/vtlcmd-config-version.cmake
-  DESTINATION lib/cmake/vtlcmd)
+install(FILES cmake/vtlcmd-config.cmake ${PROJECT_BINARY_DIR}/vtlcmd-config-version.cmake
+  DESTINATION ${package_folder} COMPONENT development)
 
 # pkg-config vtlcmd
-configure_file(cmake/vtlcmd.pc.in vtlcmd.pc @ONLY)
-install(FILES ${CMAKE_BINARY_DIR}/vtlcmd.pc DESTINATION lib/pkgconfig)
+file(RELATIVE_PATH VTLCMD_PREFIX_FROM_PKGCONFIG
+  ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig ${CMAKE_INSTALL_PREFIX})
+configure_file(cmake/vtlcmd.pc.in ${PROJECT_BINARY_DIR}/vtlcmd.pc @ONLY)
+install(FILES ${PROJECT_BINARY_DIR}/vtlcmd.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig
+  COMPONENT development)
 
-install(FILES README.md CHANGELOG.md LICENSE cmake/copyright DESTINATION share/doc/vtlcmd)
-install(DIRECTORY docs DESTINATION share/doc/vtlcmd FILES_MATCHING PATTERN *.md PATTERN *.png)
+install(FILES README.md CHANGELOG.md LICENSE cmake/copyright DESTINATION ${CMAKE_INSTALL_DOCDIR})
+install(DIRECTORY docs DESTINATION ${CMAKE_INSTALL_DOCDIR}
+  FILES_MATCHING PATTERN *.md PATTERN *.png)
 # The examples name their schema by its relative path.
-install(DIRECTORY docs DESTINATION share/vtlcmd FILES_MATCHING PATTERN *.schema.json)
-install(DIRECTORY examples DESTINATION share/vtlcmd)
+install(DIRECTORY docs DESTINATION ${CMAKE_INSTALL_DATADIR}/vtlcmd
+  FILES_MATCHING PATTERN *.schema.json)
+install(DIRECTORY examples DESTINATION ${CMAKE_INSTALL_DATADIR}/vtlcmd)
 
-install(DIRECTORY ${VTLCMD_MANUAL_FOLDER}/ DESTINATION share/man)
-install(FILES runner/shells/vtlcmd.bash DESTINATION share/bash-completion/completions RENAME vtlcmd)
-install(FILES runner/shells/vtlcmd.fish DESTINATION share/fish/vendor_completions.d)
-install(FILES runner/shells/_vtlcmd DESTINATION share/zsh/vendor-completions)
+install(DIRECTORY ${VTLCMD_MANUAL_FOLDER}/ DESTINATION ${CMAKE_INSTALL_MANDIR})
+install(FILES runner/shells/vtlcmd.bash
+  DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions RENAME vtlcmd)
+install(FILES runner/shells/vtlcmd.fish
+  DESTINATION ${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d)
+install(FILES runner/shells/_vtlcmd DESTINATION ${CMAKE_INSTALL_DATADIR}/zsh/vendor-completions)

@@ -14,12 +14,13 @@ namespace {
 constexpr const char* entryName = "createVantrelTypeTranslation";
 using Entry = VantrelGraph::Executor::TypeTranslation* (*)();
 
-/// Seen from the program's folder.
+/// Seen from the program's folder: in a build, and as installed.
 #if defined(_WIN32)
-constexpr std::array plugInPlaces{"VtlCmdTranslation.dll", "../lib/vtlcmd/VtlCmdTranslation.dll"};
+constexpr std::array plugInPlaces{"VtlCmdTranslation.dll",
+                                  VTLCMD_PLUG_IN_FOLDER "/VtlCmdTranslation.dll"};
 #else
 constexpr std::array plugInPlaces{"../lib/libVtlCmdTranslation.so",
-                                  "../lib/vtlcmd/libVtlCmdTranslation.so"};
+                                  VTLCMD_PLUG_IN_FOLDER "/libVtlCmdTranslation.so"};
 #endif
 
 }  // namespace

@@ -31,3 +31,12 @@ built=$(ls "$work/build/lib" "$work/build/bin" 2>/dev/null | grep -E '^(lib|vtlc
 }
 bash "$border/check_symbols.sh" "$work/build/lib/libVtlCmdTranslation.so" "$border/imports.txt" \
   "${link_libraries[@]}"
+
+cmake --install "$work/build" --prefix "$work/installed"
+installed=$(cd "$work/installed" && find . -type f)
+[[ $installed == ./lib*/vtlcmd/libVtlCmdTranslation.so ]] || {
+  echo "more than the plug-in was installed: $installed" >&2
+  exit 1
+}
+# The process that loads it has the libraries already, or finds them as it finds its own.
+if readelf -d "$work/installed/$installed" | grep -E 'RPATH|RUNPATH'; then exit 1; fi

@@ -15,24 +15,24 @@ check_runpath() {
   found=$(readelf -d "$1" | sed -n 's/.*(R[A-Z]*PATH).*\[\(.*\)\]/\1/p')
   [[ $found == "$2" ]] || fail "$1 looks for libraries in '$found', not in '$2'"
 }
-check_runpath bin/vtlcmd "\$ORIGIN/../lib"
-check_runpath lib/vtlcmd/libVtlCmdTranslation.so "\$ORIGIN/.."
-check_runpath lib/libOrvelCore.so ""
-for library in lib/libOrvelSDK.so lib/libVantrel*.so; do
+libraries=$(dirname "$(find lib* -name libVtlCmdTranslation.so)")
+check_runpath bin/vtlcmd "\$ORIGIN/../$libraries"
+check_runpath "$libraries/libOrvelCore.so" ""
+for library in "$libraries"/lib{OrvelSDK,Vantrel*,VtlCmdTranslation}.so; do
   check_runpath "$library" "\$ORIGIN"
 done
 
-for command in $(bin/vtlcmd complete '' | cut -f1); do
-  [[ -s share/man/man1/vtlcmd-$command.1 ]] || fail "there is no manual page of $command"
-done
-[[ -s share/man/man5/vtlcmd-graph.5 ]] || fail "there is no manual page of graph files"
-for file in bash-completion/completions/vtlcmd zsh/vendor-completions/_vtlcmd \
-  fish/vendor_completions.d/vtlcmd.fish; do
-  [[ -s share/$file ]] || fail "there is no share/$file"
-done
+# Who looks for a closed library in the folder of all libraries doesn't find a stand-in.
+[[ $(basename "$libraries") == vtlcmd && -z $(find "${libraries%/*}" -maxdepth 1 -name '*.so*') ]] ||
+  fail "a shared library is in the folder of all libraries"
 
-for file in LICENSE copyright; do
-  [[ -s share/doc/vtlcmd/$file ]] || fail "there is no share/doc/vtlcmd/$file"
+for command in $(bin/vtlcmd complete '' | cut -f1); do
+  [[ -s $(echo share/man/man1/vtlcmd-"$command".1*) ]] || fail "there is no manual page of $command"
+done
+[[ -s $(echo share/man/man5/vtlcmd-graph.5*) ]] || fail "there is no manual page of graph files"
+for file in bash-completion/completions/vtlcmd zsh/vendor-completions/_vtlcmd \
+  fish/vendor_completions.d/vtlcmd.fish doc/vtlcmd/copyright; do
+  [[ -s share/$file ]] || fail "there is no share/$file"
 done
 
 with_path=$(printf '%s\n' "$source_folder"/{build,src,closed,runner}/ | grep -rlF -f - . || true)

@@ -14,15 +14,16 @@ env -i /usr/bin/python3 "$tests/runner/run_session.py" --program "$prefix/bin/vt
 
 cp -r "$tests/install/host" "$work"
 cd "$work/host"
+package=$(find "$prefix/" -type d -path "*/cmake/vtlcmd" | sed s,//,/,)
 cmake -G Ninja -S . -B build -DCMAKE_PREFIX_PATH="$prefix"
-grep -q "^vtlcmd_DIR:PATH=$prefix/lib/cmake/vtlcmd$" build/CMakeCache.txt || {
+grep -q "^vtlcmd_DIR:PATH=$package$" build/CMakeCache.txt || {
   echo "CMake found another vtlcmd than that in $prefix" >&2
   exit 1
 }
 cmake --build build
 build/host | diff expected.txt -
 
-export PKG_CONFIG_LIBDIR=$prefix/lib/pkgconfig
+export PKG_CONFIG_LIBDIR=${package%/cmake/vtlcmd}/pkgconfig
 command=$(sed -n '/^\$ g++ /,/[^\\]$/{s/^\$ //;p}' "$tests/../docs/installing.md")
 echo "$command"
 eval "$command"

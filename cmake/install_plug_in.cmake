@@ -1,0 +1,5 @@
+# The plug-in; a host loads it and never links it.
+install(TARGETS VtlCmdTranslation EXPORT vtlcmd_targets
+  RUNTIME DESTINATION ${VTLCMD_LIBRARY_FOLDER} COMPONENT plug-in
+  LIBRARY DESTINATION ${VTLCMD_LIBRARY_FOLDER} COMPONENT plug-in
+  ARCHIVE DESTINATION ${VTLCMD_LIBRARY_FOLDER} COMPONENT development)
