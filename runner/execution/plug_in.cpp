@@ -16,8 +16,7 @@ using Entry = VantrelGraph::Executor::TypeTranslation* (*)();
 
 /// Seen from the program's folder: in a build, and as installed.
 #if defined(_WIN32)
-constexpr std::array plugInPlaces{"VtlCmdTranslation.dll",
-                                  VTLCMD_PLUG_IN_FOLDER "/VtlCmdTranslation.dll"};
+constexpr std::array plugInPlaces{"VtlCmdTranslation.dll"};
 #else
 constexpr std::array plugInPlaces{"../lib/libVtlCmdTranslation.so",
                                   VTLCMD_PLUG_IN_FOLDER "/libVtlCmdTranslation.so"};
