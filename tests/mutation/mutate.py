@@ -28,13 +28,28 @@ BUILD = PROJECT / "build/release"
 OUT = PROJECT / "build/mutation"
 
 
+def source(name):
+    """A file of src/, from the project's folder."""
+    path = os.path.relpath(pathlib.Path(name).resolve(), PROJECT)
+    if not path.startswith("src/") or not (PROJECT / path).is_file():
+        raise argparse.ArgumentTypeError(f"'{name}' is no file of src/")
+    return path
+
+
+def positive(text):
+    if not text.isdecimal() or int(text) == 0:
+        raise argparse.ArgumentTypeError(f"'{text}' is no number above 0")
+    return int(text)
+
+
 def arguments():
     parser = argparse.ArgumentParser(prog="./dev mutate", description=__doc__)
-    parser.add_argument("files", nargs="*", metavar="FILE", help="only lines of these sources")
-    parser.add_argument("--sample", type=int, metavar="N",
+    parser.add_argument("files", nargs="*", type=source, metavar="FILE",
+                        help="only lines of these sources")
+    parser.add_argument("--sample", type=positive, metavar="N",
                         help="only so many by chance, and no page of the report")
     parser.add_argument("--seed", type=int, default=0, help="of the chance (default: 0)")
-    parser.add_argument("--jobs", type=int, default=os.cpu_count(), metavar="N",
+    parser.add_argument("--jobs", type=positive, default=os.cpu_count(), metavar="N",
                         help="how many at a time (default: one a processor)")
     return parser.parse_args()
 
@@ -98,7 +113,7 @@ def main():
     if platform.machine() not in ("x86_64", "AMD64"):
         print("./dev mutate: knows the jumps of x86-64 only", file=sys.stderr)
         return 2
-    files = {str(pathlib.Path(file).resolve().relative_to(PROJECT)) for file in options.files}
+    files = set(options.files)
     work = OUT / "work"
     shutil.rmtree(work, ignore_errors=True)
     work.mkdir(parents=True)
@@ -111,7 +126,11 @@ def main():
         print("./dev mutate: no mutants there", file=sys.stderr)
         return 2
     entries = equivalents.read(LIST)
-    results = try_all(found, tests, work, entries, options.jobs)
+    try:
+        results = try_all(found, tests, work, entries, options.jobs)
+    except trials.FailsWithoutMutant as error:
+        print(f"./dev mutate: {error}", file=sys.stderr)
+        return 1
 
     survivors = [mutant for mutant, result in results if result.status == "Survived"]
     reasons = {place: reason for place, (_, reason) in entries.items()}

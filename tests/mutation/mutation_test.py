@@ -1,5 +1,6 @@
 """mutation_test.py: what the parts of ./dev mutate do with sources and lists made for it."""
 
+import os
 import pathlib
 import subprocess
 import sys
@@ -11,8 +12,10 @@ import assembly
 import equivalents
 import executable
 import report
+import trials
 from equivalents import Place
 from mutants import Mutant
+from programs import TestProgram
 from trials import Result
 
 SOURCE = """int main(int count, char**) {
@@ -105,6 +108,28 @@ class Bytes(unittest.TestCase):
     def test_what_is_no_jump_is_an_error(self):
         with self.assertRaisesRegex(ValueError, "no conditional jump at 0x1: 90 90"):
             executable.patched(b"\x01\x90\x90\x02", 1, "always")
+
+
+class Trials(Folder):
+    def run_script(self, text, seconds=10):
+        script = self.file("script", "#!/bin/sh\n" + text)
+        script.chmod(0o755)
+        program = TestProgram("host", script, dict(os.environ), self.folder, {})
+        return trials.run(program, script, seconds)
+
+    def test_tests_that_pass_let_a_mutant_survive(self):
+        self.assertEqual(self.run_script("exit 0"), Result("Survived"))
+
+    def test_the_last_test_that_was_begun_killed_it(self):
+        self.assertEqual(
+            self.run_script("echo '[ RUN      ] A.a'; echo '[ RUN      ] A.b'; kill -SEGV $$"),
+            Result("Killed", "host: A.b"))
+
+    def test_a_program_that_does_not_begin_a_test(self):
+        self.assertEqual(self.run_script("exit 1"), Result("Killed", "host: before the first test"))
+
+    def test_one_that_takes_too_long(self):
+        self.assertEqual(self.run_script("while :; do :; done", seconds=1).status, "Timeout")
 
 
 class List(Folder):

@@ -18,6 +18,10 @@ MOST_SECONDS = 60
 OPTIONS = ["--gtest_break_on_failure", "--gtest_catch_exceptions=0", "--gtest_color=no"]
 
 
+class FailsWithoutMutant(Exception):
+    pass
+
+
 @dataclass(frozen=True)
 class Result:
     status: str  # of the report: "Killed", "Timeout" or "Survived"
@@ -58,7 +62,7 @@ def time_limit(program):
     before = used()
     result = run(program, program.path, MOST_SECONDS)
     if result.status != "Survived":
-        raise RuntimeError(f"fails without a mutant: {result.reason}")
+        raise FailsWithoutMutant(f"a test fails without a mutant: {result.reason}")
     return 1 + math.ceil(SLOWNESS * (used() - before))
 
 
