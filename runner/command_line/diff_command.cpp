@@ -111,8 +111,8 @@ ExitCode diff(const DiffOptions& options) {
   const std::unique_ptr<ComparedRun> a = openRun(options.a);
   const std::unique_ptr<ComparedRun> b = openRun(options.b);
   try {
-    const bool areEqual = (options.json ? printJsonDifferences : printTextDifferences)(
-        options, *a, *b, tolerance);
+    const bool areEqual =
+        (options.json ? printJsonDifferences : printTextDifferences)(options, *a, *b, tolerance);
     return areEqual ? ExitCode::success : ExitCode::runFailed;
   } catch (const Json::exception&) {
     throw LoadError(options.a + " or " + options.b + " lacks something that reports have");
