@@ -73,9 +73,10 @@ def link(build, test, objects, out):
     program = out / built.name
     words[words.index("-o") + 1] = str(program)
     first = next(index for index, word in enumerate(words) if word.endswith(".o"))
-    # Of symbols that are defined twice the first one counts.
     words[first:first] = map(str, objects)
-    output(*words, "-Wl,-z,muldefs", cwd=build)
+    # Of symbols that are defined twice the first one counts. The program lies elsewhere than the one
+    # that finds its libraries beside it.
+    output(*words, "-Wl,-z,muldefs", f"-Wl,-rpath,{build / 'lib'}", cwd=build)
     properties = {each["name"]: each["value"] for each in test["properties"]}
     environment = dict(entry.split("=", 1) for entry in properties.get("ENVIRONMENT", []))
     return TestProgram(test["name"], program, os.environ | environment,
