@@ -1,6 +1,6 @@
 # Where things are installed, seen from the prefix. The plug-in and the stand-ins have a folder of
 # their own, so that nobody comes upon a stand-in who looks for the library that it stands for.
-if(CMAKE_LIBRARY_ARCHITECTURE)
+if(CMAKE_LIBRARY_ARCHITECTURE AND NOT DEFINED CMAKE_INSTALL_LIBDIR)
   # Where a system has a folder of libraries for each kind of processor, every tree is like its own.
   set(CMAKE_INSTALL_LIBDIR lib/${CMAKE_LIBRARY_ARCHITECTURE} CACHE PATH "Folder of libraries")
 endif()
