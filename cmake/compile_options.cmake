@@ -1,6 +1,6 @@
 # Every target of the project links this.
-add_library(project_options INTERFACE)
-target_compile_options(project_options INTERFACE
+add_library(vtlcmd_options INTERFACE)
+target_compile_options(vtlcmd_options INTERFACE
   -Wall -Wextra -Wpedantic -Wconversion
   # In a unity build a local name may be that of another source.
   $<$<NOT:$<BOOL:${CMAKE_UNITY_BUILD}>>:-Wshadow>

@@ -12,7 +12,7 @@ install(TARGETS ${closed_libraries} EXPORT vtlcmd_targets
   LIBRARY DESTINATION ${VTLCMD_LIBRARY_FOLDER}
     COMPONENT stand-ins NAMELINK_COMPONENT development
   ARCHIVE DESTINATION ${VTLCMD_LIBRARY_FOLDER} COMPONENT development
-  INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/vtlcmd)
+  INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
 set_target_properties(vtlcmd PROPERTIES INSTALL_RPATH "$ORIGIN/${VTLCMD_PROGRAMS_TO_LIBRARIES}")
 set_target_properties(OrvelSDK VantrelBoardExecutor VantrelObject VantrelGeometry VtlCmdTranslation
   PROPERTIES INSTALL_RPATH "$ORIGIN")
@@ -20,18 +20,9 @@ set_target_properties(OrvelSDK VantrelBoardExecutor VantrelObject VantrelGeometr
 # What a host compiles and links: the records and the logger, and how the stand-ins make values.
 install(TARGETS vtlcmd_shared EXPORT vtlcmd_targets
   ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT development
-  INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/vtlcmd)
-function(install_headers folder)
-  install(FILES ${ARGN} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/vtlcmd/${folder}
-    COMPONENT development)
-endfunction()
-install(DIRECTORY src/host src/logging DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/vtlcmd
-  COMPONENT development FILES_MATCHING PATTERN *.h)
-install_headers(orvel_core closed/orvel_core/make_ptr.h closed/orvel_core/make_string.h)
-install_headers(orvel_sdk closed/orvel_sdk/any_bridge.h closed/orvel_sdk/stored_types.h
-  closed/orvel_sdk/type_factory.h closed/orvel_sdk/value_factory.h)
-install_headers(vantrel_object closed/vantrel_object/object_builder.h)
-install_headers(vantrel_geometry closed/vantrel_geometry/geometry_builder.h)
+  INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+install(DIRECTORY src/vtlcmd/host src/vtlcmd/logging closed/vtlcmd/stand_in
+  DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/vtlcmd COMPONENT development FILES_MATCHING PATTERN *.h)
 
 # find_package(vtlcmd CONFIG)
 set(package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/vtlcmd)

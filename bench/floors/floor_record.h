@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "floors/texts.h"
-#include "host/value_types.h"
-#include "logging/vtlcmd_logger.h"
+#include "vtlcmd/host/value_types.h"
+#include "vtlcmd/logging/vtlcmd_logger.h"
 
 namespace vtlcmd::bench {
 

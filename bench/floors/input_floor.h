@@ -9,8 +9,8 @@
 #include <vector>
 
 #include "floors/floor_record.h"
-#include "host/host_records.h"
-#include "host/imports/orvel_types.h"
+#include "vtlcmd/host/host_records.h"
+#include "vtlcmd/host/imports/orvel_types.h"
 
 namespace vtlcmd::bench {
 

@@ -4,8 +4,8 @@
 #include <type_traits>
 
 #include "floors/floor_record.h"
-#include "host/host_records.h"
-#include "host/imports/orvel_values.h"
+#include "vtlcmd/host/host_records.h"
+#include "vtlcmd/host/imports/orvel_values.h"
 
 namespace vtlcmd::bench {
 

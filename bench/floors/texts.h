@@ -9,8 +9,8 @@
 #include <string_view>
 #include <type_traits>
 
-#include "host/imports/vantrel_geometry.h"
-#include "host/value_types.h"
+#include "vtlcmd/host/imports/vantrel_geometry.h"
+#include "vtlcmd/host/value_types.h"
 
 /// The cheapest way to the texts that the plug-in writes: pieces in one buffer, or one string of
 /// exactly the size needed.

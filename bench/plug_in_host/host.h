@@ -2,9 +2,9 @@
 
 #include <cstdint>
 
-#include "host/host_records.h"
-#include "host/port_value_map.h"
-#include "logging/vtlcmd_logger.h"
+#include "vtlcmd/host/host_records.h"
+#include "vtlcmd/host/port_value_map.h"
+#include "vtlcmd/logging/vtlcmd_logger.h"
 
 namespace vtlcmd::bench {
 

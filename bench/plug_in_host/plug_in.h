@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/imports/vantrel_executor.h"
+#include "vtlcmd/host/imports/vantrel_executor.h"
 
 namespace vtlcmd::bench {
 

@@ -9,8 +9,8 @@
 #include <type_traits>
 #include <utility>
 
-#include "host/value_types.h"
-#include "orvel_core/make_ptr.h"
+#include "vtlcmd/host/value_types.h"
+#include "vtlcmd/stand_in/make_ptr.h"
 
 namespace vtlcmd::bench {
 

@@ -2,11 +2,11 @@
 #include <memory>
 #include <string>
 
-#include "orvel_sdk/value_factory.h"
 #include "plug_in_host/host.h"
 #include "plug_in_host/plug_in.h"
 #include "plug_in_host/program.h"
 #include "rows/rows.h"
+#include "vtlcmd/stand_in/value_factory.h"
 
 namespace vtlcmd::bench {
 namespace {

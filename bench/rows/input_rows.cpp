@@ -1,8 +1,8 @@
 #include "floors/input_floor.h"
-#include "orvel_sdk/type_factory.h"
 #include "rows/floor_row.h"
 #include "rows/rows.h"
 #include "rows/sample_texts.h"
+#include "vtlcmd/stand_in/type_factory.h"
 
 namespace vtlcmd::bench {
 namespace {

@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "rows/rows.h"
-#include "text/text_builder.h"
+#include "vtlcmd/text/text_builder.h"
 
 namespace vtlcmd::bench {
 namespace {

@@ -1,8 +1,8 @@
 #include "floors/output_floor.h"
-#include "orvel_sdk/value_factory.h"
 #include "rows/floor_row.h"
 #include "rows/rows.h"
 #include "rows/sample_texts.h"
+#include "vtlcmd/stand_in/value_factory.h"
 
 namespace vtlcmd::bench {
 namespace {

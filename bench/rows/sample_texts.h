@@ -4,7 +4,7 @@
 #include <type_traits>
 
 #include "floors/input_floor.h"
-#include "host/value_types.h"
+#include "vtlcmd/host/value_types.h"
 
 namespace vtlcmd::bench {
 

@@ -8,7 +8,7 @@
 #include "plug_in_host/plug_in.h"
 #include "rows/borrowed_array.h"
 #include "rows/rows.h"
-#include "vantrel_geometry/geometry_builder.h"
+#include "vtlcmd/stand_in/geometry_builder.h"
 
 namespace vtlcmd::bench {
 namespace {

@@ -1,8 +1,8 @@
-#include "orvel_core/make_ptr.h"
-#include "orvel_sdk/any_bridge.h"
-#include "orvel_sdk/value_factory.h"
 #include "rows/floor_row.h"
 #include "rows/rows.h"
+#include "vtlcmd/stand_in/any_bridge.h"
+#include "vtlcmd/stand_in/make_ptr.h"
+#include "vtlcmd/stand_in/value_factory.h"
 
 namespace vtlcmd::bench {
 namespace {

@@ -1,10 +1,10 @@
 #include <memory>
 
-#include "orvel_sdk/value_factory.h"
 #include "plug_in_host/host.h"
 #include "plug_in_host/plug_in.h"
 #include "rows/borrowed_array.h"
 #include "rows/rows.h"
+#include "vtlcmd/stand_in/value_factory.h"
 
 namespace vtlcmd::bench {
 namespace {

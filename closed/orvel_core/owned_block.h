@@ -2,8 +2,8 @@
 
 #include <utility>
 
-#include "host/imports/api.h"
-#include "host/imports/orvel_ptr.h"
+#include "vtlcmd/host/imports/api.h"
+#include "vtlcmd/host/imports/orvel_ptr.h"
 
 namespace Orvel::Internal {
 

@@ -4,8 +4,8 @@
 #include <string_view>
 #include <utility>
 
-#include "host/imports/orvel_string.h"
-#include "orvel_core/make_string.h"
+#include "vtlcmd/host/imports/orvel_string.h"
+#include "vtlcmd/stand_in/make_string.h"
 
 namespace Orvel {
 namespace {

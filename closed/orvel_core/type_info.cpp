@@ -1,4 +1,4 @@
-#include "host/type_tags.h"
+#include "vtlcmd/host/type_tags.h"
 
 namespace Orvel::Internal {
 

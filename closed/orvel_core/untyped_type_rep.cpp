@@ -1,7 +1,7 @@
 #include <limits>
 #include <new>
 
-#include "host/imports/orvel_array.h"
+#include "vtlcmd/host/imports/orvel_array.h"
 
 namespace Orvel::Internal {
 

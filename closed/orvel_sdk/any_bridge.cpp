@@ -1,13 +1,13 @@
-#include "orvel_sdk/any_bridge.h"
+#include "vtlcmd/stand_in/any_bridge.h"
 
 #include <array>
 #include <stdexcept>
 
-#include "host/value_types.h"
 #include "orvel_sdk/any_tags.h"
 #include "orvel_sdk/representation.h"
-#include "orvel_sdk/value_factory.h"
 #include "orvel_sdk/value_rep.h"
+#include "vtlcmd/host/value_types.h"
+#include "vtlcmd/stand_in/value_factory.h"
 
 namespace Orvel {
 namespace {

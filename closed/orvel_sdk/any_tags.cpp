@@ -6,7 +6,7 @@
 #include <string>
 #include <tuple>
 
-#include "host/type_tags.h"
+#include "vtlcmd/host/type_tags.h"
 
 namespace Orvel::Internal {
 namespace {

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "host/imports/orvel_type_info.h"
 #include "orvel_sdk/type_rep.h"
+#include "vtlcmd/host/imports/orvel_type_info.h"
 
 namespace Orvel::Internal {
 

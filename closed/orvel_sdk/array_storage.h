@@ -2,9 +2,9 @@
 
 #include <cstdint>
 
-#include "host/imports/orvel_array.h"
-#include "host/imports/orvel_ptr.h"
 #include "orvel_sdk/type_rep.h"
+#include "vtlcmd/host/imports/orvel_array.h"
+#include "vtlcmd/host/imports/orvel_ptr.h"
 
 namespace Orvel::Internal {
 

@@ -1,10 +1,10 @@
 #include <stdexcept>
 #include <string>
 
-#include "host/imports/orvel_values.h"
 #include "orvel_sdk/array_storage.h"
 #include "orvel_sdk/representation.h"
 #include "orvel_sdk/value_rep.h"
+#include "vtlcmd/host/imports/orvel_values.h"
 
 namespace Orvel {
 

@@ -1,5 +1,5 @@
-#include "host/imports/orvel_iterator.h"
-#include "host/imports/orvel_types.h"
+#include "vtlcmd/host/imports/orvel_iterator.h"
+#include "vtlcmd/host/imports/orvel_types.h"
 
 namespace Orvel {
 

@@ -2,8 +2,8 @@
 
 #include <utility>
 
-#include "host/imports/orvel_types.h"
-#include "host/imports/orvel_values.h"
+#include "vtlcmd/host/imports/orvel_types.h"
+#include "vtlcmd/host/imports/orvel_values.h"
 
 namespace Orvel::Internal {
 

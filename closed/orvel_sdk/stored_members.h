@@ -3,7 +3,7 @@
 #include <array>
 #include <cstddef>
 
-#include "orvel_sdk/stored_types.h"
+#include "vtlcmd/stand_in/stored_types.h"
 
 namespace Orvel::Internal {
 

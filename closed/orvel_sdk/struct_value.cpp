@@ -1,9 +1,9 @@
 #include <stdexcept>
 
-#include "host/imports/orvel_values.h"
 #include "orvel_sdk/representation.h"
 #include "orvel_sdk/struct_storage.h"
 #include "orvel_sdk/value_rep.h"
+#include "vtlcmd/host/imports/orvel_values.h"
 
 namespace Orvel {
 

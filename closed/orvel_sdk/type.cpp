@@ -1,10 +1,10 @@
 #include <stdexcept>
 #include <utility>
 
-#include "host/imports/orvel_types.h"
-#include "orvel_core/make_string.h"
 #include "orvel_sdk/representation.h"
 #include "orvel_sdk/type_rep.h"
+#include "vtlcmd/host/imports/orvel_types.h"
+#include "vtlcmd/stand_in/make_string.h"
 
 namespace Orvel {
 

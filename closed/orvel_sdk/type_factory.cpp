@@ -1,14 +1,14 @@
-#include "orvel_sdk/type_factory.h"
+#include "vtlcmd/stand_in/type_factory.h"
 
 #include <stdexcept>
 #include <string>
 #include <string_view>
 
-#include "orvel_core/make_string.h"
 #include "orvel_core/owned_block.h"
 #include "orvel_sdk/representation.h"
 #include "orvel_sdk/stored_type_reps.h"
 #include "orvel_sdk/struct_storage.h"
+#include "vtlcmd/stand_in/make_string.h"
 
 namespace Orvel {
 

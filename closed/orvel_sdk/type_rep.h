@@ -6,8 +6,8 @@
 #include <string_view>
 #include <vector>
 
-#include "host/imports/orvel_types.h"
-#include "orvel_sdk/stored_types.h"
+#include "vtlcmd/host/imports/orvel_types.h"
+#include "vtlcmd/stand_in/stored_types.h"
 
 namespace Orvel::Internal {
 

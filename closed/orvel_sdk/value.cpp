@@ -1,11 +1,11 @@
 #include <stdexcept>
 #include <utility>
 
-#include "host/imports/orvel_values.h"
 #include "orvel_sdk/array_storage.h"
 #include "orvel_sdk/representation.h"
-#include "orvel_sdk/value_factory.h"
 #include "orvel_sdk/value_rep.h"
+#include "vtlcmd/host/imports/orvel_values.h"
+#include "vtlcmd/stand_in/value_factory.h"
 
 namespace Orvel {
 

@@ -1,4 +1,4 @@
-#include "orvel_sdk/value_factory.h"
+#include "vtlcmd/stand_in/value_factory.h"
 
 #include <stdexcept>
 #include <string>

@@ -2,10 +2,10 @@
 
 #include <utility>
 
-#include "host/imports/orvel_array.h"
-#include "host/imports/orvel_values.h"
 #include "orvel_core/owned_block.h"
 #include "orvel_sdk/type_rep.h"
+#include "vtlcmd/host/imports/orvel_array.h"
+#include "vtlcmd/host/imports/orvel_values.h"
 
 namespace Orvel::Internal {
 

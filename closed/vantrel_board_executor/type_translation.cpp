@@ -1,4 +1,4 @@
-#include "host/imports/vantrel_executor.h"
+#include "vtlcmd/host/imports/vantrel_executor.h"
 
 namespace VantrelGraph::Executor {
 

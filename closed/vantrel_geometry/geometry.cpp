@@ -1,9 +1,9 @@
 #include <utility>
 
-#include "host/value_types.h"
-#include "vantrel_geometry/geometry_builder.h"
 #include "vantrel_geometry/prototypes.h"
-#include "vantrel_object/object_builder.h"
+#include "vtlcmd/host/value_types.h"
+#include "vtlcmd/stand_in/geometry_builder.h"
+#include "vtlcmd/stand_in/object_builder.h"
 
 namespace Vantrel::Geometry {
 

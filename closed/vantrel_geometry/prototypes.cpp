@@ -5,9 +5,9 @@
 #include <string>
 #include <string_view>
 
-#include "host/imports/vantrel_geometry.h"
-#include "host/value_types.h"
-#include "vantrel_object/object_builder.h"
+#include "vtlcmd/host/imports/vantrel_geometry.h"
+#include "vtlcmd/host/value_types.h"
+#include "vtlcmd/stand_in/object_builder.h"
 
 namespace Vantrel::Geometry {
 

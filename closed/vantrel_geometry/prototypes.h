@@ -1,8 +1,8 @@
 #pragma once
 
-#include "host/any.h"
-#include "host/imports/orvel_ptr.h"
-#include "host/imports/vantrel_object.h"
+#include "vtlcmd/host/any.h"
+#include "vtlcmd/host/imports/orvel_ptr.h"
+#include "vtlcmd/host/imports/vantrel_object.h"
 
 /// How a property and a prototype say what they are.
 

@@ -1,4 +1,4 @@
-#include "vantrel_object/object_builder.h"
+#include "vtlcmd/stand_in/object_builder.h"
 
 #include <algorithm>
 #include <stdexcept>
@@ -6,8 +6,8 @@
 #include <utility>
 #include <vector>
 
-#include "orvel_core/make_string.h"
 #include "orvel_core/owned_block.h"
+#include "vtlcmd/stand_in/make_string.h"
 
 namespace Vantrel {
 namespace {

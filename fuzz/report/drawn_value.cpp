@@ -7,11 +7,11 @@
 #include <utility>
 #include <vector>
 
-#include "host/imports/vantrel_object.h"
-#include "host/value_types.h"
 #include "oracle/statistics_model.h"
-#include "orvel_sdk/type_factory.h"
-#include "orvel_sdk/value_factory.h"
+#include "vtlcmd/host/imports/vantrel_object.h"
+#include "vtlcmd/host/value_types.h"
+#include "vtlcmd/stand_in/type_factory.h"
+#include "vtlcmd/stand_in/value_factory.h"
 
 namespace vtlcmd::fuzz {
 namespace {

@@ -3,8 +3,8 @@
 #include <cstddef>
 #include <string>
 
-#include "host/imports/orvel_values.h"
 #include "input.h"
+#include "vtlcmd/host/imports/orvel_values.h"
 
 namespace vtlcmd::fuzz {
 

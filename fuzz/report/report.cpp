@@ -1,10 +1,10 @@
 #include <string>
 
-#include "orvel_sdk/any_bridge.h"
 #include "report/drawn_value.h"
 #include "requirement.h"
 #include "support/test_host.h"
 #include "target.h"
+#include "vtlcmd/stand_in/any_bridge.h"
 
 namespace {
 

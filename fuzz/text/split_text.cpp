@@ -2,9 +2,9 @@
 #include <string>
 #include <vector>
 
-#include "input/split_string.h"
 #include "requirement.h"
 #include "target.h"
+#include "vtlcmd/input/split_string.h"
 
 /// The first byte is the delimiter of the others. Joined with it, the pieces are the text again;
 /// there is one more than delimiters, and none holds one.

@@ -8,9 +8,9 @@
 #include "command_line/commands.h"
 #include "command_line/port_kinds.h"
 #include "graph/graph_file.h"
-#include "logging/vtlcmd_logger.h"
 #include "text/control_characters.h"
 #include "text/load_error.h"
+#include "vtlcmd/logging/vtlcmd_logger.h"
 
 namespace vtlcmd::runner {
 namespace {

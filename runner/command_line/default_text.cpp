@@ -4,10 +4,10 @@
 #include <limits>
 
 #include "command_line/port_kinds.h"
-#include "orvel_sdk/value_factory.h"
 #include "text/json.h"
 #include "text/shortest_text.h"
 #include "values/type_dispatch.h"
+#include "vtlcmd/stand_in/value_factory.h"
 
 namespace vtlcmd::runner {
 namespace {

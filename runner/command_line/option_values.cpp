@@ -9,11 +9,11 @@
 #include "command_line/usage_error.h"
 #include "execution/frame_list_text.h"
 #include "execution/session.h"
-#include "logging/vtlcmd_logger.h"
 #include "text/library_text.h"
 #include "text/near_misses.h"
 #include "text/path_text.h"
 #include "text/spelled_number.h"
+#include "vtlcmd/logging/vtlcmd_logger.h"
 
 namespace vtlcmd::runner {
 

@@ -6,7 +6,7 @@
 
 #include "diff/tolerance.h"
 #include "execution/frame_list.h"
-#include "host/host_records.h"
+#include "vtlcmd/host/host_records.h"
 
 namespace vtlcmd::runner {
 

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <array>
 
-#include "host/value_types.h"
 #include "text/library_text.h"
 #include "values/type_dispatch.h"
+#include "vtlcmd/host/value_types.h"
 
 namespace vtlcmd::runner {
 namespace {

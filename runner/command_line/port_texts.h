@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "graph/path_sources.h"
-#include "host/port_value_map.h"
+#include "vtlcmd/host/port_value_map.h"
 
 namespace vtlcmd::runner {
 

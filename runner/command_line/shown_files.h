@@ -8,9 +8,9 @@
 #include "execution/frame_record.h"
 #include "execution/output_reporting.h"
 #include "execution/plug_in.h"
-#include "logging/vtlcmd_logger.h"
 #include "readers/data_file.h"
 #include "values/value_type.h"
+#include "vtlcmd/logging/vtlcmd_logger.h"
 
 namespace vtlcmd::runner {
 

@@ -9,7 +9,7 @@
 #include "execution/failure.h"
 #include "execution/file_stamp.h"
 #include "graph/graph.h"
-#include "logging/vtlcmd_logger.h"
+#include "vtlcmd/logging/vtlcmd_logger.h"
 
 namespace vtlcmd::runner {
 

@@ -9,7 +9,7 @@
 #include <string>
 
 #include "execution/failure.h"
-#include "logging/run_report.h"
+#include "vtlcmd/logging/run_report.h"
 
 namespace vtlcmd::runner {
 

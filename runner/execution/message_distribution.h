@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "logging/vtlcmd_logger.h"
+#include "vtlcmd/logging/vtlcmd_logger.h"
 
 namespace vtlcmd::runner {
 

@@ -7,7 +7,7 @@
 #include <string_view>
 
 #include "execution/progress.h"
-#include "logging/vtlcmd_logger.h"
+#include "vtlcmd/logging/vtlcmd_logger.h"
 
 namespace vtlcmd::runner {
 

@@ -2,9 +2,9 @@
 
 #include <string>
 
-#include "logging/vtlcmd_logger.h"
-#include "orvel_sdk/any_bridge.h"
 #include "text/library_text.h"
+#include "vtlcmd/logging/vtlcmd_logger.h"
+#include "vtlcmd/stand_in/any_bridge.h"
 
 namespace vtlcmd::runner {
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "execution/plug_in.h"
-#include "host/host_records.h"
-#include "host/imports/orvel_values.h"
+#include "vtlcmd/host/host_records.h"
+#include "vtlcmd/host/imports/orvel_values.h"
 
 namespace vtlcmd::runner {
 

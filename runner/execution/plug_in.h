@@ -2,8 +2,8 @@
 
 #include <filesystem>
 
-#include "host/imports/vantrel_executor.h"
 #include "text/load_error.h"
+#include "vtlcmd/host/imports/vantrel_executor.h"
 
 namespace vtlcmd::runner {
 

@@ -6,13 +6,13 @@
 
 #include "execution/caught_failure.h"
 #include "execution/message_distribution.h"
-#include "orvel_sdk/any_bridge.h"
 #include "platform/file_identity.h"
 #include "platform/interrupt.h"
 #include "text/library_text.h"
 #include "text/shortest_text.h"
 #include "values/exact_value.h"
 #include "values/value_picture.h"
+#include "vtlcmd/stand_in/any_bridge.h"
 
 namespace vtlcmd::runner {
 namespace {

@@ -16,9 +16,9 @@
 #include "execution/output_reporting.h"
 #include "execution/plug_in.h"
 #include "graph/graph.h"
-#include "host/host_records.h"
-#include "host/port_value_map.h"
-#include "logging/vtlcmd_logger.h"
+#include "vtlcmd/host/host_records.h"
+#include "vtlcmd/host/port_value_map.h"
+#include "vtlcmd/logging/vtlcmd_logger.h"
 
 namespace vtlcmd::runner {
 

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "execution/frame_record.h"
-#include "logging/vtlcmd_logger.h"
+#include "vtlcmd/logging/vtlcmd_logger.h"
 
 namespace vtlcmd::runner {
 

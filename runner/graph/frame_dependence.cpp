@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "host/value_types.h"
+#include "vtlcmd/host/value_types.h"
 
 namespace vtlcmd::runner {
 

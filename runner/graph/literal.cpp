@@ -5,10 +5,10 @@
 #include <optional>
 #include <vector>
 
-#include "orvel_sdk/type_factory.h"
-#include "orvel_sdk/value_factory.h"
 #include "text/library_text.h"
 #include "values/type_dispatch.h"
+#include "vtlcmd/stand_in/type_factory.h"
+#include "vtlcmd/stand_in/value_factory.h"
 
 namespace vtlcmd::runner {
 namespace {

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "graph/json_place.h"
-#include "host/imports/orvel_values.h"
 #include "values/value_type.h"
+#include "vtlcmd/host/imports/orvel_values.h"
 
 namespace vtlcmd::runner {
 

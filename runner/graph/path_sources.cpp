@@ -1,10 +1,10 @@
 #include "graph/path_sources.h"
 
-#include "host/value_types.h"
-#include "orvel_sdk/value_factory.h"
 #include "readers/data_file.h"
 #include "text/library_text.h"
 #include "text/path_text.h"
+#include "vtlcmd/host/value_types.h"
+#include "vtlcmd/stand_in/value_factory.h"
 
 namespace vtlcmd::runner {
 namespace {

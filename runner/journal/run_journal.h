@@ -4,7 +4,7 @@
 #include <string>
 
 #include "journal/journal_file.h"
-#include "logging/run_report.h"
+#include "vtlcmd/logging/run_report.h"
 
 namespace vtlcmd::runner {
 

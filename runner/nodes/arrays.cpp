@@ -4,7 +4,7 @@
 #include "nodes/integer_argument.h"
 #include "nodes/operand.h"
 #include "nodes/random_numbers.h"
-#include "orvel_sdk/type_factory.h"
+#include "vtlcmd/stand_in/type_factory.h"
 
 namespace vtlcmd::runner::node_families {
 namespace {

@@ -9,9 +9,9 @@
 #include <string_view>
 #include <vector>
 
-#include "host/imports/orvel_values.h"
 #include "nodes/type_classes.h"
 #include "values/value_type.h"
+#include "vtlcmd/host/imports/orvel_values.h"
 
 namespace vtlcmd::runner {
 

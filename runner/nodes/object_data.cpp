@@ -1,10 +1,10 @@
 #include "nodes/object_data.h"
 
-#include "host/imports/vantrel_geometry.h"
-#include "host/value_types.h"
-#include "orvel_sdk/any_bridge.h"
-#include "orvel_sdk/value_factory.h"
 #include "text/library_text.h"
+#include "vtlcmd/host/imports/vantrel_geometry.h"
+#include "vtlcmd/host/value_types.h"
+#include "vtlcmd/stand_in/any_bridge.h"
+#include "vtlcmd/stand_in/value_factory.h"
 
 namespace vtlcmd::runner {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "host/imports/vantrel_object.h"
 #include "nodes/node_operation.h"
+#include "vtlcmd/host/imports/vantrel_object.h"
 
 namespace vtlcmd::runner {
 

@@ -3,9 +3,9 @@
 #include "nodes/families.h"
 #include "nodes/integer_argument.h"
 #include "nodes/object_data.h"
-#include "orvel_sdk/any_bridge.h"
-#include "vantrel_geometry/geometry_builder.h"
-#include "vantrel_object/object_builder.h"
+#include "vtlcmd/stand_in/any_bridge.h"
+#include "vtlcmd/stand_in/geometry_builder.h"
+#include "vtlcmd/stand_in/object_builder.h"
 
 namespace vtlcmd::runner::node_families {
 namespace {

@@ -2,7 +2,7 @@
 
 #include "nodes/families.h"
 #include "nodes/operand.h"
-#include "orvel_sdk/type_factory.h"
+#include "vtlcmd/stand_in/type_factory.h"
 
 namespace vtlcmd::runner::node_families {
 namespace {

@@ -4,7 +4,7 @@
 #include <concepts>
 #include <string_view>
 
-#include "host/imports/orvel_string.h"
+#include "vtlcmd/host/imports/orvel_string.h"
 
 namespace vtlcmd::runner {
 

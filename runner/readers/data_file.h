@@ -5,9 +5,9 @@
 #include <string>
 #include <vector>
 
-#include "host/imports/orvel_values.h"
-#include "host/value_types.h"
 #include "readers/npy.h"
+#include "vtlcmd/host/imports/orvel_values.h"
+#include "vtlcmd/host/value_types.h"
 
 namespace vtlcmd::runner {
 

@@ -4,13 +4,13 @@
 #include <array>
 #include <string>
 
-#include "orvel_sdk/any_bridge.h"
-#include "orvel_sdk/value_factory.h"
 #include "readers/data_message.h"
 #include "readers/read_error.h"
 #include "text/library_text.h"
-#include "vantrel_geometry/geometry_builder.h"
-#include "vantrel_object/object_builder.h"
+#include "vtlcmd/stand_in/any_bridge.h"
+#include "vtlcmd/stand_in/geometry_builder.h"
+#include "vtlcmd/stand_in/object_builder.h"
+#include "vtlcmd/stand_in/value_factory.h"
 
 namespace vtlcmd::runner {
 namespace {

@@ -3,9 +3,9 @@
 #include <optional>
 #include <vector>
 
-#include "host/value_types.h"
 #include "readers/byte_source.h"
 #include "readers/data_file.h"
+#include "vtlcmd/host/value_types.h"
 
 namespace vtlcmd::runner {
 

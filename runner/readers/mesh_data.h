@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "host/imports/vantrel_math.h"
+#include "vtlcmd/host/imports/vantrel_math.h"
 
 namespace vtlcmd::runner {
 

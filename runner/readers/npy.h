@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "host/imports/orvel_values.h"
 #include "readers/byte_source.h"
+#include "vtlcmd/host/imports/orvel_values.h"
 
 /// Array files of NumPy, versions 1 to 3: booleans, integers of 8 to 64 bits and floats of 16 to 64
 /// bits, in either byte order, in C or Fortran order, with one to three dimensions.

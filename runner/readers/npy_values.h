@@ -6,9 +6,9 @@
 #include <type_traits>
 #include <vector>
 
-#include "host/value_types.h"
 #include "readers/npy_numbers.h"
 #include "values/library_array.h"
+#include "vtlcmd/host/value_types.h"
 
 /// Array values from the numbers of a file, which are read once, from front to back, so that a
 /// large file needs no memory besides its values.

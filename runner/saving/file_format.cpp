@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <iterator>
 
-#include "host/value_types.h"
 #include "saving/npy_writer.h"
 #include "saving/ply_writer.h"
 #include "text/path_text.h"
+#include "vtlcmd/host/value_types.h"
 
 namespace vtlcmd::runner {
 namespace {

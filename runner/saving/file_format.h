@@ -5,8 +5,8 @@
 #include <string>
 #include <string_view>
 
-#include "host/imports/orvel_values.h"
 #include "values/value_type.h"
+#include "vtlcmd/host/imports/orvel_values.h"
 
 namespace vtlcmd::runner {
 

@@ -7,11 +7,11 @@
 #include <string>
 #include <vector>
 
-#include "orvel_sdk/value_factory.h"
 #include "platform/interrupt.h"
 #include "readers/npy_header.h"
 #include "values/level_sizes.h"
 #include "values/type_dispatch.h"
+#include "vtlcmd/stand_in/value_factory.h"
 
 namespace vtlcmd::runner {
 namespace {

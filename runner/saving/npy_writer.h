@@ -2,8 +2,8 @@
 
 #include <iosfwd>
 
-#include "host/imports/orvel_values.h"
 #include "values/value_type.h"
+#include "vtlcmd/host/imports/orvel_values.h"
 
 /// Array files of NumPy, in C order and this machine's byte order.
 

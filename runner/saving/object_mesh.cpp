@@ -3,9 +3,9 @@
 #include <stdexcept>
 #include <string>
 
-#include "host/imports/vantrel_geometry.h"
-#include "host/value_types.h"
 #include "text/library_text.h"
+#include "vtlcmd/host/imports/vantrel_geometry.h"
+#include "vtlcmd/host/value_types.h"
 
 namespace vtlcmd::runner {
 namespace {

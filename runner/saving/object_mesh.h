@@ -1,7 +1,7 @@
 #pragma once
 
-#include "host/imports/vantrel_object.h"
 #include "readers/mesh_data.h"
+#include "vtlcmd/host/imports/vantrel_object.h"
 
 namespace vtlcmd::runner {
 

@@ -4,9 +4,9 @@
 #include <set>
 #include <string>
 
-#include "host/imports/orvel_values.h"
 #include "saving/file_format.h"
 #include "saving/frame_file_name.h"
+#include "vtlcmd/host/imports/orvel_values.h"
 
 namespace vtlcmd::runner {
 

@@ -10,9 +10,9 @@
 #include <type_traits>
 #include <vector>
 
-#include "host/value_types.h"
-#include "orvel_sdk/value_factory.h"
 #include "saving/object_mesh.h"
+#include "vtlcmd/host/value_types.h"
+#include "vtlcmd/stand_in/value_factory.h"
 
 namespace vtlcmd::runner {
 namespace {

@@ -3,7 +3,7 @@
 #include <iosfwd>
 #include <string>
 
-#include "host/imports/orvel_values.h"
+#include "vtlcmd/host/imports/orvel_values.h"
 
 namespace vtlcmd::runner {
 

@@ -3,8 +3,8 @@
 #include <string>
 #include <string_view>
 
-#include "host/imports/orvel_string.h"
-#include "orvel_core/make_string.h"
+#include "vtlcmd/host/imports/orvel_string.h"
+#include "vtlcmd/stand_in/make_string.h"
 
 /// Between the type library's strings and the standard ones. Lengths are kept, so a zero byte in a
 /// text survives.

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "host/host_records.h"
+#include "vtlcmd/host/host_records.h"
 
 namespace vtlcmd::runner {
 

@@ -2,14 +2,14 @@
 
 #include <algorithm>
 
-#include "host/imports/vantrel_geometry.h"
-#include "host/value_types.h"
-#include "output/statistics/summary.h"
 #include "text/json_writer.h"
 #include "text/library_text.h"
 #include "values/level_sizes.h"
 #include "values/library_array.h"
 #include "values/type_dispatch.h"
+#include "vtlcmd/host/imports/vantrel_geometry.h"
+#include "vtlcmd/host/value_types.h"
+#include "vtlcmd/output/statistics/summary.h"
 
 namespace vtlcmd::runner {
 namespace {

@@ -3,8 +3,8 @@
 #include <cstdint>
 #include <string>
 
-#include "host/imports/orvel_values.h"
 #include "values/value_type.h"
+#include "vtlcmd/host/imports/orvel_values.h"
 
 namespace vtlcmd::runner {
 

@@ -4,7 +4,7 @@
 #include <optional>
 #include <vector>
 
-#include "host/imports/orvel_values.h"
+#include "vtlcmd/host/imports/orvel_values.h"
 
 namespace vtlcmd::runner {
 

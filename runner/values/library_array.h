@@ -6,11 +6,11 @@
 #include <new>
 #include <utility>
 
-#include "host/imports/orvel_array.h"
-#include "host/imports/orvel_ptr.h"
-#include "orvel_core/make_ptr.h"
-#include "orvel_sdk/value_factory.h"
 #include "platform/interrupt.h"
+#include "vtlcmd/host/imports/orvel_array.h"
+#include "vtlcmd/host/imports/orvel_ptr.h"
+#include "vtlcmd/stand_in/make_ptr.h"
+#include "vtlcmd/stand_in/value_factory.h"
 
 namespace vtlcmd::runner {
 

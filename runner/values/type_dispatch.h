@@ -3,7 +3,7 @@
 #include <string_view>
 #include <type_traits>
 
-#include "host/value_types.h"
+#include "vtlcmd/host/value_types.h"
 
 namespace vtlcmd::runner {
 

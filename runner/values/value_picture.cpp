@@ -1,12 +1,12 @@
 #include "values/value_picture.h"
 
-#include "host/imports/vantrel_geometry.h"
-#include "host/value_types.h"
 #include "text/json_writer.h"
 #include "text/library_text.h"
 #include "values/histogram.h"
 #include "values/library_array.h"
 #include "values/type_dispatch.h"
+#include "vtlcmd/host/imports/vantrel_geometry.h"
+#include "vtlcmd/host/value_types.h"
 
 namespace vtlcmd::runner {
 namespace {

@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "host/imports/orvel_values.h"
 #include "values/value_type.h"
+#include "vtlcmd/host/imports/orvel_values.h"
 
 namespace vtlcmd::runner {
 

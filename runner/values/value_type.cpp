@@ -4,9 +4,9 @@
 #include <stdexcept>
 #include <vector>
 
-#include "orvel_sdk/type_factory.h"
 #include "text/library_text.h"
 #include "text/near_misses.h"
+#include "vtlcmd/stand_in/type_factory.h"
 
 namespace vtlcmd::runner {
 namespace {

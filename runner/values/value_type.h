@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "host/imports/orvel_types.h"
+#include "vtlcmd/host/imports/orvel_types.h"
 
 namespace vtlcmd::runner {
 

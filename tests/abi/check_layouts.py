@@ -16,9 +16,10 @@ import typing
 HERE = pathlib.Path(__file__).resolve().parent
 TABLE = HERE / "layouts.txt"
 SOURCES = HERE.parents[1] / "src"
-HEADERS = ("host/host_records.h", "host/imports/vantrel_executor.h", "host/imports/vantrel_math.h",
-           "host/imports/vantrel_object.h", "host/imports/vantrel_records.h",
-           "host/port_value_map.h", "logging/vtlcmd_logger.h")
+HEADERS = ("vtlcmd/host/host_records.h", "vtlcmd/host/imports/vantrel_executor.h",
+           "vtlcmd/host/imports/vantrel_math.h", "vtlcmd/host/imports/vantrel_object.h",
+           "vtlcmd/host/imports/vantrel_records.h", "vtlcmd/host/port_value_map.h",
+           "vtlcmd/logging/vtlcmd_logger.h")
 ENTRY_SIZE = 8  # bytes of an entry in a table of operations
 MINGW = "x86_64-w64-mingw32-g++-posix"
 

@@ -5,10 +5,10 @@
 #include <vector>
 
 #include "border/loaded_plug_in.h"
-#include "host/host_records.h"
-#include "host/port_value_map.h"
-#include "host/value_types.h"
-#include "logging/vtlcmd_logger.h"
+#include "vtlcmd/host/host_records.h"
+#include "vtlcmd/host/port_value_map.h"
+#include "vtlcmd/host/value_types.h"
+#include "vtlcmd/logging/vtlcmd_logger.h"
 
 namespace vtlcmd::testing {
 

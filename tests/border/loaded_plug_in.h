@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "host/imports/vantrel_executor.h"
 #include "support/loaded_library.h"
+#include "vtlcmd/host/imports/vantrel_executor.h"
 
 namespace vtlcmd::testing {
 

@@ -5,15 +5,15 @@
 
 #include "border/host.h"
 #include "border/loaded_plug_in.h"
-#include "host/any.h"
-#include "host/host_records.h"
-#include "host/imports/vantrel_executor.h"
-#include "host/port_value_map.h"
-#include "host/value_types.h"
-#include "logging/vtlcmd_logger.h"
-#include "orvel_sdk/type_factory.h"
-#include "orvel_sdk/value_factory.h"
 #include "support/loaded_library.h"
+#include "vtlcmd/host/any.h"
+#include "vtlcmd/host/host_records.h"
+#include "vtlcmd/host/imports/vantrel_executor.h"
+#include "vtlcmd/host/port_value_map.h"
+#include "vtlcmd/host/value_types.h"
+#include "vtlcmd/logging/vtlcmd_logger.h"
+#include "vtlcmd/stand_in/type_factory.h"
+#include "vtlcmd/stand_in/value_factory.h"
 
 namespace vtlcmd {
 namespace {

@@ -1,4 +1,4 @@
-#include "build_identity/build_identity.h"
+#include "vtlcmd/build_identity/build_identity.h"
 
 #include <gtest/gtest.h>
 #include <iostream>

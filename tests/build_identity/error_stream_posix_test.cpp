@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
-#include "build_identity/build_identity.h"
+#include "vtlcmd/build_identity/build_identity.h"
 
 namespace vtlcmd::build_identity {
 namespace {

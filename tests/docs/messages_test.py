@@ -12,7 +12,7 @@ import re
 import sys
 
 # Not messages: names of types, which are compared, and the version banner.
-NO_MESSAGES = ("src/host/", "src/build_identity/", "src/translation/entry.h")
+NO_MESSAGES = ("src/vtlcmd/host/", "src/vtlcmd/build_identity/", "src/vtlcmd/translation/entry.h")
 SILENT_TEXTS = {"true", "false", "float", "double", "int", "baseline", "avx2", "avx512",
                 "vtlcmd TypeTranslation", "default", "none"}
 

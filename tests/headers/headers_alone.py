@@ -19,7 +19,7 @@ OPTIONS = ["-fsyntax-only", "-x", "c++", "-Isrc", "-Iclosed", "-Werror", "-Wall"
 COMPILERS = ("g++", "clang++")
 STANDARDS = ("c++20", "c++2b")
 # What is installed, and the export.
-FOR_HOSTS = ("src/host/", "src/logging/", "src/translation/entry.h")
+FOR_HOSTS = ("src/vtlcmd/host/", "src/vtlcmd/logging/", "src/vtlcmd/translation/entry.h")
 
 
 def compiles(job):

@@ -6,9 +6,9 @@
 #include <utility>
 #include <vector>
 
-#include "host/any.h"
-#include "host/value_types.h"
 #include "support/type_samples.h"
+#include "vtlcmd/host/any.h"
+#include "vtlcmd/host/value_types.h"
 
 /// The managers' side of an Any: what a module of another maker calls and gets called with.
 

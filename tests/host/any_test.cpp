@@ -1,12 +1,12 @@
-#include "host/any.h"
+#include "vtlcmd/host/any.h"
 
 #include <cstring>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <utility>
 
-#include "host/value_types.h"
 #include "support/type_samples.h"
+#include "vtlcmd/host/value_types.h"
 
 namespace vtlcmd {
 namespace {

@@ -1,9 +1,9 @@
-#include "host/port_value_map.h"
+#include "vtlcmd/host/port_value_map.h"
 
 #include <gtest/gtest.h>
 #include <string>
 
-#include "orvel_core/make_string.h"
+#include "vtlcmd/stand_in/make_string.h"
 
 namespace vtlcmd {
 namespace {

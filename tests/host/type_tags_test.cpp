@@ -1,4 +1,4 @@
-#include "host/type_tags.h"
+#include "vtlcmd/host/type_tags.h"
 
 #include <gtest/gtest.h>
 #include <string>

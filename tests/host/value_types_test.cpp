@@ -1,4 +1,4 @@
-#include "host/value_types.h"
+#include "vtlcmd/host/value_types.h"
 
 #include <gtest/gtest.h>
 #include <map>

@@ -3,9 +3,9 @@
 #include <string>
 #include <vector>
 
-#include "input/number_parsing.h"
 #include "support/test_host.h"
 #include "support/type_samples.h"
+#include "vtlcmd/input/number_parsing.h"
 
 namespace vtlcmd {
 namespace {

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "input/number_parsing.h"
 #include "support/floating_environment.h"
+#include "vtlcmd/input/number_parsing.h"
 
 namespace vtlcmd {
 namespace {

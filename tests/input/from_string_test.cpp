@@ -1,12 +1,12 @@
-#include "input/from_string.h"
+#include "vtlcmd/input/from_string.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <map>
 #include <string>
 
-#include "orvel_core/make_string.h"
 #include "support/test_host.h"
+#include "vtlcmd/stand_in/make_string.h"
 
 namespace vtlcmd {
 namespace {

@@ -1,4 +1,4 @@
-#include "input/input_setter.h"
+#include "vtlcmd/input/input_setter.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -6,10 +6,10 @@
 #include <string>
 #include <vector>
 
-#include "orvel_core/make_string.h"
 #include "support/allocation_count.h"
 #include "support/test_host.h"
 #include "support/type_samples.h"
+#include "vtlcmd/stand_in/make_string.h"
 
 namespace vtlcmd {
 namespace {

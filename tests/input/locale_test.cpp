@@ -6,7 +6,7 @@
 #include "support/scoped_locale.h"
 #include "support/test_host.h"
 #include "support/type_samples.h"
-#include "vantrel_geometry/geometry_builder.h"
+#include "vtlcmd/stand_in/geometry_builder.h"
 
 namespace vtlcmd {
 namespace {

@@ -1,4 +1,4 @@
-#include "input/number_parsing.h"
+#include "vtlcmd/input/number_parsing.h"
 
 #include <bit>
 #include <cfloat>

@@ -1,4 +1,4 @@
-#include "input/set_from_string.h"
+#include "vtlcmd/input/set_from_string.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "input/split_string.h"
+#include "vtlcmd/input/split_string.h"
 
 #include <gtest/gtest.h>
 

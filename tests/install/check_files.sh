@@ -39,6 +39,6 @@ with_path=$(printf '%s\n' "$source_folder"/{build,src,closed,runner}/ | grep -rl
 [[ -z $with_path ]] || fail "a path of the build is in $with_path"
 
 # What a header includes is installed too.
-(cd include/vtlcmd && find . -name '*.h' -printf '#include "%P"\n') |
-  g++ -std=c++20 -Wall -Wextra -Werror -fsyntax-only -I include/vtlcmd -x c++ - ||
+(cd include && find vtlcmd -name '*.h' -printf '#include "%p"\n') |
+  g++ -std=c++20 -Wall -Wextra -Werror -fsyntax-only -I include -x c++ - ||
   fail "the headers don't compile"

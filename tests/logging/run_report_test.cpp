@@ -1,8 +1,8 @@
-#include "logging/run_report.h"
+#include "vtlcmd/logging/run_report.h"
 
 #include <gtest/gtest.h>
 
-#include "logging/vtlcmd_logger.h"
+#include "vtlcmd/logging/vtlcmd_logger.h"
 
 namespace vtlcmd {
 namespace {

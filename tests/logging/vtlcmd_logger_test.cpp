@@ -1,10 +1,10 @@
-#include "logging/vtlcmd_logger.h"
+#include "vtlcmd/logging/vtlcmd_logger.h"
 
 #include <cstddef>
 #include <gtest/gtest.h>
 #include <string>
 
-#include "orvel_core/make_string.h"
+#include "vtlcmd/stand_in/make_string.h"
 
 namespace vtlcmd {
 namespace {

@@ -14,7 +14,7 @@ import re
 import sys
 
 # What crosses the border, what host and plug-in both compile, and the arithmetic of statistics.
-SHARED_SOURCE = {"host", "host/imports", "logging", "output/statistics"}
+SHARED_SOURCE = {"vtlcmd/host", "vtlcmd/host/imports", "vtlcmd/logging", "vtlcmd/output/statistics"}
 
 WRITTEN_BY_THE_BUILD = {"build_facts.h"}
 

@@ -10,15 +10,15 @@ OUTCOMES = ("always", "never")
 # Code of a header is compiled into many functions. Of these headers every survivor is judged; mutants
 # of the others are tried only where they are asked for.
 JUDGED_HEADERS = {
-    "src/input/from_string.h",
-    "src/input/input_setter.h",
-    "src/input/set_from_string.h",
-    "src/output/array_printers.h",
-    "src/output/array_text.h",
-    "src/output/output_reporter.h",
-    "src/output/statistics/array_statistics.h",
-    "src/output/value_text.h",
-    "src/text/joined.h",
+    "src/vtlcmd/input/from_string.h",
+    "src/vtlcmd/input/input_setter.h",
+    "src/vtlcmd/input/set_from_string.h",
+    "src/vtlcmd/output/array_printers.h",
+    "src/vtlcmd/output/array_text.h",
+    "src/vtlcmd/output/output_reporter.h",
+    "src/vtlcmd/output/statistics/array_statistics.h",
+    "src/vtlcmd/output/value_text.h",
+    "src/vtlcmd/text/joined.h",
 }
 
 

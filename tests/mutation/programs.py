@@ -12,18 +12,18 @@ import executable
 
 LABEL = "mutant."
 # Mostly ends of vectors and of unrolled loops, and tests that take seconds for each mutant.
-NOT_MUTATED = "src/output/statistics"
+NOT_MUTATED = "src/vtlcmd/output/statistics"
 
 
 @dataclass(frozen=True)
 class Source:
-    path: str  # from the project's folder, such as "src/host/value_types.cpp"
+    path: str  # from the project's folder, such as "src/vtlcmd/host/value_types.cpp"
     object: pathlib.Path
     jumps: list
 
     @property
     def folder(self):
-        return str(pathlib.PurePath(self.path).parent.relative_to("src"))
+        return str(pathlib.PurePath(self.path).parent.relative_to("src/vtlcmd"))
 
 
 @dataclass(frozen=True)

@@ -1,18 +1,18 @@
-#include "object_report/object_report.h"
+#include "vtlcmd/object_report/object_report.h"
 
 #include <gtest/gtest.h>
 #include <string>
 #include <tuple>
 
-#include "host/imports/vantrel_geometry.h"
-#include "host/value_types.h"
-#include "orvel_sdk/value_factory.h"
-#include "output/statistics/array_statistics.h"
 #include "support/built_text.h"
 #include "support/scoped_locale.h"
 #include "support/type_samples.h"
-#include "vantrel_geometry/geometry_builder.h"
-#include "vantrel_object/object_builder.h"
+#include "vtlcmd/host/imports/vantrel_geometry.h"
+#include "vtlcmd/host/value_types.h"
+#include "vtlcmd/output/statistics/array_statistics.h"
+#include "vtlcmd/stand_in/geometry_builder.h"
+#include "vtlcmd/stand_in/object_builder.h"
+#include "vtlcmd/stand_in/value_factory.h"
 
 namespace vtlcmd {
 namespace {

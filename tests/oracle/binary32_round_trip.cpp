@@ -13,7 +13,7 @@
 #include <thread>
 #include <vector>
 
-#include "input/number_parsing.h"
+#include "vtlcmd/input/number_parsing.h"
 
 namespace {
 

@@ -11,10 +11,10 @@
 #include <stdexcept>
 #include <string_view>
 
-#include "host/value_types.h"
-#include "input/number_parsing.h"
 #include "number_grammar.h"
 #include "text_model.h"
+#include "vtlcmd/host/value_types.h"
+#include "vtlcmd/input/number_parsing.h"
 
 namespace vtlcmd::oracle {
 namespace {

@@ -10,14 +10,14 @@
 #include <string_view>
 #include <type_traits>
 
-#include "host/any.h"
-#include "host/value_types.h"
-#include "input/from_string.h"
-#include "input/number_parsing.h"
-#include "input/set_from_string.h"
-#include "logging/vtlcmd_logger.h"
-#include "orvel_core/make_string.h"
 #include "text_model.h"
+#include "vtlcmd/host/any.h"
+#include "vtlcmd/host/value_types.h"
+#include "vtlcmd/input/from_string.h"
+#include "vtlcmd/input/number_parsing.h"
+#include "vtlcmd/input/set_from_string.h"
+#include "vtlcmd/logging/vtlcmd_logger.h"
+#include "vtlcmd/stand_in/make_string.h"
 
 namespace vtlcmd::oracle {
 namespace {

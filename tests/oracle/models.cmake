@@ -15,4 +15,4 @@ add_library(oracle_models STATIC ${oracle_sources})
 # Millions of comparisons.
 target_compile_options(oracle_models PRIVATE $<IF:$<CONFIG:Release>,-O2,-O1>)
 target_include_directories(oracle_models PUBLIC ${CMAKE_CURRENT_LIST_DIR})
-target_link_libraries(oracle_models PRIVATE project_options)
+target_link_libraries(oracle_models PRIVATE vtlcmd_options)

@@ -20,7 +20,7 @@
 
 #include "random_source.h"
 #include "support/scoped_locale.h"
-#include "text/text_builder.h"
+#include "vtlcmd/text/text_builder.h"
 
 namespace {
 

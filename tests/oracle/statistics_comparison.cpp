@@ -4,10 +4,10 @@
 #include <cstring>
 #include <sstream>
 
-#include "host/imports/orvel_array.h"
-#include "host/value_types.h"
-#include "output/statistics/array_statistics.h"
 #include "statistics_model.h"
+#include "vtlcmd/host/imports/orvel_array.h"
+#include "vtlcmd/host/value_types.h"
+#include "vtlcmd/output/statistics/array_statistics.h"
 
 namespace vtlcmd::oracle {
 namespace {

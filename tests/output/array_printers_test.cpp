@@ -1,14 +1,14 @@
-#include "output/array_printers.h"
+#include "vtlcmd/output/array_printers.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
 #include <string>
 
-#include "orvel_sdk/type_factory.h"
-#include "orvel_sdk/value_factory.h"
 #include "support/allocation_count.h"
 #include "support/built_text.h"
 #include "support/type_samples.h"
+#include "vtlcmd/stand_in/type_factory.h"
+#include "vtlcmd/stand_in/value_factory.h"
 
 namespace vtlcmd {
 namespace {

@@ -1,4 +1,4 @@
-#include "output/output_reporter.h"
+#include "vtlcmd/output/output_reporter.h"
 
 #include <exception>
 #include <gmock/gmock.h>

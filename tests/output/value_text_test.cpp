@@ -1,4 +1,4 @@
-#include "output/value_text.h"
+#include "vtlcmd/output/value_text.h"
 
 #include <cmath>
 #include <gtest/gtest.h>
@@ -6,11 +6,11 @@
 #include <string>
 #include <vector>
 
-#include "orvel_core/make_string.h"
-#include "orvel_sdk/type_factory.h"
-#include "orvel_sdk/value_factory.h"
 #include "support/built_text.h"
 #include "support/type_samples.h"
+#include "vtlcmd/stand_in/make_string.h"
+#include "vtlcmd/stand_in/type_factory.h"
+#include "vtlcmd/stand_in/value_factory.h"
 
 namespace vtlcmd {
 namespace {

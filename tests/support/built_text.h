@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "text/text_builder.h"
+#include "vtlcmd/text/text_builder.h"
 
 namespace vtlcmd::testing {
 

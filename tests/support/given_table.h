@@ -3,7 +3,7 @@
 #include <cstddef>
 #include <cstring>
 
-#include "translation/vtlcmd_type_translation.h"
+#include "vtlcmd/translation/vtlcmd_type_translation.h"
 
 namespace vtlcmd::testing {
 

@@ -3,13 +3,13 @@
 #include <string>
 #include <vector>
 
-#include "host/host_records.h"
-#include "host/port_value_map.h"
-#include "host/value_types.h"
-#include "logging/vtlcmd_logger.h"
-#include "orvel_sdk/type_factory.h"
-#include "orvel_sdk/value_factory.h"
-#include "translation/vtlcmd_type_translation.h"
+#include "vtlcmd/host/host_records.h"
+#include "vtlcmd/host/port_value_map.h"
+#include "vtlcmd/host/value_types.h"
+#include "vtlcmd/logging/vtlcmd_logger.h"
+#include "vtlcmd/stand_in/type_factory.h"
+#include "vtlcmd/stand_in/value_factory.h"
+#include "vtlcmd/translation/vtlcmd_type_translation.h"
 
 namespace vtlcmd::testing {
 

@@ -5,9 +5,9 @@
 #include <tuple>
 #include <vector>
 
-#include "host/imports/vantrel_object.h"
-#include "host/value_types.h"
-#include "orvel_core/make_ptr.h"
+#include "vtlcmd/host/imports/vantrel_object.h"
+#include "vtlcmd/host/value_types.h"
+#include "vtlcmd/stand_in/make_ptr.h"
 
 namespace vtlcmd::testing {
 

@@ -1,4 +1,4 @@
-#include "text/joined.h"
+#include "vtlcmd/text/joined.h"
 
 #include <gtest/gtest.h>
 #include <string>

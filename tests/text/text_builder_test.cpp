@@ -1,4 +1,4 @@
-#include "text/text_builder.h"
+#include "vtlcmd/text/text_builder.h"
 
 #include <cfenv>
 #include <cstring>

@@ -1,4 +1,4 @@
-#include "translation/handler_table.h"
+#include "vtlcmd/translation/handler_table.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -6,8 +6,8 @@
 #include <thread>
 #include <vector>
 
-#include "host/value_types.h"
 #include "support/type_samples.h"
+#include "vtlcmd/host/value_types.h"
 
 namespace vtlcmd {
 namespace {

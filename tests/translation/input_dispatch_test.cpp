@@ -2,11 +2,11 @@
 #include <gtest/gtest.h>
 #include <limits>
 
-#include "host/value_types.h"
 #include "support/given_table.h"
 #include "support/test_host.h"
 #include "support/type_samples.h"
-#include "translation/scene_path.h"
+#include "vtlcmd/host/value_types.h"
+#include "vtlcmd/translation/scene_path.h"
 
 namespace vtlcmd {
 namespace {

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 #include <system_error>
 
-#include "translation/scene_path.h"
+#include "vtlcmd/translation/scene_path.h"
 
 namespace vtlcmd {
 namespace {

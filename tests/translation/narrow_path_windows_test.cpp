@@ -2,7 +2,7 @@
 #include <system_error>
 #include <windows.h>
 
-#include "translation/scene_path.h"
+#include "vtlcmd/translation/scene_path.h"
 
 namespace vtlcmd {
 namespace {

@@ -2,10 +2,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "host/value_types.h"
 #include "support/given_table.h"
 #include "support/test_host.h"
 #include "support/type_samples.h"
+#include "vtlcmd/host/value_types.h"
 
 namespace vtlcmd {
 namespace {

@@ -1,4 +1,4 @@
-#include "translation/scene_path.h"
+#include "vtlcmd/translation/scene_path.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "translation/vtlcmd_type_translation.h"
+#include "vtlcmd/translation/vtlcmd_type_translation.h"
 
 #include <algorithm>
 #include <array>
@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "translation/entry.h"
+#include "vtlcmd/translation/entry.h"
 
 namespace vtlcmd {
 namespace {

@@ -1,8 +1,8 @@
 #include "checks/outcome.h"
 #include "checks/subjects.h"
 #include "host/port_host.h"
-#include "orvel_sdk/value_factory.h"
 #include "values/samples.h"
+#include "vtlcmd/stand_in/value_factory.h"
 
 namespace vtlcmd::validator {
 namespace {

@@ -2,7 +2,7 @@
 #include "checks/subjects.h"
 #include "host/port_host.h"
 #include "module/foreign_values.h"
-#include "orvel_sdk/type_factory.h"
+#include "vtlcmd/stand_in/type_factory.h"
 
 namespace vtlcmd::validator {
 namespace {

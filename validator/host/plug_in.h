@@ -2,7 +2,7 @@
 
 #include <filesystem>
 
-#include "host/imports/vantrel_executor.h"
+#include "vtlcmd/host/imports/vantrel_executor.h"
 
 namespace vtlcmd::validator {
 

@@ -3,10 +3,10 @@
 #include <string>
 #include <vector>
 
-#include "host/host_records.h"
-#include "host/port_value_map.h"
 #include "host/session.h"
-#include "logging/vtlcmd_logger.h"
+#include "vtlcmd/host/host_records.h"
+#include "vtlcmd/host/port_value_map.h"
+#include "vtlcmd/logging/vtlcmd_logger.h"
 
 namespace vtlcmd::validator {
 

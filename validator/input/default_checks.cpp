@@ -2,8 +2,8 @@
 #include "checks/subjects.h"
 #include "checks/type_names.h"
 #include "host/port_host.h"
-#include "orvel_sdk/type_factory.h"
 #include "values/samples.h"
+#include "vtlcmd/stand_in/type_factory.h"
 
 namespace vtlcmd::validator {
 namespace {

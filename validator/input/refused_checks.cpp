@@ -2,9 +2,9 @@
 #include "checks/subjects.h"
 #include "checks/type_names.h"
 #include "host/port_host.h"
-#include "orvel_core/make_string.h"
-#include "orvel_sdk/type_factory.h"
-#include "orvel_sdk/value_factory.h"
+#include "vtlcmd/stand_in/make_string.h"
+#include "vtlcmd/stand_in/type_factory.h"
+#include "vtlcmd/stand_in/value_factory.h"
 
 namespace vtlcmd::validator {
 namespace {

@@ -1,7 +1,7 @@
 #include "module/foreign_values.h"
 
-#include "host/value_types.h"
-#include "orvel_core/make_ptr.h"
+#include "vtlcmd/host/value_types.h"
+#include "vtlcmd/stand_in/make_ptr.h"
 
 namespace vtlcmd::foreign_module {
 namespace {

@@ -2,9 +2,9 @@
 
 #include <cstdint>
 
-#include "host/any.h"
-#include "host/imports/orvel_string.h"
-#include "host/imports/vantrel_math.h"
+#include "vtlcmd/host/any.h"
+#include "vtlcmd/host/imports/orvel_string.h"
+#include "vtlcmd/host/imports/vantrel_math.h"
 
 #if defined(VtlCmdForeignModule_EXPORTS)
 #define FOREIGN_MODULE_API CLOSED_LIBRARY_EXPORT

@@ -8,7 +8,7 @@
 #include "host/port_host.h"
 #include "statistics_model.h"
 #include "values/samples.h"
-#include "vantrel_geometry/geometry_builder.h"
+#include "vtlcmd/stand_in/geometry_builder.h"
 
 namespace vtlcmd::validator {
 namespace {

@@ -7,11 +7,11 @@
 #include "checks/subjects.h"
 #include "checks/type_names.h"
 #include "host/port_host.h"
-#include "orvel_core/make_string.h"
-#include "orvel_sdk/type_factory.h"
 #include "text_generator.h"
 #include "text_model.h"
 #include "values/samples.h"
+#include "vtlcmd/stand_in/make_string.h"
+#include "vtlcmd/stand_in/type_factory.h"
 
 namespace vtlcmd::validator {
 namespace {

@@ -6,8 +6,8 @@
 #include <type_traits>
 #include <vector>
 
-#include "host/value_types.h"
-#include "orvel_core/make_ptr.h"
+#include "vtlcmd/host/value_types.h"
+#include "vtlcmd/stand_in/make_ptr.h"
 
 /// Values to put through a plug-in, and their texts.
 

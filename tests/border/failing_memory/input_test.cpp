@@ -2,8 +2,8 @@
 
 #include "border/failing_memory/every_allocation.h"
 #include "border/host.h"
-#include "orvel_sdk/type_factory.h"
 #include "support/type_samples.h"
+#include "vtlcmd/stand_in/type_factory.h"
 
 namespace vtlcmd::testing {
 namespace {

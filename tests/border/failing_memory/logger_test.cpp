@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "border/failing_memory/every_allocation.h"
-#include "logging/vtlcmd_logger.h"
+#include "vtlcmd/logging/vtlcmd_logger.h"
 
 /// The logger is shared source: this is the copy of a program, to which the plug-in's calls are the
 /// same.

@@ -2,10 +2,10 @@
 
 #include "border/failing_memory/every_allocation.h"
 #include "border/host.h"
-#include "orvel_sdk/type_factory.h"
-#include "orvel_sdk/value_factory.h"
 #include "support/type_samples.h"
-#include "vantrel_geometry/geometry_builder.h"
+#include "vtlcmd/stand_in/geometry_builder.h"
+#include "vtlcmd/stand_in/type_factory.h"
+#include "vtlcmd/stand_in/value_factory.h"
 
 namespace vtlcmd::testing {
 namespace {

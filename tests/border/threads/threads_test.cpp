@@ -7,10 +7,10 @@
 #include <vector>
 
 #include "border/host.h"
-#include "orvel_sdk/any_bridge.h"
-#include "orvel_sdk/type_factory.h"
-#include "orvel_sdk/value_factory.h"
 #include "support/type_samples.h"
+#include "vtlcmd/stand_in/any_bridge.h"
+#include "vtlcmd/stand_in/type_factory.h"
+#include "vtlcmd/stand_in/value_factory.h"
 
 /// What may be done from several threads at once. Built with the thread sanitizer, which reports
 /// what isn't ordered; without it, what comes out is looked at all the same.

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 #include <string>
 
-#include "build_identity/build_identity.h"
+#include "vtlcmd/build_identity/build_identity.h"
 
 namespace vtlcmd::build_identity {
 namespace {

@@ -3,8 +3,8 @@
 #include <stdexcept>
 #include <utility>
 
-#include "host/imports/orvel_array.h"
-#include "host/imports/orvel_string.h"
+#include "vtlcmd/host/imports/orvel_array.h"
+#include "vtlcmd/host/imports/orvel_string.h"
 
 namespace Orvel {
 namespace {

@@ -1,4 +1,4 @@
-#include "orvel_core/make_ptr.h"
+#include "vtlcmd/stand_in/make_ptr.h"
 
 #include <gtest/gtest.h>
 #include <stdexcept>

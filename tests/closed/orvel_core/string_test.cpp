@@ -3,8 +3,8 @@
 #include <string>
 #include <utility>
 
-#include "host/imports/orvel_string.h"
-#include "orvel_core/make_string.h"
+#include "vtlcmd/host/imports/orvel_string.h"
+#include "vtlcmd/stand_in/make_string.h"
 
 namespace Orvel {
 namespace {

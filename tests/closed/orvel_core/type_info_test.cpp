@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 #include <string_view>
 
-#include "host/type_tags.h"
+#include "vtlcmd/host/type_tags.h"
 
 namespace Orvel::Internal {
 namespace {

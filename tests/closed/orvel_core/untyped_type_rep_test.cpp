@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 #include <limits>
 
-#include "host/imports/orvel_array.h"
+#include "vtlcmd/host/imports/orvel_array.h"
 
 namespace Orvel::Internal {
 namespace {

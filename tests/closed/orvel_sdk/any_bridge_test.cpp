@@ -1,4 +1,4 @@
-#include "orvel_sdk/any_bridge.h"
+#include "vtlcmd/stand_in/any_bridge.h"
 
 #include <gtest/gtest.h>
 #include <stdexcept>
@@ -9,7 +9,7 @@
 #include "closed/support/expect_error.h"
 #include "closed/support/stored_samples.h"
 #include "closed/support/type_text.h"
-#include "orvel_sdk/value_factory.h"
+#include "vtlcmd/stand_in/value_factory.h"
 
 namespace Orvel {
 namespace {

@@ -3,10 +3,10 @@
 #include <vector>
 
 #include "closed/support/expect_error.h"
-#include "host/imports/vantrel_object.h"
-#include "orvel_core/make_ptr.h"
-#include "orvel_sdk/type_factory.h"
-#include "orvel_sdk/value_factory.h"
+#include "vtlcmd/host/imports/vantrel_object.h"
+#include "vtlcmd/stand_in/make_ptr.h"
+#include "vtlcmd/stand_in/type_factory.h"
+#include "vtlcmd/stand_in/value_factory.h"
 
 /// Types and values inside one another to any depth.
 

@@ -1,4 +1,4 @@
-#include "orvel_sdk/type_factory.h"
+#include "vtlcmd/stand_in/type_factory.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

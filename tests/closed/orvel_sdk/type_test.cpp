@@ -3,9 +3,9 @@
 
 #include "closed/support/expect_error.h"
 #include "closed/support/type_text.h"
-#include "orvel_core/make_ptr.h"
 #include "orvel_sdk/representation.h"
-#include "orvel_sdk/type_factory.h"
+#include "vtlcmd/stand_in/make_ptr.h"
+#include "vtlcmd/stand_in/type_factory.h"
 
 namespace Orvel {
 namespace {

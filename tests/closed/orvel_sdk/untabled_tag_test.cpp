@@ -1,9 +1,9 @@
 #include <gtest/gtest.h>
 
 #include "closed/support/failing_allocation.h"
-#include "orvel_sdk/any_bridge.h"
-#include "orvel_sdk/type_factory.h"
-#include "orvel_sdk/value_factory.h"
+#include "vtlcmd/stand_in/any_bridge.h"
+#include "vtlcmd/stand_in/type_factory.h"
+#include "vtlcmd/stand_in/value_factory.h"
 
 namespace Orvel {
 namespace {

@@ -6,10 +6,10 @@
 #include "closed/support/expect_error.h"
 #include "closed/support/stored_samples.h"
 #include "closed/support/type_text.h"
-#include "host/imports/orvel_values.h"
-#include "orvel_core/make_string.h"
 #include "orvel_sdk/representation.h"
-#include "orvel_sdk/value_factory.h"
+#include "vtlcmd/host/imports/orvel_values.h"
+#include "vtlcmd/stand_in/make_string.h"
+#include "vtlcmd/stand_in/value_factory.h"
 
 namespace Orvel {
 namespace {

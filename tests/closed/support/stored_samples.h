@@ -3,9 +3,9 @@
 #include <gtest/gtest.h>
 #include <type_traits>
 
-#include "host/imports/vantrel_object.h"
-#include "orvel_core/make_ptr.h"
-#include "orvel_sdk/stored_types.h"
+#include "vtlcmd/host/imports/vantrel_object.h"
+#include "vtlcmd/stand_in/make_ptr.h"
+#include "vtlcmd/stand_in/stored_types.h"
 
 namespace Orvel::testing {
 

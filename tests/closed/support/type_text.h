@@ -3,8 +3,8 @@
 #include <string>
 #include <vector>
 
-#include "host/imports/orvel_types.h"
-#include "orvel_sdk/type_factory.h"
+#include "vtlcmd/host/imports/orvel_types.h"
+#include "vtlcmd/stand_in/type_factory.h"
 
 namespace Orvel::testing {
 

@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
-#include "host/imports/vantrel_executor.h"
-#include "orvel_core/make_ptr.h"
-#include "orvel_sdk/type_factory.h"
+#include "vtlcmd/host/imports/vantrel_executor.h"
+#include "vtlcmd/stand_in/make_ptr.h"
+#include "vtlcmd/stand_in/type_factory.h"
 
 namespace Orvel {
 class Library {};

@@ -4,10 +4,10 @@
 #include <utility>
 #include <vector>
 
-#include "host/value_types.h"
-#include "orvel_core/make_ptr.h"
-#include "vantrel_geometry/geometry_builder.h"
-#include "vantrel_object/object_builder.h"
+#include "vtlcmd/host/value_types.h"
+#include "vtlcmd/stand_in/geometry_builder.h"
+#include "vtlcmd/stand_in/make_ptr.h"
+#include "vtlcmd/stand_in/object_builder.h"
 
 namespace Vantrel::Geometry {
 namespace {

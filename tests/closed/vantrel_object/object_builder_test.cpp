@@ -1,4 +1,4 @@
-#include "vantrel_object/object_builder.h"
+#include "vtlcmd/stand_in/object_builder.h"
 
 #include <gtest/gtest.h>
 #include <stdexcept>
@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "closed/support/expect_error.h"
-#include "host/value_types.h"
-#include "orvel_core/make_ptr.h"
+#include "vtlcmd/host/value_types.h"
+#include "vtlcmd/stand_in/make_ptr.h"
 
 namespace Vantrel {
 namespace {

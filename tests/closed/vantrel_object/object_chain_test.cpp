@@ -1,9 +1,9 @@
 #include <gtest/gtest.h>
 #include <utility>
 
-#include "host/value_types.h"
-#include "orvel_core/make_ptr.h"
-#include "vantrel_object/object_builder.h"
+#include "vtlcmd/host/value_types.h"
+#include "vtlcmd/stand_in/make_ptr.h"
+#include "vtlcmd/stand_in/object_builder.h"
 
 namespace Vantrel {
 namespace {

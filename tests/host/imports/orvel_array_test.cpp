@@ -1,10 +1,10 @@
-#include "host/imports/orvel_array.h"
+#include "vtlcmd/host/imports/orvel_array.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "host/imports/orvel_string.h"
 #include "host/imports/own_library.h"
+#include "vtlcmd/host/imports/orvel_string.h"
 
 namespace Orvel {
 namespace {

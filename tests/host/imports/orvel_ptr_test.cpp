@@ -1,4 +1,4 @@
-#include "host/imports/orvel_ptr.h"
+#include "vtlcmd/host/imports/orvel_ptr.h"
 
 #include <gtest/gtest.h>
 #include <utility>

@@ -4,9 +4,9 @@
 #include <cstring>
 #include <utility>
 
-#include "host/imports/orvel_array.h"
-#include "host/imports/orvel_string.h"
-#include "host/imports/orvel_type_info.h"
+#include "vtlcmd/host/imports/orvel_array.h"
+#include "vtlcmd/host/imports/orvel_string.h"
+#include "vtlcmd/host/imports/orvel_type_info.h"
 
 namespace Orvel {
 namespace {

@@ -2,7 +2,7 @@
 #include <thread>
 #include <vector>
 
-#include "host/imports/orvel_ptr.h"
+#include "vtlcmd/host/imports/orvel_ptr.h"
 
 /// Threads share, use and release one object; whoever is last ends it. Built with the thread
 /// sanitizer, which reports an order of the counts that lets the end come before a use.

@@ -1,10 +1,10 @@
-#include "host/imports/vantrel_records.h"
+#include "vtlcmd/host/imports/vantrel_records.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "host/any.h"
 #include "host/imports/own_library.h"
+#include "vtlcmd/host/any.h"
 
 namespace Vantrel::File::Project {
 namespace {

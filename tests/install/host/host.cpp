@@ -5,13 +5,13 @@
 #include <dlfcn.h>
 #include <iostream>
 
-#include "host/host_records.h"
-#include "host/imports/vantrel_executor.h"
-#include "host/imports/vantrel_math.h"
-#include "host/port_value_map.h"
-#include "logging/vtlcmd_logger.h"
-#include "orvel_sdk/any_bridge.h"
-#include "orvel_sdk/type_factory.h"
+#include "vtlcmd/host/host_records.h"
+#include "vtlcmd/host/imports/vantrel_executor.h"
+#include "vtlcmd/host/imports/vantrel_math.h"
+#include "vtlcmd/host/port_value_map.h"
+#include "vtlcmd/logging/vtlcmd_logger.h"
+#include "vtlcmd/stand_in/any_bridge.h"
+#include "vtlcmd/stand_in/type_factory.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "output/statistics/array_statistics.h"
+#include "vtlcmd/output/statistics/array_statistics.h"
 
 #include <cmath>
 #include <gtest/gtest.h>
@@ -6,11 +6,11 @@
 #include <string>
 #include <vector>
 
-#include "output/statistics/average.h"
 #include "support/allocation_count.h"
 #include "support/built_text.h"
 #include "support/scoped_locale.h"
 #include "support/type_samples.h"
+#include "vtlcmd/output/statistics/average.h"
 
 namespace vtlcmd {
 namespace {

@@ -1,4 +1,4 @@
-#include "output/statistics/average.h"
+#include "vtlcmd/output/statistics/average.h"
 
 #include <cmath>
 #include <gtest/gtest.h>

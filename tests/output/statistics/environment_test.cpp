@@ -2,10 +2,10 @@
 #include <string>
 #include <vector>
 
-#include "output/statistics/array_statistics.h"
 #include "support/built_text.h"
 #include "support/floating_environment.h"
 #include "support/type_samples.h"
+#include "vtlcmd/output/statistics/array_statistics.h"
 
 namespace vtlcmd {
 namespace {

@@ -1,4 +1,4 @@
-#include "output/statistics/kernels.h"
+#include "vtlcmd/output/statistics/kernels.h"
 
 #include <bit>
 #include <gtest/gtest.h>

@@ -8,8 +8,8 @@
 #include <type_traits>
 #include <vector>
 
-#include "host/imports/vantrel_math.h"
-#include "output/statistics/kernels.h"
+#include "vtlcmd/host/imports/vantrel_math.h"
+#include "vtlcmd/output/statistics/kernels.h"
 
 namespace vtlcmd::testing {
 

@@ -1,4 +1,4 @@
-#include "output/statistics/runnable_rows.h"
+#include "vtlcmd/output/statistics/runnable_rows.h"
 
 #include <gtest/gtest.h>
 

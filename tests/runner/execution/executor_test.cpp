@@ -3,10 +3,10 @@
 #include <gtest/gtest.h>
 
 #include "nodes/node_table.h"
-#include "orvel_sdk/value_factory.h"
 #include "runner/support/temporary_folder.h"
 #include "text/library_text.h"
 #include "values/library_array.h"
+#include "vtlcmd/stand_in/value_factory.h"
 
 namespace vtlcmd::runner {
 namespace {

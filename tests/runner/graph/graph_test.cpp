@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "graph/graph_error.h"
-#include "orvel_sdk/value_factory.h"
+#include "vtlcmd/stand_in/value_factory.h"
 
 namespace vtlcmd::runner {
 namespace {

@@ -6,8 +6,8 @@
 
 #include "graph/graph_error.h"
 #include "graph/json_document.h"
-#include "orvel_sdk/value_factory.h"
 #include "values/library_array.h"
+#include "vtlcmd/stand_in/value_factory.h"
 
 namespace vtlcmd::runner {
 namespace {

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "host/value_types.h"
 #include "runner/support/run_graph.h"
+#include "vtlcmd/host/value_types.h"
 
 namespace vtlcmd::runner {
 namespace {

@@ -2,8 +2,8 @@
 #include <gtest/gtest.h>
 #include <limits>
 
-#include "host/value_types.h"
 #include "runner/support/run_graph.h"
+#include "vtlcmd/host/value_types.h"
 
 namespace vtlcmd::runner {
 namespace {

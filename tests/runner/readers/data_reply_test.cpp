@@ -4,12 +4,12 @@
 #include <gtest/gtest.h>
 #include <sstream>
 
-#include "host/imports/vantrel_geometry.h"
-#include "orvel_sdk/value_factory.h"
 #include "readers/data_writer.h"
 #include "readers/read_error.h"
 #include "text/library_text.h"
 #include "values/library_array.h"
+#include "vtlcmd/host/imports/vantrel_geometry.h"
+#include "vtlcmd/stand_in/value_factory.h"
 
 namespace vtlcmd::runner {
 namespace {

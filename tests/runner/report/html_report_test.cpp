@@ -4,8 +4,8 @@
 
 #include "journal/journal_lines.h"
 #include "journal/journal_reader.h"
-#include "logging/vtlcmd_logger.h"
 #include "report/run_report.h"
+#include "vtlcmd/logging/vtlcmd_logger.h"
 
 namespace vtlcmd::runner {
 namespace {

@@ -3,9 +3,9 @@
 #include <gtest/gtest.h>
 #include <sstream>
 
-#include "orvel_sdk/value_factory.h"
 #include "readers/npy_header.h"
 #include "values/library_array.h"
+#include "vtlcmd/stand_in/value_factory.h"
 
 namespace vtlcmd::runner {
 namespace {

@@ -4,13 +4,13 @@
 #include <sstream>
 #include <stdexcept>
 
-#include "orvel_sdk/any_bridge.h"
 #include "readers/mesh_import.h"
 #include "runner/support/temporary_folder.h"
 #include "text/library_text.h"
 #include "values/library_array.h"
-#include "vantrel_geometry/geometry_builder.h"
-#include "vantrel_object/object_builder.h"
+#include "vtlcmd/stand_in/any_bridge.h"
+#include "vtlcmd/stand_in/geometry_builder.h"
+#include "vtlcmd/stand_in/object_builder.h"
 
 namespace vtlcmd::runner {
 namespace {

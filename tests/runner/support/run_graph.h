@@ -8,8 +8,8 @@
 
 #include "execution/executor.h"
 #include "graph/graph.h"
-#include "orvel_sdk/value_factory.h"
 #include "values/library_array.h"
+#include "vtlcmd/stand_in/value_factory.h"
 
 namespace vtlcmd::runner {
 

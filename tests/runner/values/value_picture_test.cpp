@@ -3,11 +3,11 @@
 #include <gtest/gtest.h>
 #include <limits>
 
-#include "orvel_sdk/any_bridge.h"
 #include "text/json.h"
 #include "text/library_text.h"
 #include "values/library_array.h"
-#include "vantrel_geometry/geometry_builder.h"
+#include "vtlcmd/stand_in/any_bridge.h"
+#include "vtlcmd/stand_in/geometry_builder.h"
 
 namespace vtlcmd::runner {
 namespace {

@@ -9,9 +9,9 @@
 #include <system_error>
 #include <thread>
 
-#include "host/host_records.h"
-#include "translation/entry.h"
-#include "translation/vtlcmd_type_translation.h"
+#include "vtlcmd/host/host_records.h"
+#include "vtlcmd/translation/entry.h"
+#include "vtlcmd/translation/vtlcmd_type_translation.h"
 #include "workers/sudden_ends.h"
 
 // The plug-in, but for some frames of a run: the environment says like "3=crash,5=exit" what

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "translation/vtlcmd_type_translation.h"
+#include "vtlcmd/translation/vtlcmd_type_translation.h"
 
 namespace vtlcmd::spoiled {
 

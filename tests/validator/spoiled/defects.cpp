@@ -8,8 +8,8 @@
 #include <thread>
 
 #include "defect.h"
-#include "host/value_types.h"
-#include "logging/vtlcmd_logger.h"
+#include "vtlcmd/host/value_types.h"
+#include "vtlcmd/logging/vtlcmd_logger.h"
 
 namespace vtlcmd::spoiled {
 namespace {

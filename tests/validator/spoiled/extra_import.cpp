@@ -1,4 +1,4 @@
-#include "orvel_sdk/type_factory.h"
+#include "vtlcmd/stand_in/type_factory.h"
 
 /// Kept by the linker, as it may have effects.
 static const auto names = Orvel::knownTypeNames();

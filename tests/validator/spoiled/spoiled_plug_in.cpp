@@ -1,7 +1,7 @@
 #include <new>
 
 #include "defect.h"
-#include "translation/entry.h"
+#include "vtlcmd/translation/entry.h"
 
 // The plug-in with one defect.
 

@@ -1,9 +1,0 @@
-#include "translation/entry.h"
-
-#include <new>
-
-#include "translation/vtlcmd_type_translation.h"
-
-VantrelGraph::Executor::TypeTranslation* createVantrelTypeTranslation() noexcept {
-  return new (std::nothrow) vtlcmd::VtlCmdTypeTranslation;
-}
