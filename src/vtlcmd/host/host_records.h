@@ -7,14 +7,15 @@
 #include "vtlcmd/host/any.h"
 #include "vtlcmd/host/imports/orvel_string.h"
 
+/// @file
 /// What the host hands in with every call. The host owns all of it and keeps it alive for the
 /// length of the call; the plug-in keeps no pointer into it. Field order is the border.
 ///
 /// Conditions on the operations of the border are written in brackets:
-///   [any thread]      callable from any thread, also at the same time as any other operation
-///   [logger's thread] not at the same time as another call that reaches the same logger
-///   [no throw]        an exception ends the process rather than crossing into the host
-///   [may throw]       what the allocator and the closed libraries throw passes through
+/// - [any thread]: callable from any thread, also at the same time as any other operation
+/// - [logger's thread]: not at the same time as another call that reaches the same logger
+/// - [no throw]: an exception ends the process rather than crossing into the host
+/// - [may throw]: what the allocator and the closed libraries throw passes through
 
 namespace vtlcmd {
 

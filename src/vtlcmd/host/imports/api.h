@@ -8,7 +8,7 @@
 /// end, are [any thread]. What is [may throw] changes nothing that exists when it does.
 
 /// Marks the declarations of a library: exported while the library itself is compiled (its build
-/// defines <Library>_EXPORTS), imported by everyone else.
+/// defines `<Library>_EXPORTS`), imported by everyone else.
 
 #if defined(_WIN32)
 #define CLOSED_LIBRARY_EXPORT __declspec(dllexport)
