@@ -85,7 +85,7 @@ def check(baseline, made_with, counts):
     if compared:
         print(f"{len(counts)} operations counted, {len(problems)} unlike the baseline")
     else:
-        print(f"{len(counts)} operations counted, not compared: with {made_with}; "
+        print(f"skipped: {len(counts)} operations counted, not compared: with {made_with}; "
               f"the baseline is of {expected_with}")
     return 1 if problems else 0
 

@@ -36,10 +36,12 @@ int run(int count, char** arguments) {
   if (smoke) {
     for (Row& row : rows) row.pairs = 1;
   }
+  const std::size_t rowCount = rows.size();
   registerRows(rows);
 
   Table table(std::cout, !smoke);
   benchmark::RunSpecifiedBenchmarks(&table);
+  if (smoke) std::cout << rowCount << " rows\n";
   if (table.missed() == 0) return EXIT_SUCCESS;
   std::cout << table.missed() << " missed\n";
   return EXIT_FAILURE;

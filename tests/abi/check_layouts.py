@@ -171,6 +171,7 @@ def main():
     compiler = parser.parse_args().compiler
     targets = [Target(compiler, [compiler], "__GNUC__")] if compiler else all_targets()
     results = [holds(target) for target in targets]
+    print(f"{sum(results)} of {len(results)} compilers agree")
     sys.exit(0 if all(results) else 1)
 
 

@@ -43,7 +43,8 @@ for description in "$new"/*; do
   report=$(abidiff --harmless --no-show-locs --suppressions "$suppressions" \
     "$here/baseline/$name" "$description") || {
     printf '%s: not as in the baseline; ./dev abi-baseline renews it\n%s\n' "$name" "$report"
-    changed=1
+    changed=$((changed + 1))
   }
 done
-exit $changed
+echo "$(ls "$new" | wc -l) libraries, $changed changed"
+((changed == 0))

@@ -152,6 +152,15 @@ class Tally:
                     total[kind][0] += reached or gap in self.excuses
                     total[kind][1] += 1
 
+    def claim(self, folder):
+        """What there is of each kind where all of it has to be reached, and else how much is."""
+        if set(GATES[folder]) == {100}:
+            counts = ", ".join(f"{count} {kind}" for kind, (_, count) in zip(KINDS, self.sums[folder]))
+            return f"{folder}: {counts}, all but {len(self.excuses)} listed"
+        shares = (f"{int(percent(figures))} % of {kind}"
+                  for kind, figures, least in zip(KINDS, self.sums[folder], GATES[folder]) if least)
+        return f"{folder}: {', '.join(shares)}"
+
     def failures(self, folders):
         for folder in folders:
             if self.sums[folder][0][1] == 0:
@@ -191,6 +200,7 @@ def main():
     if arguments.gaps:
         for (name, what, text), lines in sorted(tally.gaps.items()):
             print(*(f"{name}:{line}: {what} not reached: {text}" for line in lines), sep="\n")
+    print(*(tally.claim(folder) for folder in arguments.folders), sep="; ")
     failures = list(tally.failures(arguments.folders))
     print(*failures, sep="\n", end="\n" * bool(failures), file=sys.stderr)
     return 1 if failures else 0

@@ -153,11 +153,12 @@ with tempfile.TemporaryDirectory() as temporary:
     folder = pathlib.Path(temporary)
     (folder / "work").mkdir()
     (folder / "work/graph.json").write_text(json.dumps(GRAPH))
+    tests = (survives_the_loss_of_a_node, runs_a_task_again_that_was_requeued, fits_the_array_size,
+             tells_what_the_scheduler_refuses)
     with Cluster(folder / "slurm", array_size=21) as cluster:
-        for test in (survives_the_loss_of_a_node, runs_a_task_again_that_was_requeued,
-                     fits_the_array_size, tells_what_the_scheduler_refuses):
+        for test in tests:
             test(cluster, folder / "work")
     expect("processes left behind", children_of([os.getpid()]), [])
 
-print("\n".join(problems))
+print("\n".join(problems) or f"{len(tests)} jobs, all as expected")
 sys.exit(1 if problems else 0)

@@ -32,7 +32,8 @@ def compiles(job):
 
 def jobs():
     folder = pathlib.Path(arguments.folder)
-    headers = [path.relative_to(folder).as_posix() for top in ("src", "closed") for path in (folder / top).rglob("*.h")]
+    headers = [path.relative_to(folder).as_posix() for top in ("src", "closed")
+               for path in (folder / top).rglob("*.h")]
     for header in sorted(headers):
         combinations = [(compiler, standard) for compiler in COMPILERS for standard in STANDARDS]
         for compiler, standard in combinations if header.startswith(FOR_HOSTS) else combinations[:1]:

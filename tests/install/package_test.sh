@@ -50,3 +50,4 @@ bash "$here/check_use.sh" "$root/usr"
 in_root --purge vtlcmd
 [[ -z $(find "$root" -path "$root/var/lib/dpkg" -prune -o ! -type d -print) ]] ||
   fail "$package leaves something behind"
+echo "installed, used, and nothing left behind"

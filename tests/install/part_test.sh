@@ -15,3 +15,4 @@ rest=$(cd "$work" && find . -maxdepth 2 '(' -name bin -o -name 'CPack*' -o -name
   echo "more than a part: $rest" >&2
   exit 1
 }
+echo "its host says what it should"

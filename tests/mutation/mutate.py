@@ -137,7 +137,8 @@ def main():
     print_counts(results)
     problems = list(equivalents.gone(entries, PROJECT))
     places = [mutant.place for mutant in survivors]
-    problems += equivalents.unlisted(entries, places)
+    unlisted = list(equivalents.unlisted(entries, places))
+    problems += unlisted
     if options.sample is None:
         for entry in equivalents.needless(entries, places, lambda file: is_chosen(file, files)):
             print(entry)
@@ -145,6 +146,7 @@ def main():
                                 options.sample is None)
     for problem in problems:
         print(problem, file=sys.stderr)
+    print(f"{len(results)} mutants, {len(unlisted)} survive that aren't listed")
     return 1 if problems else 0
 
 

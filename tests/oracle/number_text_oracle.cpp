@@ -113,8 +113,13 @@ void compareRun(Comparison& comparison, std::uint64_t run, const Amounts& amount
   }
 }
 
-/// The failures of one rounding mode in the global locale of the moment.
-std::uint64_t failuresIn(const RoundingMode& mode, const char* locale, const Amounts& amounts) {
+struct Counts {
+  std::uint64_t numbers = 0;
+  std::uint64_t failures = 0;
+};
+
+/// Adds what one rounding mode gives in the global locale of the moment.
+void compareIn(const RoundingMode& mode, const char* locale, const Amounts& amounts, Counts& all) {
   std::atomic<std::uint64_t> count = 0;
   std::atomic<std::uint64_t> failures = 0;
   {
@@ -131,7 +136,8 @@ std::uint64_t failuresIn(const RoundingMode& mode, const char* locale, const Amo
   }
   std::cout << locale << " locale, rounding " << mode.name << ": " << count << " numbers, "
             << failures << " differ" << std::endl;
-  return failures;
+  all.numbers += count;
+  all.failures += failures;
 }
 
 }  // namespace
@@ -148,15 +154,17 @@ int main(int argumentCount, char** arguments) try {
   CLI11_PARSE(app, argumentCount, arguments);
   if (exhaustive) amounts = {1, 5'000'000};
 
-  std::uint64_t failures = failuresIn(roundingModes[0], "classic", amounts);
+  Counts all;
+  compareIn(roundingModes[0], "classic", amounts, all);
   // Elsewhere the stream itself writes the text: what is looked at is that it does.
   const Amounts few{amounts.stride * 64 + 1, amounts.doubles / 8};
   for (const RoundingMode& mode : roundingModes) {
-    if (mode.mode != FE_TONEAREST) failures += failuresIn(mode, "classic", few);
+    if (mode.mode != FE_TONEAREST) compareIn(mode, "classic", few, all);
     const vtlcmd::testing::GroupingLocale locale;
-    failures += failuresIn(mode, "grouping", few);
+    compareIn(mode, "grouping", few, all);
   }
-  return failures == 0 ? 0 : 1;
+  std::cout << all.numbers << " numbers, " << all.failures << " differ\n";
+  return all.failures == 0 ? 0 : 1;
 } catch (const std::exception& error) {
   std::cerr << error.what() << '\n';
   return 2;

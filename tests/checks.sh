@@ -1,0 +1,326 @@
+# The checks of ./dev check, which sources this: a table of them, a function check_NAME for each, and
+# how they are run. What a check prints last is its figure in docs/quality.md. Each can be made alone,
+# so it builds what it needs.
+
+# name | claim; those of the second table belong to the long form.
+short_checks=(
+  'format|sources have the format of the project'
+  'headers|each header compiles alone; those of hosts as C++20 and C++23 with both compilers'
+  'layouts|what crosses the border lies in memory as written down, on three ABIs'
+  'surface|the closed libraries export what they exported before'
+  'reference|the comments of what a host sees make a reference without a warning'
+  'mutants|a jump in the machine code of the plug-in that goes wrong fails a test'
+  'benchmarks|every row of the benchmarks runs'
+  'instructions|no operation takes 5 % more instructions than before'
+  'closed-libraries|the plug-in builds alone, against link libraries made of its list of imports'
+  'sanitizers|the tests make no wrong access, leak nothing and have no undefined behaviour'
+  'thread-sanitizer|objects, loggers and use counts in several threads have no data race'
+  'coverage|tests reach every line, branch and condition of the plug-in'
+  'lint|clang-tidy finds nothing in the plug-in'
+  'windows-lint|nor in the sources for Windows'
+  'shells|completion works in bash, zsh and fish'
+  'browser|a report page shows in a browser what it should, and runs nothing foreign'
+  'farm|a job on a cluster of two nodes survives the loss of one'
+  'manual|manual pages are well formed and name every option'
+  'packages|the packages install, work and leave nothing behind'
+  'part|another project can have the plug-in as a part'
+  'parsing|texts become the values that a model of the rules says'
+  'statistics|minimum, maximum and average are those of exact arithmetic'
+  'round-trip|floats printed with nine digits are read back the same'
+  'number-text|numbers read as the streams of C++ write them, in every rounding mode'
+  'texts-of-others|so do texts of other projects, and two more libraries agree'
+  'fuzzing|inputs made to break the plug-in are answered as a model says'
+  'windows|the tests pass on 64-bit Windows (Wine)'
+  'windows-package|the package for Windows works in an empty folder'
+)
+long_checks=(
+  'every-mutant|each jump in the machine code of the plug-in that goes wrong fails a test'
+  'gcc-sanitizers|the tests under the sanitizers of the other compiler'
+  'memcheck|the tests of the plug-in touch no wrong memory and lose none (valgrind)'
+  'runner-coverage|tests reach at least 95 % of the lines of the runner, and 85 % of its branches'
+  'lint-everything|clang-tidy finds nothing anywhere'
+  'kills|a run that is killed goes on where it was'
+  'failing-calls|any allocation, read or write that fails ends a run in an orderly way'
+  'twice|two builds of one commit make the same packages'
+  'long-parsing|many more texts become the values that a model of the rules says'
+  'every-float|every float is read back from its nine digits'
+  'every-number-text|every float, and ten million doubles, read as the streams of C++ write them'
+  'json|graph files of a test suite for JSON parsers are answered rightly'
+  'long-fuzzing|inputs made to break plug-in and runner are answered as a model says, at length'
+  'windows-units|the tests of the runner'"'"'s parts pass on 64-bit Windows (Wine)'
+)
+
+# run_tests PRESET: their output, and how many there were.
+run_tests() {
+  ctest --preset "$1" | tee -a /dev/stderr |
+    sed -n 's/^100% tests passed, 0 tests failed out of \([0-9]*\)$/\1 of \1 tests/p'
+}
+
+check_format() {
+  sources | xargs clang-format --dry-run -Werror
+  echo "no difference"
+}
+
+check_headers() { python3 tests/headers/headers_alone.py; }
+
+check_layouts() { python3 tests/abi/check_layouts.py; }
+
+check_surface() {
+  build_preset abi
+  tests/abi/surface.sh check build/abi/lib
+}
+
+check_reference() {
+  mkdir -p build/reference
+  doxygen docs/Doxyfile
+  echo "no warning"
+}
+
+# Others after each commit.
+check_mutants() { mutate_build --sample 150 --seed "$(git rev-list --count HEAD)"; }
+
+check_every_mutant() { mutate_build; }
+
+mutate_build() {
+  if [[ $(uname -m) != x86_64 ]]; then
+    echo "skipped: the jumps of x86-64 alone are known"
+    return
+  fi
+  build_preset release
+  mutate "$@"
+}
+
+check_benchmarks() {
+  build_preset bench
+  build/release/bin/vtlcmd_bench --smoke
+}
+
+check_instructions() {
+  build_preset bench
+  instructions check
+}
+
+check_closed_libraries() {
+  build_preset release OrvelCore OrvelSDK VantrelBoardExecutor VantrelObject VantrelGeometry
+  bash tests/border/check_closed_libraries.sh build/release/lib
+}
+
+# test_build PRESET
+test_build() {
+  build_preset "$1"
+  run_tests "$1"
+}
+
+check_sanitizers() { test_build asan-ubsan; }
+
+check_gcc_sanitizers() { test_build asan-ubsan-gcc; }
+
+check_thread_sanitizer() { test_build tsan; }
+
+# memcheck: neither a wrong access nor a lost block.
+check_memcheck() {
+  build_preset release
+  local program count=0
+  for program in build/release/bin/{host,text,input,output,translation,logging,border,closed}*_tests; do
+    valgrind --quiet --leak-check=full --error-exitcode=1 "$program"
+    count=$((count + 1))
+  done
+  echo "$count programs"
+}
+
+# coverage TESTS FOLDER...: what the tests of a preset reach in the folders, and whether it is enough.
+coverage() {
+  local tests=$1
+  shift
+  step "configure coverage" cmake --preset coverage
+  cmake --build --preset "$tests"
+  rm -rf build/coverage/profiles
+  ctest --preset "$tests"
+  /usr/bin/python3 tests/coverage/coverage.py build/coverage "$@"
+}
+
+check_coverage() { coverage coverage src closed; }
+
+check_runner_coverage() { coverage coverage-runner runner; }
+
+# lint FOLDER...: their sources, as the second compiler sees them.
+lint() {
+  build_preset lint
+  git ls-files "${@/%//*.cpp}" ':!*_windows.cpp' |
+    xargs -P "$(nproc)" -n 3 clang-tidy --quiet -p build/lint
+  echo "no finding"
+}
+
+check_lint() { lint src; }
+
+check_lint_everything() { lint src closed runner; }
+
+# Those that the second compiler doesn't see, with its own idea of that platform.
+check_windows_lint() {
+  local headers
+  headers=$(x86_64-w64-mingw32-g++-posix -print-file-name=include/c++)
+  git ls-files 'src/*_windows.cpp' 'closed/*_windows.cpp' 'runner/*_windows.cpp' |
+    xargs -P "$(nproc)" -I{} clang-tidy --quiet {} -- --target=x86_64-w64-mingw32 -std=c++20 \
+      -Isrc -Iclosed -Irunner -isystem "$headers" -isystem "$headers/x86_64-w64-mingw32"
+  echo "no finding"
+}
+
+# python_test SCRIPT [OPTION...]: of the built program.
+python_test() {
+  build_preset release
+  /usr/bin/python3 "$1" --program build/release/bin/vtlcmd "${@:2}"
+}
+
+check_shells() { python_test tests/runner/completion_test.py --folder .; }
+
+check_browser() { python_test tests/runner/report_page_test.py --folder .; }
+
+check_kills() { python_test tests/runner/resume_test.py --folder . --kills 100; }
+
+check_farm() { python_test tests/farm/farm_test.py; }
+
+check_json() {
+  have npm || {
+    echo "skipped: there is no npm"
+    return
+  }
+  python_test tests/runner/json_inputs_test.py
+}
+
+check_failing_calls() {
+  build_preset release
+  /usr/bin/python3 tests/runner/failing_calls_test.py \
+    --program build/release/bin/vtlcmd_failing_calls --folder . --tries 0
+}
+
+check_manual() {
+  build_preset release
+  bash tests/runner/manual_test.sh build/release/bin/vtlcmd build/release/man
+  echo "$(ls build/release/man/man? | grep -c '^vtlcmd') pages"
+}
+
+check_packages() {
+  build_preset release
+  rm -rf build/packages
+  make_packages release
+  bash tests/install/package_test.sh build/packages
+}
+
+check_part() { bash tests/install/part_test.sh; }
+
+check_twice() {
+  bash tests/install/reproducible_test.sh
+  echo "no byte differs"
+}
+
+# oracle PROGRAM [OPTION...]
+oracle() {
+  build_preset release "$1"
+  "build/release/bin/$1" "${@:2}"
+}
+
+check_parsing() { oracle parse_oracle --count 1000000; }
+
+check_long_parsing() { oracle parse_oracle --count 20000000; }
+
+check_statistics() { oracle statistics_oracle --count 1000000; }
+
+check_round_trip() { oracle binary32_round_trip; }
+
+check_every_float() { oracle binary32_round_trip --exhaustive; }
+
+check_number_text() { oracle number_text_oracle; }
+
+check_every_number_text() { oracle number_text_oracle --exhaustive; }
+
+# From packages that are downloaded and not installed; how many texts depends on their versions.
+check_texts_of_others() {
+  /usr/bin/python3 tests/oracle/package_texts.py build/packages_of_others |
+    oracle given_texts_oracle 25000
+  echo "over 25000 texts, no difference"
+}
+
+# fuzz SECONDS TARGET...: lets each target look for so long, as many at a time as there are processors.
+fuzz() {
+  local seconds=$1
+  shift
+  build_preset fuzz "${@/%/_fuzz}"
+  printf '%s\n' "$@" | xargs -P "$(nproc)" -I{} bash fuzz/run.sh build/fuzz "$seconds" {}
+  echo "$# targets, $seconds s each: no finding"
+}
+
+check_fuzzing() { fuzz 30 scalar_text vector_text split_text scene_path report; }
+
+check_long_fuzzing() {
+  fuzz 600 scalar_text vector_text split_text scene_path report graph_file npy journal
+}
+
+check_windows() {
+  step "set up mingw" cmake --preset mingw -D VTLCMD_RUNNER_UNIT_TESTS=OFF
+  test_build mingw
+}
+
+check_windows_units() {
+  step "set up mingw" cmake --preset mingw -D VTLCMD_RUNNER_UNIT_TESTS=ON
+  test_build mingw
+}
+
+check_windows_package() {
+  build_preset mingw
+  rm -f build/packages/*.zip
+  make_packages mingw
+  bash tests/install/windows_package_test.sh build/packages/*.zip
+  echo "its program says what it should"
+}
+
+# list_checks: name|claim of each, with an empty line before those of the long form.
+list_checks() {
+  printf '%s\n' "${short_checks[@]}" '' "${long_checks[@]}"
+}
+
+# row_of NAME: its row of the tables.
+row_of() {
+  local row
+  for row in "${short_checks[@]}" "${long_checks[@]}"; do
+    [[ ${row%%|*} != "$1" ]] || {
+      echo "$row"
+      return
+    }
+  done
+  echo "./dev check: there is no '$1'; --list names all" >&2
+  return 2
+}
+
+# run_check NAME: prints its figure; its output goes to a file, and is shown if it fails.
+run_check() {
+  local log=build/check/$1.log began=$SECONDS status
+  echo "== $1" >&2
+  rm -f "$log"
+  # A condition around it would make it go on after a failure.
+  set +e
+  (
+    set -e
+    "check_${1//-/_}"
+  ) >>"$log" 2>&1
+  status=$?
+  set -e
+  if ((status != 0)); then
+    cat "$log" >&2
+    echo "== failed: $1" >&2
+    return 1
+  fi
+  tail -n 1 "$log"
+  echo "   $(tail -n 1 "$log") ($((SECONDS - began)) s)" >&2
+}
+
+# run_checks NAME...: in this order, up to the first that fails; then the table of them.
+run_checks() {
+  local figures=build/check/figures.txt name figure
+  mkdir -p build/check
+  : >"$figures"
+  for name in "$@"; do
+    figure=$(run_check "$name")
+    echo "$name|$figure" >>"$figures"
+  done
+  list_checks | python3 tests/docs/quality.py "$figures" docs/quality.md
+}
