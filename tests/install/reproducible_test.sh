@@ -13,7 +13,7 @@ build() {
   (cd "$here/../.." && git ls-files -z | tar -c --null -T -) | tar -x -C "$1"
   cd "$1"
   export TZ=$2 SOURCE_DATE_EPOCH=1700000000
-  cmake --preset release -D BUILD_TESTING=OFF -D CMAKE_INSTALL_LIBDIR=lib64
+  cmake --preset release -D BUILD_TESTING=OFF -D CMAKE_INSTALL_LIBDIR=lib
   cmake --build --preset release
   (umask 022 && cpack --config build/release/CPackConfig.cmake -B build/packages)
 }
