@@ -27,7 +27,7 @@ std::vector<std::size_t> evaluationOrder(const Dependencies& dependencies) {
   return order;
 }
 
-std::vector<std::size_t> findCircle(const Dependencies& dependencies) {
+std::vector<std::size_t> findCycle(const Dependencies& dependencies) {
   std::vector<bool> unordered(dependencies.size(), true);
   for (const std::size_t node : evaluationOrder(dependencies)) unordered[node] = false;
   const auto first = std::find(unordered.begin(), unordered.end(), true);

@@ -137,12 +137,12 @@ class GraphBuilder {
         }
       }
     }
-    const std::vector<std::size_t> circle = findCircle(dependencies);
-    if (!circle.empty()) {
+    const std::vector<std::size_t> cycle = findCycle(dependencies);
+    if (!cycle.empty()) {
       std::string way;
-      for (const std::size_t node : circle) way += inQuotes(graph_.nodes[node].name) + " -> ";
-      nodePlaces_[circle.front()].fail("the nodes run in a circle: " + way +
-                                       inQuotes(graph_.nodes[circle.front()].name));
+      for (const std::size_t node : cycle) way += inQuotes(graph_.nodes[node].name) + " -> ";
+      nodePlaces_[cycle.front()].fail("the nodes form a cycle: " + way +
+                                      inQuotes(graph_.nodes[cycle.front()].name));
     }
     graph_.order = evaluationOrder(dependencies);
   }

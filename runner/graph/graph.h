@@ -41,7 +41,7 @@ struct GraphOutput {
   std::size_t source = 0;
 };
 
-/// A graph that was checked: every source exists, types fit, nothing runs in a circle. A slot is
+/// A graph that was checked: every source exists, types fit, no nodes form a cycle. A slot is
 /// the place of a value during a run: that of each port, in order, then that of each node.
 struct Graph {
   std::string name;

@@ -20,32 +20,39 @@ T wrapping(T a, T b, Function function) {
   }
 }
 
-constexpr auto add = []<typename T>(T a, T b) { return wrapping(a, b, std::plus<>()); };
-constexpr auto subtract = []<typename T>(T a, T b) { return wrapping(a, b, std::minus<>()); };
-constexpr auto multiply = []<typename T>(T a, T b) { return wrapping(a, b, std::multiplies<>()); };
-
-constexpr auto divide = []<typename T>(T a, T b) {
-  if constexpr (std::is_integral_v<T>) {
-    if (b == 0) throw NodeError("an integer can't be divided by zero");
-    // The one quotient that its type can't hold is that of the lowest number by -1.
-    if constexpr (std::is_signed_v<T>) {
-      if (b == -1) return wrapping(T{0}, a, std::minus<>());
-    }
-    return static_cast<T>(a / b);
-  } else {
-    return a / b;
+template <typename Function>
+struct Wrapping {
+  template <typename T>
+  T operator()(T a, T b) const {
+    return wrapping(a, b, Function());
   }
 };
 
-template <const auto& Function, typename T>
+struct Quotient {
+  template <typename T>
+  T operator()(T a, T b) const {
+    if constexpr (std::is_integral_v<T>) {
+      if (b == 0) throw NodeError("an integer can't be divided by zero");
+      // The one quotient that its type can't hold is that of the lowest number by -1.
+      if constexpr (std::is_signed_v<T>) {
+        if (b == -1) return wrapping(T{0}, a, std::minus<>());
+      }
+      return static_cast<T>(a / b);
+    } else {
+      return a / b;
+    }
+  }
+};
+
+template <typename Function, typename T>
 T combine(const T& a, const T& b) {
   if constexpr (Composite<T>) {
     T result;
     for (std::size_t i = 0; i < result.components.size(); ++i)
-      result.components[i] = Function(a.components[i], b.components[i]);
+      result.components[i] = Function()(a.components[i], b.components[i]);
     return result;
   } else {
-    return Function(a, b);
+    return Function()(a, b);
   }
 }
 
@@ -59,12 +66,12 @@ ValueType resultOfTwo(const NodeTypes& types) {
   throw std::invalid_argument(nameOf(a) + " and " + nameOf(b) + " don't go together; convert one");
 }
 
-template <const auto& Function>
+template <typename Function>
 Orvel::Value evaluateTwo(const NodeCall& call) {
   return evaluateAs(call.resultType.element, [&]<typename T>() -> Orvel::Value {
     if constexpr (Number<T> || Composite<T>) {
-      const Orvel::Value first = spread<T>(call[0], call.types[0]);
-      const Orvel::Value second = spread<T>(call[1], call.types[1]);
+      const Orvel::Value first = broadcast<T>(call[0], call.types[0]);
+      const Orvel::Value second = broadcast<T>(call[1], call.types[1]);
       const Operand<T> a(first, call.types[0].depth > 0);
       const Operand<T> b(second, call.types[1].depth > 0);
       return singleOrArray<T>(sharedSize({{a.size(), b.size()}}),
@@ -75,17 +82,21 @@ Orvel::Value evaluateTwo(const NodeCall& call) {
   });
 }
 
-constexpr auto sine = []<typename T>(T x) { return std::sin(x); };
-constexpr auto cosine = []<typename T>(T x) { return std::cos(x); };
+struct Sine {
+  auto operator()(auto x) const { return std::sin(x); }
+};
+struct Cosine {
+  auto operator()(auto x) const { return std::cos(x); }
+};
 
 ValueType sameAsArgument(const NodeTypes& types) { return types[0]; }
 
-template <const auto& Function>
+template <typename Function>
 Orvel::Value evaluateOne(const NodeCall& call) {
   return evaluateAs(call.resultType.element, [&]<typename T>() -> Orvel::Value {
     if constexpr (std::is_floating_point_v<T>) {
       const Operand<T> x(call[0], call.types[0].depth > 0);
-      return singleOrArray<T>(x.size(), [&](std::uint64_t i) { return Function(x[i]); });
+      return singleOrArray<T>(x.size(), [&](std::uint64_t i) { return Function()(x[i]); });
     } else {
       throw NodeError("no function of " + call.resultType.element);
     }
@@ -97,16 +108,17 @@ const std::vector<Parameter> twoOperands{{"a", &type_classes::arithmetic},
 const std::vector<Parameter> one{{"x", &type_classes::floating}};
 
 const NodeOperation arithmeticOperations[] = {
-    {"add", twoOperands, NodeSetting::none, resultOfTwo, evaluateTwo<add>,
+    {"add", twoOperands, NodeSetting::none, resultOfTwo, evaluateTwo<Wrapping<std::plus<>>>,
      "a + b, by element and component; integers wrap around."},
-    {"subtract", twoOperands, NodeSetting::none, resultOfTwo, evaluateTwo<subtract>,
+    {"subtract", twoOperands, NodeSetting::none, resultOfTwo, evaluateTwo<Wrapping<std::minus<>>>,
      "a - b, by element and component; integers wrap around."},
-    {"multiply", twoOperands, NodeSetting::none, resultOfTwo, evaluateTwo<multiply>,
+    {"multiply", twoOperands, NodeSetting::none, resultOfTwo,
+     evaluateTwo<Wrapping<std::multiplies<>>>,
      "a * b, by element and component; integers wrap around."},
-    {"divide", twoOperands, NodeSetting::none, resultOfTwo, evaluateTwo<divide>,
+    {"divide", twoOperands, NodeSetting::none, resultOfTwo, evaluateTwo<Quotient>,
      "a / b, by element and component; integers are cut towards zero."},
-    {"sine", one, NodeSetting::none, sameAsArgument, evaluateOne<sine>, "The sine of x radians."},
-    {"cosine", one, NodeSetting::none, sameAsArgument, evaluateOne<cosine>,
+    {"sine", one, NodeSetting::none, sameAsArgument, evaluateOne<Sine>, "The sine of x radians."},
+    {"cosine", one, NodeSetting::none, sameAsArgument, evaluateOne<Cosine>,
      "The cosine of x radians."},
 };
 

@@ -64,8 +64,8 @@ T clampValue(const T& value, const T& low, const T& high) {
 Orvel::Value clamp(const NodeCall& call) {
   return evaluateAs(call.resultType.element, [&]<typename T>() -> Orvel::Value {
     if constexpr (Number<T> || Composite<T>) {
-      const Orvel::Value lowest = spread<T>(call[1], call.types[1]);
-      const Orvel::Value highest = spread<T>(call[2], call.types[2]);
+      const Orvel::Value lowest = broadcast<T>(call[1], call.types[1]);
+      const Orvel::Value highest = broadcast<T>(call[2], call.types[2]);
       const Operand<T> value(call[0], call.types[0].depth > 0);
       const Operand<T> low(lowest, call.types[1].depth > 0);
       const Operand<T> high(highest, call.types[2].depth > 0);

@@ -25,7 +25,7 @@ inline ValueType componentType(const NodeTypes& types) {
 /// Numbers, single or in an array, as vectors T of that many of them where T is a vector of such
 /// numbers; any other value as it is.
 template <typename T>
-Orvel::Value spread(const Orvel::Value& value, const ValueType& type) {
+Orvel::Value broadcast(const Orvel::Value& value, const ValueType& type) {
   if constexpr (Composite<T>) {
     using Component = typename T::ComponentType;
     if (type.element == valueType<Component>().name) {

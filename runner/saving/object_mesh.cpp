@@ -4,6 +4,7 @@
 #include <string>
 
 #include "text/library_text.h"
+#include "values/value_type.h"
 #include "vtlcmd/host/imports/vantrel_geometry.h"
 #include "vtlcmd/host/value_types.h"
 
@@ -62,7 +63,7 @@ class ObjectReader {
     const Any data = Geometry::getDataGeoProperty(object_, name)->propertyByKey(Geometry::sData);
     const auto* array = anyCast<StoredArray<T, 1>>(&data);
     if (array == nullptr || !*array)
-      refuse(standardText(name), "holds no array<" + std::string(valueType<T>().name) + ">");
+      refuse(standardText(name), "holds no " + nameOf(ValueType{valueType<T>().name, 1}));
     elements.assign((*array)->begin(), (*array)->end());
   }
 

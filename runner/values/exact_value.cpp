@@ -7,6 +7,7 @@
 #include "values/level_sizes.h"
 #include "values/library_array.h"
 #include "values/type_dispatch.h"
+#include "values/value_type.h"
 #include "vtlcmd/host/imports/vantrel_geometry.h"
 #include "vtlcmd/host/value_types.h"
 #include "vtlcmd/output/statistics/summary.h"
@@ -109,7 +110,7 @@ void writeDataProperty(JsonWriter& json, const List& list, const Any& array,
     const auto* held = anyCast<StoredArray<typename Row::Type, 1>>(&array);
     if (held == nullptr || !*held) return;
     json.key("type");
-    json.text("array<" + std::string(row.name) + ">");
+    json.text(nameOf(ValueType{row.name, 1}));
     writeArrayFacts(json, **held, elements);
   });
 }

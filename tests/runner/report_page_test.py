@@ -187,7 +187,7 @@ with tempfile.TemporaryDirectory() as folder, Browser() as browser:
     paint = browser.open(page)["paint"]
     expect("their first paint within a second", paint is None or paint < 1000, True)
 
-    run(page, "tests/runner/data/bad_graphs/circle.json")
+    run(page, "tests/runner/data/bad_graphs/cycle.json")
     expect("the state of what never began", browser.open(page)["state"], ["not loaded"])
     expect("complaints of the browser", browser.complaints(), [])
 

@@ -40,7 +40,7 @@ if len(good) < 10:
 
 # What a schema can't know: whether texts name something that exists and fits.
 beyond_schema = {
-    "circle", "doubled_name", "doubled_output", "huge_number", "mixed_list", "missing_input", "no_conversion",
+    "cycle", "doubled_name", "doubled_output", "huge_number", "mixed_list", "missing_input", "no_conversion",
     "no_vector_type", "other_component_type", "reads_itself", "record_default", "repeated_key",
     "surplus_type", "too_few_components", "type_mismatch", "unknown_input", "unknown_output_source",
     "unknown_source", "vector_of_arrays", "wrong_class", "wrong_class_in_list", "wrong_component",

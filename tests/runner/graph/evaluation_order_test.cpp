@@ -18,16 +18,16 @@ TEST(EvaluationOrder, SourcesComeFirst) {
   EXPECT_EQ(evaluationOrder({{}, {0}, {0}, {1, 2, 1}}), (Nodes{0, 1, 2, 3}));
 }
 
-TEST(EvaluationOrder, LeavesOutCirclesAndWhatIsBehind) {
+TEST(EvaluationOrder, LeavesOutCyclesAndWhatIsBehind) {
   EXPECT_EQ(evaluationOrder({{}, {2}, {1}, {2}, {0}}), (Nodes{0, 4}));
 }
 
-TEST(FindCircle, NoneInAnOrderedGraph) { EXPECT_EQ(findCircle({{}, {0}, {0, 1}}), Nodes{}); }
+TEST(FindCycle, NoneInAnOrderedGraph) { EXPECT_EQ(findCycle({{}, {0}, {0, 1}}), Nodes{}); }
 
-TEST(FindCircle, NamesOnlyItsMembers) {
-  EXPECT_EQ(findCircle({{0}}), (Nodes{0}));
-  // Node 0 stands behind the circle of 1, 2 and 3.
-  EXPECT_EQ(findCircle({{3}, {3}, {1}, {2}}), (Nodes{1, 2, 3}));
+TEST(FindCycle, NamesOnlyItsMembers) {
+  EXPECT_EQ(findCycle({{0}}), (Nodes{0}));
+  // Node 0 stands behind the cycle of 1, 2 and 3.
+  EXPECT_EQ(findCycle({{3}, {3}, {1}, {2}}), (Nodes{1, 2, 3}));
 }
 
 }  // namespace

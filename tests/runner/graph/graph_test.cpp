@@ -91,14 +91,14 @@ TEST(Graph, DeepNestingIsNoProblem) {
   EXPECT_EQ(graphRefusal(deep), "$: expected an object, found an array");
 }
 
-TEST(Graph, ALongCircleIsFound) {
+TEST(Graph, ALongCycleIsFound) {
   std::string nodes;
   for (int i = 0; i < 1000; ++i) {
     nodes += std::string(i > 0 ? "," : "") + R"({"name": "n)" + std::to_string(i) +
              R"(", "op": "length", "in": {"array": "n)" + std::to_string((i + 1) % 1000) + R"("}})";
   }
-  EXPECT_EQ(graphRefusal(R"({"nodes": [)" + nodes + "]}").substr(0, 66),
-            "$.nodes[999]: the nodes run in a circle: 'n999' -> 'n998' -> 'n997");
+  EXPECT_EQ(graphRefusal(R"({"nodes": [)" + nodes + "]}").substr(0, 63),
+            "$.nodes[999]: the nodes form a cycle: 'n999' -> 'n998' -> 'n997");
 }
 
 }  // namespace
