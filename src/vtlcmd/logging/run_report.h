@@ -8,6 +8,7 @@
 #include "vtlcmd/host/host_records.h"
 #include "vtlcmd/host/imports/orvel_string.h"
 #include "vtlcmd/host/port_value_map.h"
+#include "vtlcmd/host/string_order.h"
 
 /// The structured side of the logger: groups of entries, with what was reported while an entry was
 /// current. Shared source of the runner and the plug-in. The plug-in writes `outputs`, nothing
@@ -17,13 +18,6 @@ namespace vtlcmd {
 
 /// Source, then level, then texts in order of insertion.
 using MessagesBySource = std::map<std::uint16_t, std::map<std::uint16_t, std::vector<std::string>>>;
-
-/// The order of `Orvel::String::compare`.
-struct StringOrder {
-  bool operator()(const Orvel::String& a, const Orvel::String& b) const noexcept {
-    return a.compare(b) < 0;
-  }
-};
 
 struct OutputReport {
   std::string typeName;
@@ -53,6 +47,9 @@ struct RunDescription {
 };
 
 struct ReportEntry : RunDescription {
+  ReportEntry() = default;
+  explicit ReportEntry(const RunDescription& description) : RunDescription(description) {}
+
   bool inputsSet = false;
   bool executed = false;
   bool outputsReported = false;

@@ -1,7 +1,7 @@
 #pragma once
 
+#include <cstdint>
 #include <string_view>
-#include <tuple>
 #include <type_traits>
 
 #include "vtlcmd/host/imports/orvel_values.h"
@@ -22,7 +22,7 @@ void valueInHandToText(TextBuilder& text, const T& value) {
   } else if constexpr (std::is_arithmetic_v<T>) {
     text << value;
   } else if constexpr (requires { T::componentCount; }) {
-    const char* separator = "{";
+    std::string_view separator = "{";
     for (const auto component : value.components) {
       text << separator << component;
       separator = ", ";
@@ -48,6 +48,26 @@ void anyToText(TextBuilder& text, const Any* any) {
 /// type leaves nothing but the separator behind the member before it.
 void structValueToText(TextBuilder& text, const Orvel::Value& value);
 
+/// How the type library gives out a value of type T.
+template <typename T>
+inline constexpr auto getter = nullptr;
+template <>
+inline constexpr auto getter<bool> = &Orvel::Value::getBool;
+template <>
+inline constexpr auto getter<float> = &Orvel::Value::getFloat;
+template <>
+inline constexpr auto getter<double> = &Orvel::Value::getDouble;
+template <>
+inline constexpr auto getter<std::int32_t> = &Orvel::Value::getInt;
+template <>
+inline constexpr auto getter<std::uint32_t> = &Orvel::Value::getUInt;
+template <>
+inline constexpr auto getter<std::int64_t> = &Orvel::Value::getLong;
+template <>
+inline constexpr auto getter<std::uint64_t> = &Orvel::Value::getULong;
+template <>
+inline constexpr auto getter<Orvel::String> = &Orvel::Value::getString;
+
 /// The value must have the type that T stands for.
 template <Registered T>
 void valueToText(TextBuilder& text, const Orvel::Value& value) {
@@ -56,11 +76,7 @@ void valueToText(TextBuilder& text, const Orvel::Value& value) {
   } else if constexpr (requires { T::componentCount; }) {
     structValueToText(text, value);
   } else {
-    using Value = Orvel::Value;
-    constexpr std::tuple getters{&Value::getBool,   &Value::getInt,   &Value::getUInt,
-                                 &Value::getLong,   &Value::getULong, &Value::getFloat,
-                                 &Value::getDouble, &Value::getString};
-    valueInHandToText(text, (value.*std::get<T (Value::*)() const>(getters))());
+    valueInHandToText(text, (value.*getter<T>)());
   }
 }
 

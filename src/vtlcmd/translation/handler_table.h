@@ -7,8 +7,8 @@
 #include "vtlcmd/host/imports/orvel_string.h"
 #include "vtlcmd/host/imports/orvel_types.h"
 #include "vtlcmd/host/imports/orvel_values.h"
+#include "vtlcmd/host/string_order.h"
 #include "vtlcmd/host/type_tags.h"
-#include "vtlcmd/logging/run_report.h"
 
 namespace vtlcmd {
 

@@ -1,5 +1,3 @@
-#include "vtlcmd/logging/run_report.h"
-
 #include <utility>
 
 #include "vtlcmd/logging/vtlcmd_logger.h"
@@ -38,13 +36,13 @@ void VtlCmdLogger::endGroup() noexcept {
 }
 
 void VtlCmdLogger::beginEntry(const RunDescription& description) {
-  RunDescription ownDescription = description;
-  ReportEntry* target = &fallbackEntry;
   if (ReportGroup* group = currentGroup()) {
-    target = &group->entries.emplace_back();
+    group->entries.emplace_back(description);
     currentEntryIndex = group->entries.size() - 1;
+    return;
   }
-  static_cast<RunDescription&>(*target) = std::move(ownDescription);
+  RunDescription ownDescription = description;
+  static_cast<RunDescription&>(fallbackEntry) = std::move(ownDescription);
 }
 
 void VtlCmdLogger::endEntry() noexcept { currentEntryIndex = noCurrent; }

@@ -1,5 +1,3 @@
-#include "vtlcmd/logging/run_report.h"
-
 #include <gtest/gtest.h>
 
 #include "vtlcmd/logging/vtlcmd_logger.h"
