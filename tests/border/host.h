@@ -1,7 +1,9 @@
 #pragma once
 
+#include <cstddef>
 #include <map>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "border/loaded_plug_in.h"
@@ -11,6 +13,10 @@
 #include "vtlcmd/logging/vtlcmd_logger.h"
 
 namespace vtlcmd::testing {
+
+/// Of the names that the plug-in tells.
+inline constexpr std::size_t supportedCount =
+    std::tuple_size_v<decltype(registeredTypes)> + std::tuple_size_v<decltype(inputOnlyTypes)>;
 
 /// The records of one run with one port.
 struct Port {

@@ -1,115 +1,63 @@
 #include "vtlcmd/host/value_types.h"
 
 #include <gtest/gtest.h>
-#include <map>
 #include <string>
-#include <vector>
+#include <string_view>
+#include <type_traits>
 
 #include "support/type_samples.h"
 
 namespace vtlcmd {
 namespace {
 
-struct Spelling {
-  std::string tag;
-  int kind;
-  bool operator==(const Spelling&) const = default;
-};
+using testing::TestTypesOf;
 
-template <typename List>
-std::vector<std::pair<std::string, Spelling>> rowsOf(const List& list) {
-  std::vector<std::pair<std::string, Spelling>> rows;
-  forEachRow(list, [&](const auto& row) {
-    rows.push_back({row.name, {std::string(row.tagSpelling), row.tagKind}});
+template <typename Row>
+void expectNameAndTag(const Row& row, const auto& expected) {
+  EXPECT_STREQ(row.name, expected.name);
+  EXPECT_EQ(row.tagSpelling, expected.tag.spelling);
+  EXPECT_EQ(row.tagKind, expected.tag.kind);
+}
+
+/// Whether two lists are of the same types in the same order.
+template <typename List, typename OtherList>
+constexpr bool sameTypes =
+    std::is_same_v<typename TestTypesOf<std::remove_const_t<List>>::Types,
+                   typename TestTypesOf<std::remove_const_t<OtherList>>::Types>;
+
+static_assert(sameTypes<decltype(registeredTypes), decltype(testing::registeredRows)>);
+static_assert(sameTypes<decltype(inputOnlyTypes), decltype(testing::inputOnlyRows)>);
+static_assert(sameTypes<decltype(reportOnlyTypes), decltype(testing::reportOnlyRows)>);
+
+TEST(ValueTypes, RegisteredTypesAreAsTheirHostsExpectThem) {
+  forEachRow(testing::registeredRows, []<typename T>(const testing::RegisteredRow<T>& expected) {
+    const RegisteredType<T>& row = valueType<T>();
+    SCOPED_TRACE(expected.name);
+    expectNameAndTag(row, expected);
+    EXPECT_EQ(row.components, expected.components);
+    EXPECT_EQ(row.arrayClass, expected.arrayClass);
+    EXPECT_STREQ(row.parseErrorEnd, expected.parseErrorEnd);
+    EXPECT_EQ(row.reportPlace, expected.reportPlace);
+    EXPECT_EQ(storedInPlace<T>, expected.isInPlace);
   });
-  return rows;
 }
 
-using Rows = std::vector<std::pair<std::string, Spelling>>;
-
-TEST(ValueTypes, RegisteredTypesAreSpelledAsTheirHostsSpellThem) {
-  EXPECT_EQ(rowsOf(registeredTypes), (Rows{{"bool", {"_N", 0}},
-                                           {"float", {"M", 0}},
-                                           {"double", {"N", 0}},
-                                           {"int", {"H", 0}},
-                                           {"uint", {"I", 0}},
-                                           {"long", {"_J", 0}},
-                                           {"ulong", {"_K", 0}},
-                                           {"Math::float2", {"Ufloat2@Math@Vantrel@@", 0}},
-                                           {"Math::float3", {"Ufloat3@Math@Vantrel@@", 0}},
-                                           {"Math::float4", {"Ufloat4@Math@Vantrel@@", 0}},
-                                           {"Math::double2", {"Udouble2@Math@Vantrel@@", 0}},
-                                           {"Math::double3", {"Udouble3@Math@Vantrel@@", 0}},
-                                           {"Math::double4", {"Udouble4@Math@Vantrel@@", 0}},
-                                           {"Object", {"VObject@Vantrel@@", 2}},
-                                           {"string", {"VString@Orvel@@", 0}}}));
+TEST(ValueTypes, RecordsAreAsTheirHostsExpectThem) {
+  forEachRow(testing::inputOnlyRows, []<typename T>(const testing::InputOnlyRow<T>& expected) {
+    SCOPED_TRACE(expected.name);
+    expectNameAndTag(valueType<T>(), expected);
+    EXPECT_FALSE(storedInPlace<T>);
+  });
 }
 
-TEST(ValueTypes, RecordsAndReportOnlyTypesAreSpelledAsTheirHostsSpellThem) {
-  EXPECT_EQ(rowsOf(inputOnlyTypes),
-            (Rows{{"Simulation::Time", {"UTime@Simulation@Vantrel@@", 0}},
-                  {"File::Project::SceneInfo", {"USceneInfo@Project@File@Vantrel@@", 0}}}));
-  EXPECT_EQ(rowsOf(reportOnlyTypes), (Rows{{"signed char", {"C", 0}},
-                                           {"unsigned char", {"E", 0}},
-                                           {"short", {"F", 0}},
-                                           {"ushort", {"G", 0}},
-                                           {"Math::int2", {"Uint2@Math@Vantrel@@", 0}},
-                                           {"Math::int3", {"Uint3@Math@Vantrel@@", 0}},
-                                           {"Math::int2x2", {"Uint2x2@Math@Vantrel@@", 0}},
-                                           {"Math::int2x3", {"Uint2x3@Math@Vantrel@@", 0}},
-                                           {"Math::short2", {"Ushort2@Math@Vantrel@@", 0}},
-                                           {"Math::short3", {"Ushort3@Math@Vantrel@@", 0}},
-                                           {"Math::short2x2", {"Ushort2x2@Math@Vantrel@@", 0}},
-                                           {"Math::short2x3", {"Ushort2x3@Math@Vantrel@@", 0}},
-                                           {"Math::uchar3", {"Uuchar3@Math@Vantrel@@", 0}},
-                                           {"Math::uchar4", {"Uuchar4@Math@Vantrel@@", 0}},
-                                           {"Math::float2x2", {"Ufloat2x2@Math@Vantrel@@", 0}},
-                                           {"Math::float2x3", {"Ufloat2x3@Math@Vantrel@@", 0}},
-                                           {"Math::float3x3", {"Ufloat3x3@Math@Vantrel@@", 0}},
-                                           {"Math::float4x4", {"Ufloat4x4@Math@Vantrel@@", 0}},
-                                           {"Math::double2x2", {"Udouble2x2@Math@Vantrel@@", 0}},
-                                           {"Math::double2x3", {"Udouble2x3@Math@Vantrel@@", 0}},
-                                           {"Math::double3x3", {"Udouble3x3@Math@Vantrel@@", 0}},
-                                           {"Math::double4x4", {"Udouble4x4@Math@Vantrel@@", 0}}}));
-}
-
-using Vantrel::Math::Matrix;
-using Vantrel::Math::Vector;
-
-/// What the rows of a list store, in order.
-template <typename List>
-struct StoredOf;
-template <typename... Rows>
-struct StoredOf<const std::tuple<Rows...>> {
-  using Types = std::tuple<typename Rows::Type...>;
-};
-
-static_assert(
-    std::is_same_v<StoredOf<decltype(registeredTypes)>::Types,
-                   std::tuple<bool, float, double, std::int32_t, std::uint32_t, std::int64_t,
-                              std::uint64_t, Vector<float, 2>, Vector<float, 3>, Vector<float, 4>,
-                              Vector<double, 2>, Vector<double, 3>, Vector<double, 4>,
-                              Orvel::Ptr<Vantrel::Object>, Orvel::String>>);
-static_assert(
-    std::is_same_v<StoredOf<decltype(inputOnlyTypes)>::Types,
-                   std::tuple<Vantrel::Simulation::Time, Vantrel::File::Project::SceneInfo>>);
-static_assert(
-    std::is_same_v<
-        StoredOf<decltype(reportOnlyTypes)>::Types,
-        std::tuple<std::int8_t, std::uint8_t, std::int16_t, std::uint16_t, Vector<std::int32_t, 2>,
-                   Vector<std::int32_t, 3>, Matrix<std::int32_t, 2, 2>, Matrix<std::int32_t, 2, 3>,
-                   Vector<std::int16_t, 2>, Vector<std::int16_t, 3>, Matrix<std::int16_t, 2, 2>,
-                   Matrix<std::int16_t, 2, 3>, Vector<std::uint8_t, 3>, Vector<std::uint8_t, 4>,
-                   Matrix<float, 2, 2>, Matrix<float, 2, 3>, Matrix<float, 3, 3>,
-                   Matrix<float, 4, 4>, Matrix<double, 2, 2>, Matrix<double, 2, 3>,
-                   Matrix<double, 3, 3>, Matrix<double, 4, 4>>>);
-
-TEST(ValueTypes, NameTableKeepsItsOrder) {
-  const std::vector<std::string> names(typeNames.begin(), typeNames.end());
-  EXPECT_EQ(names, (std::vector<std::string>{
-                       "bool", "float", "double", "int", "uint", "long", "ulong", "short", "ushort",
-                       "Math::float2", "Math::float3", "Math::float4", "Math::double2",
-                       "Math::double3", "Math::double4", "string", "Object"}));
+TEST(ValueTypes, ReportOnlyTypesAreAsTheirHostsExpectThem) {
+  forEachRow(testing::reportOnlyRows, []<typename T>(const testing::ReportOnlyRow<T>& expected) {
+    const ReportOnlyType<T>& row = valueType<T>();
+    SCOPED_TRACE(expected.name);
+    expectNameAndTag(row, expected);
+    EXPECT_EQ(row.arrayClass, expected.arrayClass);
+    EXPECT_EQ(row.reportPlace, expected.reportPlace);
+  });
 }
 
 template <typename T>

@@ -70,9 +70,8 @@ class AcceptTable : public ::testing::Test {
     EXPECT_THAT(host.messages(), ::testing::ElementsAre(message));
   }
 };
-using ScalarTypes =
-    ::testing::Types<bool, float, double, std::int32_t, std::uint32_t, std::int64_t, std::uint64_t>;
-TYPED_TEST_SUITE(AcceptTable, ScalarTypes);
+constexpr auto isScalar = []<typename T>() { return Registered<T> && std::is_arithmetic_v<T>; };
+TYPED_TEST_SUITE(AcceptTable, testing::TestTypesWhere<isScalar>);
 
 TYPED_TEST(AcceptTable, HoldsOnEveryPortInEveryState) {
   using T = TypeParam;

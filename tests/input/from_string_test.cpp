@@ -2,10 +2,10 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <map>
 #include <string>
 
 #include "support/test_host.h"
+#include "support/type_samples.h"
 #include "vtlcmd/stand_in/make_string.h"
 
 namespace vtlcmd {
@@ -14,16 +14,6 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using testing::TestHost;
-
-using ScalarTypes =
-    ::testing::Types<bool, float, double, std::int32_t, std::uint32_t, std::int64_t, std::uint64_t>;
-
-const std::map<std::string, std::string> endings{
-    {"int", "' to an int value."},    {"uint", "' to a uint value."},
-    {"long", "' to a long value."},   {"ulong", "' to a ulong value."},
-    {"float", "' to a float value."}, {"double", "' to a double value."},
-    {"bool", "' to a bool value."},
-};
 
 template <typename T>
 class FromString : public ::testing::Test {
@@ -37,12 +27,15 @@ class FromString : public ::testing::Test {
     EXPECT_EQ(parse(text), std::nullopt);
     EXPECT_THAT(TestHost::messagesOf(logger_),
                 ElementsAre("error prefix: Unable to convert '" + std::string(text.c_str()) +
-                            endings.at(valueType<T>().name)));
+                            testing::rowOf<T>().parseErrorEnd));
   }
 
   VtlCmdLogger logger_{10};
 };
-TYPED_TEST_SUITE(FromString, ScalarTypes);
+constexpr auto hasScalarText = []<typename T>() {
+  return Registered<T> && std::is_arithmetic_v<T>;
+};
+TYPED_TEST_SUITE(FromString, testing::TestTypesWhere<hasScalarText>);
 
 TYPED_TEST(FromString, RefusalIsOneMessageWithTheTextAsItStands) {
   for (const char* text : {"", "   ", " x ", "12 34", "12abc", "abc", "inf", "nan", "TRUE", "yes",
@@ -55,7 +48,8 @@ TYPED_TEST(FromString, RefusalIsOneMessageWithTheTextAsItStands) {
 TYPED_TEST(FromString, PrefixMayBeEmpty) {
   EXPECT_EQ(this->parse("x", ""), std::nullopt);
   EXPECT_THAT(TestHost::messagesOf(this->logger_),
-              ElementsAre("error Unable to convert 'x" + endings.at(valueType<TypeParam>().name)));
+              ElementsAre(std::string("error Unable to convert 'x") +
+                          testing::rowOf<TypeParam>().parseErrorEnd));
 }
 
 TYPED_TEST(FromString, ValuesLeaveNoMessage) {

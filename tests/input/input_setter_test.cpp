@@ -15,7 +15,7 @@ namespace vtlcmd {
 namespace {
 
 using ::testing::ElementsAre;
-using testing::sampleOf;
+using testing::rowOf;
 using testing::sampleValue;
 using testing::TestHost;
 
@@ -86,10 +86,11 @@ TYPED_TEST_SUITE(InputSetter, testing::RegisteredTestTypes);
 TYPED_TEST(InputSetter, TextBecomesTheValue) {
   if constexpr (!std::is_same_v<TypeParam, ObjectPtr>) {
     for (const State& state : allStates()) {
-      const Call<TypeParam> call(state, sampleOf<TypeParam>().text);
+      const Call<TypeParam> call(state, rowOf<TypeParam>().samples[0].text);
       EXPECT_TRUE(call.result);
       EXPECT_EQ(*anyCast<TypeParam>(&call.value), sampleValue<TypeParam>(0));
-      EXPECT_THAT(call.host.messages(), ElementsAre(call.valueLine(sampleOf<TypeParam>().report)));
+      EXPECT_THAT(call.host.messages(),
+                  ElementsAre(call.valueLine(rowOf<TypeParam>().samples[0].report)));
     }
   }
 }
@@ -138,13 +139,13 @@ TYPED_TEST(InputSetter, WithoutTextTheDefaultIsUsed) {
   for (const State& state : allStates()) {
     const Call<TypeParam> call(state, nullptr);
     EXPECT_TRUE(call.result);
-    std::string report = sampleOf<TypeParam>().zeroReport;
+    std::string report = rowOf<TypeParam>().zeroReport;
     if (state.defaultKind == Default::foreign) {
       EXPECT_EQ(&call.value.type(), (&typeTag<TypeParam, 1>)) << "copied as it stands";
     } else {
       const auto* value = anyCast<TypeParam>(&call.value);
       ASSERT_NE(value, nullptr);
-      if (state.defaultKind == Default::own) report = sampleOf<TypeParam>().otherReport;
+      if (state.defaultKind == Default::own) report = rowOf<TypeParam>().samples[1].report;
       if constexpr (std::is_same_v<TypeParam, ObjectPtr>) {
         EXPECT_TRUE(*value);
         report = "{\n}";
@@ -232,7 +233,7 @@ TYPED_TEST(InputSetter, OldValueEndsLast) {
   for (const bool giveText : {false, hasText}) {
     for (const bool giveDefault : {false, true}) {
       TestHost host;
-      if (giveText) host.giveText("p", sampleOf<TypeParam>().text);
+      if (giveText) host.giveText("p", rowOf<TypeParam>().samples[0].text);
       Any value;
       EndWatch watch(value);
       value = watch.holder();
@@ -315,7 +316,7 @@ TEST(InputSetterOfObject, DefaultIsShared) {
 // There each library has allocation functions of its own, and only the program's are counted.
 TYPED_TEST(InputSetter, NothingStaysInUseBehindTheRun) {
   for (const State& state : allStates()) {
-    for (const char* text : {sampleOf<TypeParam>().text, "neither, this", "", "1,2,3,x",
+    for (const char* text : {rowOf<TypeParam>().samples[0].text, "neither, this", "", "1,2,3,x",
                              static_cast<const char*>(nullptr)}) {
       EXPECT_EQ(testing::blocksLeftBy([&] { Call<TypeParam>(state, text); }), 0);
     }

@@ -22,9 +22,7 @@ class SetVectorFromString : public ::testing::Test {
   static constexpr std::size_t count = T::componentCount;
 
   std::string name() const { return valueType<T>().name; }
-  std::string componentEnd() const {
-    return std::is_same_v<Component, float> ? "' to a float value." : "' to a double value.";
-  }
+  std::string componentEnd() const { return testing::rowOf<T>().parseErrorEnd; }
   /// `piece` repeated to a text of `pieces` pieces.
   static std::string repeat(const std::string& piece, std::size_t pieces) {
     std::string text = piece;
@@ -41,9 +39,8 @@ class SetVectorFromString : public ::testing::Test {
 
   Any value_;
 };
-using VectorTypes = ::testing::Types<Math::float2, Math::float3, Math::float4, Math::double2,
-                                     Math::double3, Math::double4>;
-TYPED_TEST_SUITE(SetVectorFromString, VectorTypes);
+constexpr auto isVector = []<typename T>() { return VectorType<T>; };
+TYPED_TEST_SUITE(SetVectorFromString, testing::TestTypesWhere<isVector>);
 
 TYPED_TEST(SetVectorFromString, TakesAsManyPiecesAsComponents) {
   std::string text = "1";

@@ -1,8 +1,10 @@
 #include "vtlcmd/object_report/object_report.h"
 
 #include <gtest/gtest.h>
+#include <map>
 #include <string>
 #include <tuple>
+#include <vector>
 
 #include "support/built_text.h"
 #include "support/scoped_locale.h"
@@ -148,6 +150,35 @@ TEST_F(ObjectReport, ReadsAlikeFromAnyAndFromValueAndLeavesTheObjectAlone) {
   EXPECT_EQ(Orvel::useCount(array), arrayUses);
 }
 
+std::vector<std::string> askedFor;
+
+/// The manager of a value that is of no type and remembers what it is asked to be.
+void rememberCasts(AnyOpArgs* args) {
+  if (args->op == AnyOp::destroy) args->self->manager = nullptr;
+  if (args->op != AnyOp::cast) return;
+  const auto& tag = *static_cast<const Orvel::Internal::TypeInfo*>(args->other);
+  askedFor.push_back(std::to_string(tag.rank) + " " + std::string(tag.name, tag.length));
+  args->result = nullptr;
+}
+
+TEST(DataPropertyOfNoType, IsAskedForEachElementTypeInTheOrderOfThePlaces) {
+  std::map<std::size_t, std::string> byPlace;
+  forEachRow(std::tuple_cat(testing::registeredRows, testing::reportOnlyRows),
+             [&](const auto& row) {
+               if (row.reportPlace != 0)
+                 byPlace[row.reportPlace] = "1 " + std::string(row.tag.spelling);
+             });
+  std::vector<std::string> expected;
+  for (const auto& [place, asked] : byPlace) expected.push_back(asked);
+  Any value;
+  value.manager = &rememberCasts;
+  askedFor.clear();
+  TextBuilder text(0);
+  EXPECT_FALSE(printDataProperty(value, text, "p"));
+  EXPECT_EQ(askedFor, expected);
+  EXPECT_EQ(text.text(), "");
+}
+
 template <typename T>
 class DataProperty : public ::testing::Test {
  protected:
@@ -176,11 +207,7 @@ class DataProperty : public ::testing::Test {
   }
 };
 
-template <typename... A, typename... B>
-auto joinTypes(::testing::Types<A...>, ::testing::Types<B...>) -> ::testing::Types<A..., B...>;
-using ElementTypes =
-    decltype(joinTypes(testing::RegisteredTestTypes{}, testing::ReportOnlyTestTypes{}));
-TYPED_TEST_SUITE(DataProperty, ElementTypes);
+TYPED_TEST_SUITE(DataProperty, testing::ElementTestTypes);
 
 TYPED_TEST(DataProperty, IsSummarisedUnsupportedOrPassedOverByItsElementType) {
   using T = TypeParam;

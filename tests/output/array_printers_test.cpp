@@ -15,7 +15,7 @@ namespace {
 
 using testing::arrayOf;
 using testing::nestedArray;
-using testing::sampleOf;
+using testing::rowOf;
 using testing::sampleValue;
 
 constexpr std::uint32_t unlimited = 4294967295;
@@ -194,7 +194,7 @@ TYPED_TEST(ArrayPrinters, ArraysAreSharedNotCopied) {
 
 TYPED_TEST(ArrayPrinters, DepthZeroIsTheSingleValuesText) {
   EXPECT_EQ(printValue<TypeParam>(Orvel::makeValue(sampleValue<TypeParam>(0)), 0, 10),
-            sampleOf<TypeParam>().report);
+            rowOf<TypeParam>().samples[0].report);
 }
 
 TYPED_TEST(ArrayPrinters, TypeNameWrapsTheBaseName) {

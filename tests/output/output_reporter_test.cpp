@@ -17,7 +17,7 @@ namespace {
 using testing::arrayOf;
 using ::testing::ElementsAre;
 using testing::nestedArray;
-using testing::sampleOf;
+using testing::rowOf;
 using testing::sampleValue;
 using testing::TestHost;
 
@@ -240,14 +240,14 @@ TYPED_TEST(OutputReporterOf, FiveFormsPutValueAndTypeIntoLineAndRecord) {
 TYPED_TEST(OutputReporterOf, SingleValueHasItsText) {
   EXPECT_EQ(reportAny(sampleValue<TypeParam>(0)), "Output port 'result': (" +
                                                       std::string(valueType<TypeParam>().name) +
-                                                      ") " + sampleOf<TypeParam>().report);
+                                                      ") " + rowOf<TypeParam>().samples[0].report);
 }
 
 TYPED_TEST(OutputReporterOf, EmptyAnyReadsAsZero) {
   TestHost host;
   const Orvel::String name = "result";
   reportScalar<TypeParam>(&name, Any{}, &host.logger);
-  EXPECT_EQ(reportedBy(host, true).record.valueText, sampleOf<TypeParam>().zeroReport);
+  EXPECT_EQ(reportedBy(host, true).record.valueText, rowOf<TypeParam>().zeroReport);
 }
 
 TYPED_TEST(OutputReporterOf, AnyOfAnotherTypeReadsAsZero) {
@@ -255,7 +255,7 @@ TYPED_TEST(OutputReporterOf, AnyOfAnotherTypeReadsAsZero) {
   const Orvel::String name = "result";
   const Any foreign = makeAny(nestedArray<TypeParam, 1>(sampleValue<TypeParam>(0)));
   reportScalar<TypeParam>(&name, foreign, &host.logger);
-  EXPECT_EQ(reportedBy(host, true).record.valueText, sampleOf<TypeParam>().zeroReport);
+  EXPECT_EQ(reportedBy(host, true).record.valueText, rowOf<TypeParam>().zeroReport);
 }
 
 TYPED_TEST(OutputReporterOf, SuppressedArrayIsNotLookedAt) {

@@ -16,7 +16,7 @@ namespace vtlcmd {
 namespace {
 
 using testing::builtText;
-using testing::sampleOf;
+using testing::rowOf;
 using testing::sampleValue;
 
 template <typename T>
@@ -38,11 +38,10 @@ class ValueText : public ::testing::Test {};
 TYPED_TEST_SUITE(ValueText, testing::RegisteredTestTypes);
 
 TYPED_TEST(ValueText, ReadsAlikeFromAnyAndFromValue) {
-  for (const int which : {0, 1}) {
+  for (const std::size_t which : {0, 1}) {
     const TypeParam value = sampleValue<TypeParam>(which);
     const Any any = makeAny(value);
-    const char* report =
-        which == 0 ? sampleOf<TypeParam>().report : sampleOf<TypeParam>().otherReport;
+    const char* report = rowOf<TypeParam>().samples[which].report;
     EXPECT_EQ(textOfAny<TypeParam>(&any), report);
     EXPECT_EQ(textOfValue<TypeParam>(Orvel::makeValue(value)), report);
   }
@@ -52,7 +51,7 @@ TYPED_TEST(ValueText, WithoutAValueTheZeroStandsIn) {
   const Any empty;
   const Any foreign = makeAny(testing::nestedArray<TypeParam, 1>(sampleValue<TypeParam>(0)));
   for (const Any* any : {static_cast<const Any*>(nullptr), &empty, &foreign}) {
-    EXPECT_EQ(textOfAny<TypeParam>(any), sampleOf<TypeParam>().zeroReport);
+    EXPECT_EQ(textOfAny<TypeParam>(any), rowOf<TypeParam>().zeroReport);
   }
 }
 
@@ -65,8 +64,8 @@ std::string read(T value) {
 
 template <typename T>
 class FloatingText : public ::testing::Test {};
-using FloatingTypes = ::testing::Types<float, double>;
-TYPED_TEST_SUITE(FloatingText, FloatingTypes);
+constexpr auto isFloating = []<typename T>() { return std::is_floating_point_v<T>; };
+TYPED_TEST_SUITE(FloatingText, testing::TestTypesWhere<isFloating>);
 
 TYPED_TEST(FloatingText, IsTheGeneralFormatAtPrecision6) {
   using T = TypeParam;

@@ -40,9 +40,7 @@ constexpr bool agrees(const RegisteredType<T>& row) {
 
 template <typename T>
 constexpr bool agrees(const ReportOnlyType<T>& row) {
-  constexpr bool isShort = std::is_same_v<T, std::int16_t> || std::is_same_v<T, std::uint16_t>;
-  return row.tagKind == 0 && (row.arrayClass == ArrayClass::summarised) == isShort &&
-         (std::is_arithmetic_v<T> || isMathSpelling(row.tagSpelling, row.name));
+  return row.tagKind == 0 && (std::is_arithmetic_v<T> || isMathSpelling(row.tagSpelling, row.name));
 }
 
 template <typename List>

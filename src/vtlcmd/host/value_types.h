@@ -1,6 +1,5 @@
 #pragma once
 
-#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <string_view>
@@ -29,13 +28,6 @@ enum class ArrayClass {
   refused,
 };
 
-/// The names that handlers print and the handler table is keyed by.
-inline constexpr std::array<const char*, 17> typeNames{
-    "bool",         "float",        "double",        "int",           "uint",
-    "long",         "ulong",        "short",         "ushort",        "Math::float2",
-    "Math::float3", "Math::float4", "Math::double2", "Math::double3", "Math::double4",
-    "string",       "Object"};
-
 /// Everything in which one registered type differs from the next. T is how a value is stored; it
 /// is the row's key.
 template <typename T>
@@ -51,6 +43,9 @@ struct RegisteredType {
   /// Ends the message about a text, or a vector's piece of text, that doesn't parse; null where
   /// nothing is parsed.
   const char* parseErrorEnd;
+  /// When the object report asks whether an array is one of this type, counted from 1 through both
+  /// lists; 0 where it never asks.
+  std::size_t reportPlace;
 };
 
 namespace Math = Vantrel::Math;
@@ -59,21 +54,21 @@ using ObjectPtr = Orvel::Ptr<Vantrel::Object>;
 /// The one list of the registered types, in the order of registration.
 inline constexpr std::tuple registeredTypes{
     // clang-format off
-    RegisteredType<bool>         {typeNames[0],  "_N", 0, 1, ArrayClass::summarised, "' to a bool value."},
-    RegisteredType<float>        {typeNames[1],  "M",  0, 1, ArrayClass::summarised, "' to a float value."},
-    RegisteredType<double>       {typeNames[2],  "N",  0, 1, ArrayClass::summarised, "' to a double value."},
-    RegisteredType<std::int32_t> {typeNames[3],  "H",  0, 1, ArrayClass::summarised, "' to an int value."},
-    RegisteredType<std::uint32_t>{typeNames[4],  "I",  0, 1, ArrayClass::summarised, "' to a uint value."},
-    RegisteredType<std::int64_t> {typeNames[5],  "_J", 0, 1, ArrayClass::summarised, "' to a long value."},
-    RegisteredType<std::uint64_t>{typeNames[6],  "_K", 0, 1, ArrayClass::summarised, "' to a ulong value."},
-    RegisteredType<Math::float2>    {typeNames[9],  "Ufloat2@Math@Vantrel@@",  0, 2, ArrayClass::summarised, "' to a float value."},
-    RegisteredType<Math::float3>    {typeNames[10], "Ufloat3@Math@Vantrel@@",  0, 3, ArrayClass::summarised, "' to a float value."},
-    RegisteredType<Math::float4>    {typeNames[11], "Ufloat4@Math@Vantrel@@",  0, 4, ArrayClass::summarised, "' to a float value."},
-    RegisteredType<Math::double2>   {typeNames[12], "Udouble2@Math@Vantrel@@", 0, 2, ArrayClass::refused, "' to a double value."},
-    RegisteredType<Math::double3>   {typeNames[13], "Udouble3@Math@Vantrel@@", 0, 3, ArrayClass::refused, "' to a double value."},
-    RegisteredType<Math::double4>   {typeNames[14], "Udouble4@Math@Vantrel@@", 0, 4, ArrayClass::refused, "' to a double value."},
-    RegisteredType<ObjectPtr>    {typeNames[16], "VObject@Vantrel@@", 2, 0, ArrayClass::listed, nullptr},
-    RegisteredType<Orvel::String>{typeNames[15], "VString@Orvel@@",   0, 1, ArrayClass::listed, nullptr},
+    RegisteredType<bool>{           "bool",          "_N",                      0, 1, ArrayClass::summarised, "' to a bool value.",      9},
+    RegisteredType<float>{          "float",         "M",                       0, 1, ArrayClass::summarised, "' to a float value.",     11},
+    RegisteredType<double>{         "double",        "N",                       0, 1, ArrayClass::summarised, "' to a double value.",    12},
+    RegisteredType<std::int32_t>{   "int",           "H",                       0, 1, ArrayClass::summarised, "' to an int value.",      3},
+    RegisteredType<std::uint32_t>{  "uint",          "I",                       0, 1, ArrayClass::summarised, "' to a uint value.",      7},
+    RegisteredType<std::int64_t>{   "long",          "_J",                      0, 1, ArrayClass::summarised, "' to a long value.",      4},
+    RegisteredType<std::uint64_t>{  "ulong",         "_K",                      0, 1, ArrayClass::summarised, "' to a ulong value.",     8},
+    RegisteredType<Math::float2>{   "Math::float2",  "Ufloat2@Math@Vantrel@@",  0, 2, ArrayClass::summarised, "' to a float value.",     17},
+    RegisteredType<Math::float3>{   "Math::float3",  "Ufloat3@Math@Vantrel@@",  0, 3, ArrayClass::summarised, "' to a float value.",     19},
+    RegisteredType<Math::float4>{   "Math::float4",  "Ufloat4@Math@Vantrel@@",  0, 4, ArrayClass::summarised, "' to a float value.",     18},
+    RegisteredType<Math::double2>{  "Math::double2", "Udouble2@Math@Vantrel@@", 0, 2, ArrayClass::refused,    "' to a double value.",    24},
+    RegisteredType<Math::double3>{  "Math::double3", "Udouble3@Math@Vantrel@@", 0, 3, ArrayClass::refused,    "' to a double value.",    25},
+    RegisteredType<Math::double4>{  "Math::double4", "Udouble4@Math@Vantrel@@", 0, 4, ArrayClass::refused,    "' to a double value.",    26},
+    RegisteredType<ObjectPtr>{      "Object",        "VObject@Vantrel@@",       2, 0, ArrayClass::listed,     nullptr,                   0},
+    RegisteredType<Orvel::String>{  "string",        "VString@Orvel@@",         0, 1, ArrayClass::listed,     nullptr,                   10},
     // clang-format on
 };
 
@@ -105,33 +100,35 @@ struct ReportOnlyType {
   std::string_view tagSpelling;
   std::uint8_t tagKind;
   ArrayClass arrayClass;
+  /// As a registered type's.
+  std::size_t reportPlace;
 };
 
 /// The one list of the types known to reports only.
 inline constexpr std::tuple reportOnlyTypes{
     // clang-format off
-    ReportOnlyType<std::int8_t>   {"signed char",   "C", 0, ArrayClass::refused},
-    ReportOnlyType<std::uint8_t>  {"unsigned char", "E", 0, ArrayClass::refused},
-    ReportOnlyType<std::int16_t>  {typeNames[7],    "F", 0, ArrayClass::summarised},
-    ReportOnlyType<std::uint16_t> {typeNames[8],    "G", 0, ArrayClass::summarised},
-    ReportOnlyType<Math::int2>       {"Math::int2",      "Uint2@Math@Vantrel@@",      0, ArrayClass::refused},
-    ReportOnlyType<Math::int3>       {"Math::int3",      "Uint3@Math@Vantrel@@",      0, ArrayClass::refused},
-    ReportOnlyType<Math::int2x2>     {"Math::int2x2",    "Uint2x2@Math@Vantrel@@",    0, ArrayClass::refused},
-    ReportOnlyType<Math::int2x3>     {"Math::int2x3",    "Uint2x3@Math@Vantrel@@",    0, ArrayClass::refused},
-    ReportOnlyType<Math::short2>     {"Math::short2",    "Ushort2@Math@Vantrel@@",    0, ArrayClass::refused},
-    ReportOnlyType<Math::short3>     {"Math::short3",    "Ushort3@Math@Vantrel@@",    0, ArrayClass::refused},
-    ReportOnlyType<Math::short2x2>   {"Math::short2x2",  "Ushort2x2@Math@Vantrel@@",  0, ArrayClass::refused},
-    ReportOnlyType<Math::short2x3>   {"Math::short2x3",  "Ushort2x3@Math@Vantrel@@",  0, ArrayClass::refused},
-    ReportOnlyType<Math::uchar3>     {"Math::uchar3",    "Uuchar3@Math@Vantrel@@",    0, ArrayClass::refused},
-    ReportOnlyType<Math::uchar4>     {"Math::uchar4",    "Uuchar4@Math@Vantrel@@",    0, ArrayClass::refused},
-    ReportOnlyType<Math::float2x2>   {"Math::float2x2",  "Ufloat2x2@Math@Vantrel@@",  0, ArrayClass::refused},
-    ReportOnlyType<Math::float2x3>   {"Math::float2x3",  "Ufloat2x3@Math@Vantrel@@",  0, ArrayClass::refused},
-    ReportOnlyType<Math::float3x3>   {"Math::float3x3",  "Ufloat3x3@Math@Vantrel@@",  0, ArrayClass::refused},
-    ReportOnlyType<Math::float4x4>   {"Math::float4x4",  "Ufloat4x4@Math@Vantrel@@",  0, ArrayClass::refused},
-    ReportOnlyType<Math::double2x2>  {"Math::double2x2", "Udouble2x2@Math@Vantrel@@", 0, ArrayClass::refused},
-    ReportOnlyType<Math::double2x3>  {"Math::double2x3", "Udouble2x3@Math@Vantrel@@", 0, ArrayClass::refused},
-    ReportOnlyType<Math::double3x3>  {"Math::double3x3", "Udouble3x3@Math@Vantrel@@", 0, ArrayClass::refused},
-    ReportOnlyType<Math::double4x4>  {"Math::double4x4", "Udouble4x4@Math@Vantrel@@", 0, ArrayClass::refused},
+    ReportOnlyType<std::int8_t>{    "signed char",     "C",                         0, ArrayClass::refused,    1},
+    ReportOnlyType<std::uint8_t>{   "unsigned char",   "E",                         0, ArrayClass::refused,    5},
+    ReportOnlyType<std::int16_t>{   "short",           "F",                         0, ArrayClass::summarised, 2},
+    ReportOnlyType<std::uint16_t>{  "ushort",          "G",                         0, ArrayClass::summarised, 6},
+    ReportOnlyType<Math::int2>{     "Math::int2",      "Uint2@Math@Vantrel@@",      0, ArrayClass::refused,    13},
+    ReportOnlyType<Math::int3>{     "Math::int3",      "Uint3@Math@Vantrel@@",      0, ArrayClass::refused,    16},
+    ReportOnlyType<Math::int2x2>{   "Math::int2x2",    "Uint2x2@Math@Vantrel@@",    0, ArrayClass::refused,    14},
+    ReportOnlyType<Math::int2x3>{   "Math::int2x3",    "Uint2x3@Math@Vantrel@@",    0, ArrayClass::refused,    15},
+    ReportOnlyType<Math::short2>{   "Math::short2",    "Ushort2@Math@Vantrel@@",    0, ArrayClass::refused,    31},
+    ReportOnlyType<Math::short3>{   "Math::short3",    "Ushort3@Math@Vantrel@@",    0, ArrayClass::refused,    34},
+    ReportOnlyType<Math::short2x2>{ "Math::short2x2",  "Ushort2x2@Math@Vantrel@@",  0, ArrayClass::refused,    32},
+    ReportOnlyType<Math::short2x3>{ "Math::short2x3",  "Ushort2x3@Math@Vantrel@@",  0, ArrayClass::refused,    33},
+    ReportOnlyType<Math::uchar3>{   "Math::uchar3",    "Uuchar3@Math@Vantrel@@",    0, ArrayClass::refused,    35},
+    ReportOnlyType<Math::uchar4>{   "Math::uchar4",    "Uuchar4@Math@Vantrel@@",    0, ArrayClass::refused,    36},
+    ReportOnlyType<Math::float2x2>{ "Math::float2x2",  "Ufloat2x2@Math@Vantrel@@",  0, ArrayClass::refused,    20},
+    ReportOnlyType<Math::float2x3>{ "Math::float2x3",  "Ufloat2x3@Math@Vantrel@@",  0, ArrayClass::refused,    21},
+    ReportOnlyType<Math::float3x3>{ "Math::float3x3",  "Ufloat3x3@Math@Vantrel@@",  0, ArrayClass::refused,    22},
+    ReportOnlyType<Math::float4x4>{ "Math::float4x4",  "Ufloat4x4@Math@Vantrel@@",  0, ArrayClass::refused,    23},
+    ReportOnlyType<Math::double2x2>{"Math::double2x2", "Udouble2x2@Math@Vantrel@@", 0, ArrayClass::refused,    27},
+    ReportOnlyType<Math::double2x3>{"Math::double2x3", "Udouble2x3@Math@Vantrel@@", 0, ArrayClass::refused,    28},
+    ReportOnlyType<Math::double3x3>{"Math::double3x3", "Udouble3x3@Math@Vantrel@@", 0, ArrayClass::refused,    29},
+    ReportOnlyType<Math::double4x4>{"Math::double4x4", "Udouble4x4@Math@Vantrel@@", 0, ArrayClass::refused,    30},
     // clang-format on
 };
 
@@ -189,6 +186,10 @@ constexpr void forEachRow(const List& list, Function&& function) {
 template <typename T, std::uint32_t Rank>
 concept Tagged = (Registered<T> && Rank < registeredRanks) || (InputOnly<T> && Rank == 0) ||
                  (ReportOnly<T> && Rank == 1);
+
+/// An element type of which reports show the statistics of arrays.
+template <typename T>
+concept Summarised = Tagged<T, 1> &&(valueType<T>().arrayClass == ArrayClass::summarised);
 
 /// The static tag of T at an array rank.
 template <typename T, std::uint32_t Rank>

@@ -1,7 +1,7 @@
+#include <algorithm>
 #include <array>
-#include <cstdint>
-#include <type_traits>
-#include <utility>
+#include <cstddef>
+#include <tuple>
 
 #include "vtlcmd/host/value_types.h"
 #include "vtlcmd/object_report/object_report.h"
@@ -36,24 +36,23 @@ consteval Row rowOf() {
   }
 }
 
-template <typename... Elements>
-consteval auto rowsOf() {
-  return std::array{rowOf<Elements>()...};
-}
+constexpr auto elementTypes = std::tuple_cat(registeredTypes, reportOnlyTypes);
 
-/// Every element type of the lists but objects; which ones have statistics, their rows say. The
-/// order is part of the report's form.
-constexpr auto rows =
-    rowsOf<std::int8_t, std::int16_t, std::int32_t, std::int64_t, std::uint8_t, std::uint16_t,
-           std::uint32_t, std::uint64_t, bool, Orvel::String, float, double, Math::int2,
-           Math::int2x2, Math::int2x3, Math::int3, Math::float2, Math::float4, Math::float3,
-           Math::float2x2, Math::float2x3, Math::float3x3, Math::float4x4, Math::double2,
-           Math::double3, Math::double4, Math::double2x2, Math::double2x3, Math::double3x3,
-           Math::double4x4, Math::short2, Math::short2x2, Math::short2x3, Math::short3,
-           Math::uchar3, Math::uchar4>();
+constexpr std::size_t rowCount = std::apply(
+    [](const auto&... type) { return (std::size_t{type.reportPlace != 0} + ...); }, elementTypes);
 
-static_assert(rows.size() == std::tuple_size_v<decltype(registeredTypes)> - 1 +
-                                 std::tuple_size_v<decltype(reportOnlyTypes)>);
+/// In the order of the types' places, which is part of the report's form.
+constexpr std::array<Row, rowCount> rows = [] {
+  std::array<Row, rowCount> ordered{};
+  forEachRow(elementTypes, [&]<typename ListRow>(const ListRow& type) {
+    if (type.reportPlace == 0) return;
+    ordered[type.reportPlace - 1] = rowOf<typename ListRow::Type>();
+  });
+  return ordered;
+}();
+
+static_assert(std::all_of(rows.begin(), rows.end(), [](const Row& row) { return row.tag; }),
+              "two types have one place");
 
 }  // namespace
 

@@ -74,7 +74,7 @@ class FailingMemoryAtInputs : public ::testing::Test {
 
 template <typename T>
 struct WithText : Host {
-  WithText() { inputValues.insert(name, {{}, sampleOf<T>().text}); }
+  WithText() { inputValues.insert(name, {{}, rowOf<T>().samples[0].text}); }
 };
 template <>
 struct WithText<ObjectPtr> : Host {

@@ -47,14 +47,15 @@ std::string lastText(const Host& host) { return host.logger.messages.back().text
 template <typename T>
 bool takesAndReports(const TypeTranslationPreview& object) {
   Host host;
-  if (sampleOf<T>().text != nullptr) host.inputValues.insert(host.name, {{}, sampleOf<T>().text});
+  if (rowOf<T>().samples[0].text != nullptr)
+    host.inputValues.insert(host.name, {{}, rowOf<T>().samples[0].text});
   const std::string line =
       "Output port 'a port of a long name': (" + std::string(valueType<T>().name) + ") ";
   return object.setInputValue(Orvel::typeOf<T>(), host.value, &host.input) &&
          object.getOutputAny(host.value, &host.output) &&
-         lastText(host) == line + sampleOf<T>().report &&
+         lastText(host) == line + rowOf<T>().samples[0].report &&
          object.getOutputValue(Orvel::fromAny(Orvel::typeOf<T>(), host.value), &host.output) &&
-         lastText(host) == line + sampleOf<T>().report &&
+         lastText(host) == line + rowOf<T>().samples[0].report &&
          object.getOutputAny(makeAny(nestedArray<T, 2>(sampleValue<T>(1))), &host.output);
 }
 
@@ -75,7 +76,7 @@ TEST(Threads, MakeTheFirstObjectsAtOnce) {
                 Orvel::Array<Orvel::String> names;
                 object->getSupportedTypeNames(names);
                 object->destroy();
-                return names.size == 17;
+                return names.size == supportedCount;
               }),
               threadCount);
   }

@@ -54,7 +54,6 @@ TEST(TypeFactory, KnowsEveryStoredTypeInOrder) {
   std::vector<std::string> expected;
   vtlcmd::forEachRow(storedTypes, [&](const auto& row) { expected.emplace_back(row.name); });
   EXPECT_EQ(names, expected);
-  EXPECT_EQ(names.size(), 39U);
 }
 
 TEST(TypeFactory, RefusesOtherNames) {

@@ -24,10 +24,8 @@ std::string statisticsOf(const std::vector<T>& elements) {
 template <typename T>
 class StatisticsEnvironment : public ::testing::Test {};
 
-using EnvironmentTypes =
-    ::testing::Types<bool, float, double, std::int32_t, std::uint32_t, std::int64_t, std::uint64_t,
-                     Math::float2, Math::float3, Math::float4>;
-TYPED_TEST_SUITE(StatisticsEnvironment, EnvironmentTypes);
+constexpr auto isReported = []<typename T>() { return Registered<T> && Summarised<T>; };
+TYPED_TEST_SUITE(StatisticsEnvironment, testing::TestTypesWhere<isReported>);
 
 TYPED_TEST(StatisticsEnvironment, StaysAsItWas) {
   const std::vector<TypeParam> elements(length, testing::sampleValue<TypeParam>(0));

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "output/statistics/plain_totals.h"
+#include "support/type_samples.h"
 
 namespace vtlcmd {
 namespace {
@@ -49,13 +50,7 @@ using Positions = std::vector<std::size_t>;
 
 template <typename T>
 class Kernels : public ::testing::Test {};
-template <typename Set>
-struct TypesOf;
-template <typename... T>
-struct TypesOf<std::tuple<statistics::Kernel<T>...>> {
-  using Types = ::testing::Types<T...>;
-};
-TYPED_TEST_SUITE(Kernels, TypesOf<statistics::KernelSet>::Types);
+TYPED_TEST_SUITE(Kernels, testing::SummarisedTestTypes);
 
 TYPED_TEST(Kernels, AgreeAtEveryLengthAndAlignment) {
   std::mt19937_64 random(1);
@@ -107,9 +102,10 @@ TEST(RunnableKernels, AreTheRowsUpToTheOneThatIsChosen) {
 
 template <typename T>
 class FloatingKernels : public ::testing::Test {};
-using FloatingTypes = ::testing::Types<float, double, Vantrel::Math::float2, Vantrel::Math::float3,
-                                       Vantrel::Math::float4>;
-TYPED_TEST_SUITE(FloatingKernels, FloatingTypes);
+constexpr auto isFloating = []<typename T>() {
+  return Summarised<T> && std::is_floating_point_v<Number<T>>;
+};
+TYPED_TEST_SUITE(FloatingKernels, testing::TestTypesWhere<isFloating>);
 
 template <typename T>
 using BitsOf = std::conditional_t<sizeof(Number<T>) == 8, std::uint64_t, std::uint32_t>;

@@ -12,12 +12,6 @@
 
 namespace vtlcmd {
 
-template <typename T>
-concept Summarised = requires {
-  requires Tagged<T, 1>;
-  requires(valueType<T>().arrayClass == ArrayClass::summarised);
-};
-
 namespace array_statistics {
 
 template <typename T>

@@ -12,34 +12,47 @@ namespace vtlcmd::statistics::VTLCMD_KERNELS {
 namespace {
 
 template <typename T>
-constexpr std::size_t componentsOf = 1;
-template <typename Number, std::size_t Count>
-constexpr std::size_t componentsOf<Vantrel::Math::Vector<Number, Count>> = Count;
+struct Parts {
+  using Number = T;
+  static constexpr std::size_t count = 1;
+};
+template <typename Component, std::size_t Count>
+struct Parts<Math::Vector<Component, Count>> {
+  using Number = Component;
+  static constexpr std::size_t count = Count;
+};
 
-template <typename Number, typename T>
+template <typename T>
 Totals<T> floatingTotals(const T* elements, std::uint64_t count) {
+  using Number = typename Parts<T>::Number;
   const auto running =
-      runThrough<Number, componentsOf<T>>(reinterpret_cast<const Number*>(elements), count);
+      runThrough<Number, Parts<T>::count>(reinterpret_cast<const Number*>(elements), count);
   Totals<T> totals;
   static_assert(sizeof totals == sizeof running);
   __builtin_memcpy(static_cast<void*>(&totals), &running, sizeof totals);
   return totals;
 }
 
+template <typename T>
+consteval Kernel<T> kernelOf() {
+  if constexpr (std::is_same_v<T, bool>) {
+    return &truthTotals;
+  } else if constexpr (std::is_integral_v<T>) {
+    return &integerTotals<T>;
+  } else {
+    static_assert(std::is_floating_point_v<typename Parts<T>::Number>);
+    return &floatingTotals<T>;
+  }
+}
+
+template <typename... T>
+consteval std::tuple<Kernel<T>...> allKernels(std::type_identity<std::tuple<Kernel<T>...>>) {
+  return {kernelOf<T>()...};
+}
+
 }  // namespace
 
 extern const KernelSet kernels;
-constinit const KernelSet kernels{&truthTotals,
-                                  &floatingTotals<float, float>,
-                                  &floatingTotals<double, double>,
-                                  &integerTotals<std::int16_t>,
-                                  &integerTotals<std::uint16_t>,
-                                  &integerTotals<std::int32_t>,
-                                  &integerTotals<std::uint32_t>,
-                                  &integerTotals<std::int64_t>,
-                                  &integerTotals<std::uint64_t>,
-                                  &floatingTotals<float, Vantrel::Math::float2>,
-                                  &floatingTotals<float, Vantrel::Math::float3>,
-                                  &floatingTotals<float, Vantrel::Math::float4>};
+constinit const KernelSet kernels = allKernels(std::type_identity<KernelSet>{});
 
 }  // namespace vtlcmd::statistics::VTLCMD_KERNELS

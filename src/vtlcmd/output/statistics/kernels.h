@@ -3,8 +3,10 @@
 #include <cstdint>
 #include <span>
 #include <tuple>
+#include <type_traits>
+#include <utility>
 
-#include "vtlcmd/host/imports/vantrel_math.h"
+#include "vtlcmd/host/value_types.h"
 
 /// The passes over an array's elements, by processor: one source, compiled once for each row of the
 /// table. All of them give the same bits for the same elements.
@@ -30,12 +32,13 @@ struct Totals<bool> {
 template <typename T>
 using Kernel = Totals<T> (*)(const T* elements, std::uint64_t count);
 
-/// One for each type.
-using KernelSet =
-    std::tuple<Kernel<bool>, Kernel<float>, Kernel<double>, Kernel<std::int16_t>,
-               Kernel<std::uint16_t>, Kernel<std::int32_t>, Kernel<std::uint32_t>,
-               Kernel<std::int64_t>, Kernel<std::uint64_t>, Kernel<Vantrel::Math::float2>,
-               Kernel<Vantrel::Math::float3>, Kernel<Vantrel::Math::float4>>;
+/// One for each type of the rows whose arrays are summarised.
+template <typename... Rows>
+auto kernelsOf(const std::tuple<Rows...>&) -> decltype(std::tuple_cat(
+    std::declval<std::conditional_t<Summarised<typename Rows::Type>,
+                                    std::tuple<Kernel<typename Rows::Type>>, std::tuple<>>>()...));
+
+using KernelSet = decltype(kernelsOf(std::tuple_cat(registeredTypes, reportOnlyTypes)));
 
 /// The sets of the kinds of processors, each of which runs the rows before its own too.
 struct KernelRow {

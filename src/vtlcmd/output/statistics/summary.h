@@ -1,6 +1,13 @@
 #pragma once
 
+#include <cfloat>
+#include <cstddef>
 #include <cstdint>
+#include <tuple>
+
+#include "vtlcmd/host/value_types.h"
+#include "vtlcmd/output/statistics/average.h"
+#include "vtlcmd/output/statistics/kernels.h"
 
 namespace vtlcmd {
 
@@ -14,6 +21,34 @@ struct Summary {
   T average;
 };
 
+namespace statistics {
+
+static_assert(FLT_EVAL_METHOD == 0, "sums are rounded to the element's own precision");
+
+template <typename T>
+Summary<T> summaryOf(const Totals<T>& totals, std::uint64_t count, const T*) noexcept {
+  return {totals.minimum, totals.maximum, averageOf(totals.sum, count)};
+}
+
+template <typename Number, std::size_t Count>
+Summary<Math::Vector<Number, Count>> summaryOf(const Totals<Math::Vector<Number, Count>>& totals,
+                                               std::uint64_t count,
+                                               const Math::Vector<Number, Count>*) noexcept {
+  Math::Vector<Number, Count> average;
+  for (std::size_t i = 0; i < Count; ++i)
+    average.components[i] = averageOf(totals.sum.components[i], count);
+  return {totals.minimum, totals.maximum, average};
+}
+
+inline Summary<bool> summaryOf(const Totals<bool>& totals, std::uint64_t count,
+                               const bool* elements) noexcept {
+  const bool firstIsTrue = *reinterpret_cast<const unsigned char*>(elements) != 0;
+  return {totals.trueCount == count, totals.trueCount != 0,
+          mostAreTrue(totals.trueCount - (firstIsTrue ? 1 : 0), count)};
+}
+
+}  // namespace statistics
+
 /// Of `count` elements, at least one, in array order and one pass, without allocation.
 ///
 /// An element takes the minimum's or maximum's place only where it compares less or greater: of
@@ -22,9 +57,11 @@ struct Summary {
 /// floating additions round at every step. Elements of a bool array are read as bytes, any of which
 /// but 0 is true.
 ///
-/// For bool, float, double, the signed and unsigned integers of 16, 32 and 64 bits, and
-/// Math::float2, float3 and float4. Any thread; the elements must stay as they are meanwhile.
-template <typename T>
-Summary<T> summarise(const T* elements, std::uint64_t count) noexcept;
+/// Any thread; the elements must stay as they are meanwhile.
+template <Summarised T>
+Summary<T> summarise(const T* elements, std::uint64_t count) noexcept {
+  const auto kernel = std::get<statistics::Kernel<T>>(*statistics::chosenKernels);
+  return statistics::summaryOf(kernel(elements, count), count, elements);
+}
 
 }  // namespace vtlcmd
