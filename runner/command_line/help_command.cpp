@@ -6,7 +6,7 @@
 #include "command_line/commands.h"
 #include "command_line/help_formatter.h"
 #include "command_line/usage_error.h"
-#include "manual/graph_form.h"
+#include "graph/graph_form.h"
 #include "text/library_text.h"
 #include "text/near_misses.h"
 
@@ -28,7 +28,7 @@ void printHelp(const CLI::App& app, const std::string& topic) {
   if (topic.empty()) {
     std::cout << helpOf(app, program);
   } else if (topic == graphFormTopic) {
-    std::cout << graphForm;
+    std::cout << graphForm();
   } else {
     const std::vector<std::string> topics = helpTopics(app);
     if (std::find(topics.begin(), topics.end(), topic) == topics.end())

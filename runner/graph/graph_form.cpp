@@ -1,8 +1,13 @@
-#include "manual/graph_form.h"
+#include "graph/graph_form.h"
+
+#include <string_view>
+
+#include "vtlcmd/host/value_types.h"
 
 namespace vtlcmd::runner {
+namespace {
 
-const char* const graphForm = R"(Description:
+constexpr const char* upToTypes = R"(Description:
   A graph file is one JSON object: typed ports that values come in by, nodes
   that compute, and outputs that are reported. Every error names its place in
   the file, like $.nodes[3].op.
@@ -59,10 +64,10 @@ Members of an output:
   description  for people
 
 Types:
-  bool int uint long ulong float double string Object
-  Math::float2 Math::float3 Math::float4
-  Math::double2 Math::double3 Math::double4
-  Simulation::Time           the frame and its time; of ports only
+)";
+
+constexpr const char* fromRecordsOn =
+    R"(  Simulation::Time           the frame and its time; of ports only
   File::Project::SceneInfo   the scene file; of ports only
   array<TYPE>                to any depth
   Some more, like short and Math::float2x2, are there for the data of objects;
@@ -88,5 +93,26 @@ Texts of ports:
   which ports take no text: those of an Object, of arrays and of the run's own
   facts.
 )";
+
+/// The names of the types that ports report, in indented lines.
+std::string typeLines() {
+  constexpr std::size_t width = 60;
+  std::string lines;
+  std::string line;
+  const auto endLine = [&] {
+    if (!line.empty()) lines += ' ' + line + '\n';
+    line.clear();
+  };
+  forEachRow(registeredTypes, [&](const auto& row) {
+    if (line.size() + std::string_view(row.name).size() > width) endLine();
+    line.append(" ").append(row.name);
+  });
+  endLine();
+  return lines;
+}
+
+}  // namespace
+
+std::string graphForm() { return upToTypes + typeLines() + fromRecordsOn; }
 
 }  // namespace vtlcmd::runner

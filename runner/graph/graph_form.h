@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 namespace vtlcmd::runner {
 
 /// What help calls the form of graph files.
@@ -10,6 +12,6 @@ inline constexpr const char* graphFormSummary = "a compute graph as a JSON file"
 
 /// The form of graph files in words, for help and for the manual. Headings end in a colon, what
 /// belongs to them is indented by two blanks.
-extern const char* const graphForm;
+std::string graphForm();
 
 }  // namespace vtlcmd::runner

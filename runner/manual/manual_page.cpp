@@ -5,7 +5,7 @@
 #include <cctype>
 #include <sstream>
 
-#include "manual/graph_form.h"
+#include "graph/graph_form.h"
 
 namespace vtlcmd::runner {
 namespace {
@@ -156,7 +156,7 @@ std::string manualPage(const CLI::App& program, const CLI::App& command,
 std::string graphManualPage(const CLI::App& program, const std::string& version) {
   std::ostringstream page;
   writeHead(page, "vtlcmd-graph", "5", version, "File formats", graphFormSummary);
-  writeText(page, graphForm);
+  writeText(page, graphForm());
   page << ".SH SEE ALSO\n" << bold(program.get_name()) << "(1)";
   for (const char* command : {"run", "ports", "nodes"})
     page << ",\n" << bold(program.get_name() + "-" + command) << "(1)";

@@ -20,13 +20,6 @@ WRITTEN_BY_THE_BUILD = {"build_facts.h"}
 
 PLATFORM_HEADERS = {"cpuid.h", "fcntl.h", "immintrin.h", "unistd.h", "windows.h"}
 
-# Circles that are known, each with its reason.
-KNOWN_CIRCLES = {
-    ("runner", ("command_line", "manual")):
-        "the program that writes the manual pages lists the commands; a command shows the form of "
-        "graph files, which is a manual page too",
-}
-
 
 def includes(file):
     """The headers of a source, with "..." or <...> around them."""
@@ -71,13 +64,10 @@ class Map:
             reached[start] = seen
         circles = {tuple(sorted(other for other in reached[start] if start in reached.get(other, ())))
                    for start in reached if start in reached[start]}
-        for circle in circles - {folders for place, folders in KNOWN_CIRCLES if place == top}:
+        for circle in circles:
             lines = [f"  {line}" for (a, b), lines in sorted(arrows.items())
                      if a in circle and b in circle for line in lines]
             self.problems += [f"{top}: a circle of {', '.join(circle)}", *lines]
-        for place, folders in KNOWN_CIRCLES:
-            if place == top and folders not in circles:
-                self.problems.append(f"{top}: no circle of {', '.join(folders)} any more")
 
     def check_plug_in(self):
         for file in self.sources("src"):

@@ -5,7 +5,7 @@
 #include "command_line/commands.h"
 #include "command_line/help_formatter.h"
 #include "graph/graph.h"
-#include "manual/graph_form.h"
+#include "graph/graph_form.h"
 
 namespace vtlcmd::runner {
 namespace {
@@ -26,7 +26,7 @@ TEST(Help, FitsItsWidthInEveryCommand) {
   ASSERT_FALSE(app.get_subcommands({}).empty());
   for (const CLI::App* command : app.get_subcommands({}))
     expectNarrow(command->help("vtlcmd"), command->get_name());
-  expectNarrow(graphForm, "graph");
+  expectNarrow(graphForm(), "graph");
 }
 
 TEST(Help, WordsStayWholeAndAllThere) {
@@ -48,7 +48,7 @@ TEST(Help, WordsStayWholeAndAllThere) {
 }
 
 TEST(Help, TheExampleOfAGraphIsOne) {
-  const std::string text = graphForm;
+  const std::string text = graphForm();
   const std::size_t begin = text.find("  {\n");
   const std::size_t end = text.find("\n  }\n", begin);
   ASSERT_NE(end, std::string::npos);
