@@ -127,6 +127,8 @@ def main():
             file.writelines(line + "\n" for step in steps for line in step.lines())
             file.writelines(line + "\n" for line in rest)
         return 0
+    if failed:
+        print("if all that is as it should be:", shlex.join([*sys.argv, "--accept"]))
     return 1 if failed else 0
 
 

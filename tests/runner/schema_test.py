@@ -3,6 +3,8 @@
 import argparse
 import json
 import pathlib
+import re
+import shlex
 import subprocess
 import sys
 
@@ -11,6 +13,8 @@ import jsonschema
 parser = argparse.ArgumentParser(description=__doc__)
 parser.add_argument("--program", required=True, nargs="+", help="the words that start it")
 parser.add_argument("--folder", required=True, type=pathlib.Path)
+parser.add_argument("--accept", action="store_true",
+                    help="write the operations and types of today into the graph file's schema")
 arguments = parser.parse_args()
 
 problems = []
@@ -20,13 +24,29 @@ def listed(command):
     return json.loads(subprocess.check_output([*arguments.program, command, "--json"]))
 
 
-schema = json.loads((arguments.folder / "docs/graph.schema.json").read_text())
+def known_types():
+    """The names in the lists of types, those included that only reports know."""
+    lists = (arguments.folder / "src/vtlcmd/host/value_types.h").read_text()
+    return re.findall(r'(?:Registered|InputOnly|ReportOnly)Type<[\w:]+>\s*\{\s*"([^"]+)"', lists)
+
+
+schema_file = arguments.folder / "docs/graph.schema.json"
+schema = json.loads(schema_file.read_text())
+accepted_schema = json.loads(schema_file.read_text())
+accepted_schema["$defs"]["node"]["properties"]["op"]["enum"] = [node["op"] for node in listed("nodes")]
+accepted_schema["$defs"]["type"]["pattern"] = f"^(array<)*({'|'.join(known_types())})>*$"
+if arguments.accept:
+    schema = accepted_schema
+    schema_file.write_text(json.dumps(schema, indent=2, ensure_ascii=False) + "\n")
+if schema != accepted_schema:
+    problems.append("the schema's operations or types differ from the program's; "
+                    f"to renew them: {shlex.join([*sys.argv, '--accept'])}")
+if missing := set(listed("types")) - set(known_types()):
+    problems.append(f"no list of types has {', '.join(sorted(missing))}")
 jsonschema.Draft202012Validator.check_schema(schema)
 validator = jsonschema.Draft202012Validator(schema)
 
-if schema["$defs"]["node"]["properties"]["op"]["enum"] != [node["op"] for node in listed("nodes")]:
-    problems.append("the operations differ from those of `vtlcmd nodes`")
-for name in listed("types"):
+for name in known_types():
     for type_name in (name, f"array<array<{name}>>"):
         graph = {"inputs": [{"name": "port", "type": type_name}]}
         problems += [f"{type_name}: {error.message}" for error in validator.iter_errors(graph)]
