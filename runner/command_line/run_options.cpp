@@ -14,19 +14,26 @@
 
 namespace vtlcmd::runner {
 
-void addRunOptions(CLI::App& command, RunOptions& options) {
-  const auto addList = [&](const char* name, std::vector<std::string>& list, const char* help) {
-    return command.add_option(name, list, help)->allow_extra_args(false);
-  };
+namespace {
+
+CLI::Option* addList(CLI::App& command, const char* name, std::vector<std::string>& list,
+                     const char* help) {
+  return command.add_option(name, list, help)->allow_extra_args(false);
+}
+
+void addGraphAndTexts(CLI::App& command, RunOptions& options) {
   command.add_option("GRAPH", options.graph, "Graph file; '-' is the standard input")
       ->required()
       ->type_name("");
-  addList("-s,--set", options.inputs, "Text for an input port, handed on as it stands")
+  addList(command, "-s,--set", options.inputs, "Text for an input port, handed on as it stands")
       ->type_name("PORT=TEXT");
-  addList("-j,--set-job", options.jobs, "Text for a Job port")->type_name("PORT=TEXT");
-  addList("--set-file", options.files,
+  addList(command, "-j,--set-job", options.jobs, "Text for a Job port")->type_name("PORT=TEXT");
+  addList(command, "--set-file", options.files,
           "Text for a port from a file, without its last line end; '-' is the standard input")
       ->type_name("PORT=PATH");
+}
+
+void addFramesAndScene(CLI::App& command, RunOptions& options) {
   command
       .add_option("-f,--frames", options.frames,
                   "Frames to run: 1 or 1-10 or 1-10x2 (or 1-10:2) or 1,5,9; fractions are fine")
@@ -51,10 +58,13 @@ void addRunOptions(CLI::App& command, RunOptions& options) {
       ->type_name("PATH");
   command.add_option("--secondary", options.secondary, "Secondary path that the graph is told")
       ->type_name("PATH");
+}
+
+void addOutputOptions(CLI::App& command, RunOptions& options) {
   command.add_flag("--strict", options.strict, "Fail on a warning too");
-  addList("--only", options.only, "Evaluate and report only this output and what it needs")
+  addList(command, "--only", options.only, "Evaluate and report only this output and what it needs")
       ->type_name("OUTPUT");
-  addList("--save", options.saves,
+  addList(command, "--save", options.saves,
           "Save an output's values, arrays of numbers and vectors to a .npy file, meshes to a .ply "
           "file; {frame} or {frame:04} in the name is the frame")
       ->type_name("OUTPUT=FILE");
@@ -64,8 +74,11 @@ void addRunOptions(CLI::App& command, RunOptions& options) {
                   "them")
       ->type_name("NUMBER")
       ->capture_default_str();
+}
+
+void addReportOptions(CLI::App& command, RunOptions& options) {
   addList(
-      "--report", options.reports,
+      command, "--report", options.reports,
       "Write a report of the run: a page for people to a file named *.html, a table to *.csv, "
       "else a JSON document; '-' is the standard output, and the text then goes to standard error")
       ->type_name("FILE");
@@ -76,6 +89,9 @@ void addRunOptions(CLI::App& command, RunOptions& options) {
       ->type_name("FRAMES");
   command.add_flag("--no-times", options.noTimes,
                    "Leave out of reports what another run of the same would tell differently");
+}
+
+void addJournalOptions(CLI::App& command, RunOptions& options) {
   command
       .add_option("--journal", options.journal,
                   "Keep a journal of the run, a line a frame, that outlives the process; 'vtlcmd "
@@ -88,7 +104,9 @@ void addRunOptions(CLI::App& command, RunOptions& options) {
                 "Go on with the journal where one is there already: run the frames that are "
                 "missing in it or failed")
       ->excludes(restart);
-  options.frameOptions.addTo(command);
+}
+
+void addProgressOptions(CLI::App& command, RunOptions& options) {
   CLI::Option* progress = command.add_flag_callback(
       "--progress", [&options] { options.progress = true; },
       "Tell on standard error how far the run is, even off a terminal");
@@ -97,6 +115,19 @@ void addRunOptions(CLI::App& command, RunOptions& options) {
           "--no-progress", [&options] { options.progress = false; },
           "Never tell how far the run is")
       ->excludes(progress);
+}
+
+}  // namespace
+
+// In the order in which help tells them.
+void addRunOptions(CLI::App& command, RunOptions& options) {
+  addGraphAndTexts(command, options);
+  addFramesAndScene(command, options);
+  addOutputOptions(command, options);
+  addReportOptions(command, options);
+  addJournalOptions(command, options);
+  options.frameOptions.addTo(command);
+  addProgressOptions(command, options);
   options.read.addTo(command);
   options.report.addTo(command);
 }
