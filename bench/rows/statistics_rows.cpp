@@ -1,5 +1,7 @@
 #include <memory>
+#include <optional>
 #include <string>
+#include <tuple>
 #include <type_traits>
 #include <utility>
 
@@ -83,15 +85,24 @@ bool hasWideMinimum() {
 #endif
 }
 
-template <typename... Types, typename Function>
-void forEachType(Function function) {
-  (function(std::type_identity<Types>{}), ...);
+/// How much longer than the additions alone, if that is known.
+template <typename T>
+std::optional<double> goalInCache() {
+  if constexpr (std::is_floating_point_v<T>) {
+    return 1.05;
+  } else if constexpr (!std::is_integral_v<T>) {
+    return 1.15;
+  } else {
+    return sizeof(T) < 8 || hasWideMinimum() ? std::optional(2.0) : std::nullopt;
+  }
 }
 
 template <typename Function>
-void forEachInteger(Function function) {
-  forEachType<std::int32_t, std::uint32_t, std::int64_t, std::uint64_t, std::int16_t, std::uint16_t,
-              bool>(function);
+void forEachSummarised(Function function) {
+  forEachRow(std::tuple_cat(registeredTypes, reportOnlyTypes), [&]<typename Row>(const Row&) {
+    using T = typename Row::Type;
+    if constexpr (Summarised<T>) function(std::type_identity<T>{});
+  });
 }
 
 }  // namespace
@@ -100,19 +111,12 @@ std::vector<TimedRow> cachedStatisticsRows(const Scale& scale) {
   const auto plugIn = std::make_shared<PlugIn>();
   const Bytes bytes(scale.cachedBytes);
   std::vector<TimedRow> rows;
-  const auto add = [&]<typename T>(std::type_identity<T>, std::size_t calls,
-                                   std::optional<double> goal) {
+  forEachSummarised([&]<typename T>(std::type_identity<T>) {
     TimedRow row = bench::row<T>("in cache", plugIn, bytes);
-    row.calls = calls;
+    row.calls = std::is_integral_v<T> ? 20 : 4;
     row.pairs = 101;
-    row.goal = goal;
+    row.goal = goalInCache<T>();
     rows.push_back(std::move(row));
-  };
-  forEachType<float, double>([&](auto type) { add(type, 4, 1.05); });
-  forEachType<Math::float2, Math::float3, Math::float4>([&](auto type) { add(type, 4, 1.15); });
-  forEachInteger([&]<typename T>(std::type_identity<T> type) {
-    const bool judged = sizeof(T) < 8 || hasWideMinimum();
-    add(type, 20, judged ? std::optional(2.0) : std::nullopt);
   });
   return rows;
 }
@@ -121,11 +125,13 @@ std::vector<TimedRow> memoryStatisticsRows(const Scale& scale) {
   const auto plugIn = std::make_shared<PlugIn>();
   const Bytes bytes(scale.memoryBytes);
   std::vector<TimedRow> rows;
-  forEachInteger([&]<typename T>(std::type_identity<T>) {
-    TimedRow row = bench::row<T>("in memory", plugIn, bytes);
-    row.pairs = 9;
-    row.goal = 1.15;
-    rows.push_back(std::move(row));
+  forEachSummarised([&]<typename T>(std::type_identity<T>) {
+    if constexpr (std::is_integral_v<T>) {
+      TimedRow row = bench::row<T>("in memory", plugIn, bytes);
+      row.pairs = 9;
+      row.goal = 1.15;
+      rows.push_back(std::move(row));
+    }
   });
   return rows;
 }
