@@ -10,6 +10,7 @@
 #include "graph/graph_file.h"
 #include "text/control_characters.h"
 #include "text/load_error.h"
+#include "vtlcmd/host/value_types.h"
 #include "vtlcmd/logging/vtlcmd_logger.h"
 
 namespace vtlcmd::runner {
@@ -70,7 +71,7 @@ void offerPortTexts(const Place& place) {
     if (port.isJob != place.wantsJobs || !takesText(port)) continue;
     if (!name) {
       offerPort(place, port);
-    } else if (port.name == *name && nameOf(port.type) == "bool") {
+    } else if (port.name == *name && nameOf(port.type) == valueType<bool>().name) {
       offer(place, *name + "=true", "");
       offer(place, *name + "=false", "");
     }

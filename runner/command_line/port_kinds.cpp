@@ -19,9 +19,12 @@ struct Row {
 };
 
 constexpr std::array<Row, 3> withoutText{{
-    {"Object", {PortSource::defaultValue, "it is a new object or the graph's default"}},
-    {"Simulation::Time", {PortSource::options, "it comes from --frames and --fps"}},
-    {"File::Project::SceneInfo", {PortSource::options, "it comes from --scene and --secondary"}},
+    {valueType<ObjectPtr>().name,
+     {PortSource::defaultValue, "it is a new object or the graph's default"}},
+    {valueType<Vantrel::Simulation::Time>().name,
+     {PortSource::options, "it comes from --frames and --fps"}},
+    {valueType<Vantrel::File::Project::SceneInfo>().name,
+     {PortSource::options, "it comes from --scene and --secondary"}},
 }};
 
 }  // namespace

@@ -13,7 +13,7 @@ import sys
 
 # Not messages: names of types, which are compared, and the version banner.
 NO_MESSAGES = ("src/vtlcmd/host/", "src/vtlcmd/build_identity/", "src/vtlcmd/translation/entry.h")
-SILENT_TEXTS = {"true", "false", "float", "double", "int", "baseline", "avx2", "avx512",
+SILENT_TEXTS = {"true", "false", "baseline", "avx2", "avx512",
                 "vtlcmd TypeTranslation", "default", "none"}
 
 # Of these files of the runner every text is a message, of the folders what such calls are given.

@@ -51,8 +51,8 @@ constexpr std::array<Row, rowCount> rows = [] {
   return ordered;
 }();
 
-static_assert(std::all_of(rows.begin(), rows.end(), [](const Row& row) { return row.tag; }),
-              "two types have one place");
+// No two types have one place.
+static_assert(std::all_of(rows.begin(), rows.end(), [](const Row& row) { return row.tag; }));
 
 }  // namespace
 

@@ -1,6 +1,7 @@
 #include "vtlcmd/output/value_text.h"
 
 #include <array>
+#include <cstdint>
 
 namespace vtlcmd {
 namespace {
@@ -11,9 +12,12 @@ struct MemberWriter {
 };
 
 constexpr std::array<MemberWriter, 3> memberWriters{{
-    {"float", [](TextBuilder& text, const Orvel::Value& member) { text << member.getFloat(); }},
-    {"double", [](TextBuilder& text, const Orvel::Value& member) { text << member.getDouble(); }},
-    {"int", [](TextBuilder& text, const Orvel::Value& member) { text << member.getInt(); }},
+    {valueType<float>().name,
+     [](TextBuilder& text, const Orvel::Value& member) { text << member.getFloat(); }},
+    {valueType<double>().name,
+     [](TextBuilder& text, const Orvel::Value& member) { text << member.getDouble(); }},
+    {valueType<std::int32_t>().name,
+     [](TextBuilder& text, const Orvel::Value& member) { text << member.getInt(); }},
 }};
 
 }  // namespace
