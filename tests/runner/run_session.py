@@ -128,7 +128,7 @@ def main():
             file.writelines(line + "\n" for line in rest)
         return 0
     if failed:
-        print("if all that is as it should be:", shlex.join([*sys.argv, "--accept"]))
+        print("if all that is as it should be:", shlex.join([sys.executable, *sys.argv, "--accept"]))
     return 1 if failed else 0
 
 

@@ -40,7 +40,7 @@ if arguments.accept:
     schema_file.write_text(json.dumps(schema, indent=2, ensure_ascii=False) + "\n")
 if schema != accepted_schema:
     problems.append("the schema's operations or types differ from the program's; "
-                    f"to renew them: {shlex.join([*sys.argv, '--accept'])}")
+                    f"to renew them: {shlex.join([sys.executable, *sys.argv, '--accept'])}")
 if missing := set(listed("types")) - set(known_types()):
     problems.append(f"no list of types has {', '.join(sorted(missing))}")
 jsonschema.Draft202012Validator.check_schema(schema)

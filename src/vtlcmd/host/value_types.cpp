@@ -27,9 +27,7 @@ constexpr bool agrees(const RegisteredType<T>& row) {
     return row.components == T::componentCount && row.tagKind == 0 &&
            std::string_view(row.parseErrorEnd) ==
                valueType<typename T::ComponentType>().parseErrorEnd &&
-           isMathSpelling(row.tagSpelling, name) &&
-           (row.arrayClass == ArrayClass::refused) ==
-               std::is_same_v<typename T::ComponentType, double>;
+           isMathSpelling(row.tagSpelling, name);
   } else {
     return row.parseErrorEnd == nullptr && row.arrayClass == ArrayClass::listed &&
            row.tagSpelling.starts_with('V') &&

@@ -132,9 +132,6 @@ inline constexpr std::tuple reportOnlyTypes{
     // clang-format on
 };
 
-static_assert(std::tuple_size_v<decltype(registeredTypes)> == 15);
-static_assert(std::tuple_size_v<decltype(reportOnlyTypes)> == 22);
-
 namespace type_lists {
 
 template <typename Row, typename List>
