@@ -39,7 +39,7 @@ Members of the file:
   description  for people
   inputs       ports whose texts are given with -s
   jobs         ports whose texts are given with -j
-  nodes        in any order, as long as they don't run in a circle
+  nodes        in any order, as long as they form no cycle
   outputs      reported in this order
   $schema      for editors; not read
 
