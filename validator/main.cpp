@@ -4,6 +4,7 @@
 #include <iostream>
 
 #include "command_line/options.h"
+#include "platform/program.h"
 #include "process/run_checks.h"
 #include "report/report.h"
 
@@ -14,9 +15,9 @@ using namespace vtlcmd::validator;
 enum ExitCode : int { good = 0, bad = 1, usage = 2, unloadable = 3 };
 
 Subject subjectOf(const std::string& plugIn, const Options& options) {
-  return {
-      std::filesystem::absolute(std::filesystem::path(std::u8string(plugIn.begin(), plugIn.end()))),
-      options.seed};
+  const std::filesystem::path file(std::u8string(plugIn.begin(), plugIn.end()));
+  // Loaders that know both separators want the platform's own.
+  return {std::filesystem::absolute(file).make_preferred(), options.seed};
 }
 
 int runOneOf(const CheckList& checks, const Options& options) {
@@ -69,7 +70,8 @@ int validateAll(const CheckList& checks, const Options& options) {
 }  // namespace
 
 int main(int count, char** words) try {
-  const ReadOptions read = readOptions(count, words);
+  prepareProcess();
+  const ReadOptions read = readOptions(commandLineWords(count, words));
   if (read.exitCode) return *read.exitCode;
   const CheckList all = allChecks();
   if (!read.options.runOne.empty()) return runOneOf(all, read.options);

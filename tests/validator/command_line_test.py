@@ -1,24 +1,29 @@
 """vtlcmd-validate: options, exit codes and documents, with a good plug-in.
 
-usage: command_line_test.py VALIDATOR PLUG_IN MANUAL_PAGE
+usage: command_line_test.py PLUG_IN MANUAL_PAGE CHECKS VALIDATOR...
+CHECKS is a regular expression of the checks to make in processes of their own; all when it is empty.
+VALIDATOR are the words that start the program.
 """
 
 import json
+import pathlib
 import re
 import subprocess
 import sys
+import tempfile
 import unittest
 
-VALIDATOR, PLUG_IN = sys.argv[1:3]
+PLUG_IN, MANUAL_PAGE, CHECKS, *VALIDATOR = sys.argv[1:]
 
 
 def run(*arguments):
-    return subprocess.run([VALIDATOR, *arguments], capture_output=True, text=True, check=False)
+    return subprocess.run([*VALIDATOR, *arguments], capture_output=True, encoding="utf-8",
+                          check=False)
 
 
 class CommandLine(unittest.TestCase):
-    def test_the_good_plug_in_passes_all_checks(self):
-        ended = run("--json", PLUG_IN)
+    def test_the_good_plug_in_passes_its_checks(self):
+        ended = run("--json", "--only", CHECKS, PLUG_IN)
         self.assertEqual(ended.returncode, 0, ended.stdout[-3000:] + ended.stderr)
         plug_in = json.loads(ended.stdout)["plugIns"][0]
         self.assertTrue(plug_in["good"])
@@ -45,6 +50,14 @@ class CommandLine(unittest.TestCase):
         self.assertEqual((ended.returncode, ended.stderr), (0, ""))
         self.assertEqual(ended.stdout, f"{PLUG_IN}: 1 passed of 1 checks\nseed 7\n")
 
+    def test_a_path_may_have_any_character(self):
+        with tempfile.TemporaryDirectory() as folder:
+            plug_in = pathlib.Path(folder, "a \u017e\u65e5", pathlib.Path(PLUG_IN).name)
+            plug_in.parent.symlink_to(pathlib.Path(PLUG_IN).resolve().parent)
+            ended = run("--only", "^slot-call-", "--jobs", "3", "--seed", "7", str(plug_in))
+            self.assertEqual((ended.stdout, ended.stderr, ended.returncode),
+                             (f"{plug_in}: 5 passed of 5 checks\nseed 7\n", "", 0))
+
     def test_usage_errors_are_told_apart(self):
         for arguments in ([], ["--only", "(", PLUG_IN], ["--only", "no such check", PLUG_IN],
                           ["--jobs", "0", PLUG_IN], ["--unknown", PLUG_IN], ["--seed", "x"]):
@@ -67,7 +80,7 @@ class CommandLine(unittest.TestCase):
 
     def test_the_manual_page_has_every_option(self):
         options = set(re.findall(r"--[a-z-]+", run("--help").stdout))
-        with open(sys.argv[3], encoding="utf-8") as page:
+        with open(MANUAL_PAGE, encoding="utf-8") as page:
             documented = set(re.findall(r"--[a-z-]+", page.read()))
         self.assertEqual(options, documented)
 

@@ -24,11 +24,13 @@ std::string regexError(const std::string& text) {
 
 }  // namespace
 
-ReadOptions readOptions(int count, char** words) {
+ReadOptions readOptions(const std::vector<std::string>& words) {
   Options options;
   options.seed = std::random_device{}();
   options.jobs = std::max(1U, std::thread::hardware_concurrency());
   CLI::App app("Checks builds of the plug-in through their one export.", "vtlcmd-validate");
+  // A path may begin so.
+  app.allow_windows_style_options(false);
   const CLI::Validator isRegex(regexError, "REGEX");
   app.add_flag("--json", options.json, "Write one JSON document to standard output");
   app.add_option("--only", options.only, "Make the checks in whose name REGEX is found")
@@ -49,7 +51,7 @@ ReadOptions readOptions(int count, char** words) {
   app.set_version_flag("--version", VTLCMD_VERSION);
   app.add_option("plugins", options.plugIns, "Files of the plug-in")->option_text("PLUGIN...");
   try {
-    app.parse(count, words);
+    app.parse(std::vector<std::string>(words.rbegin(), words.rend()));
     if (options.plugIns.empty() && !options.list) throw CLI::RequiredError("PLUGIN");
     return {options, std::nullopt};
   } catch (const CLI::Success& success) {

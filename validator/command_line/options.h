@@ -29,7 +29,8 @@ struct ReadOptions {
   std::optional<int> exitCode;
 };
 
-ReadOptions readOptions(int count, char** words);
+/// From the words behind the program's name.
+ReadOptions readOptions(const std::vector<std::string>& words);
 
 /// The checks whose name `only` is found in (all when it is empty) and `skip` isn't. Throws
 /// std::regex_error.

@@ -13,6 +13,8 @@ void redirect(int source, int target) { ::dup2(source, target); }
 
 void closeDescriptor(int descriptor) { ::close(descriptor); }
 
+std::FILE* temporaryFile() { return std::tmpfile(); }
+
 void setEnvironment(const char* name, const char* value) {
   // Nobody else reads the environment meanwhile: a check has its process to itself.
   if (value == nullptr) {

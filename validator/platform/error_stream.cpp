@@ -10,7 +10,7 @@ constexpr int errorDescriptor = 2;
 
 }  // namespace
 
-CaughtErrors::CaughtErrors() : file_(std::tmpfile()) {
+CaughtErrors::CaughtErrors() : file_(temporaryFile()) {
   if (file_ == nullptr) throw Skipped("no temporary file can be made");
   std::fflush(stderr);
   kept_ = duplicate(errorDescriptor);

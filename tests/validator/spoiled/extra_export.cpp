@@ -1,3 +1,5 @@
-extern "C" __attribute__((visibility("default"))) int vtlcmdExtraExport();
+#include "vtlcmd/translation/entry.h"
+
+extern "C" VTLCMD_EXPORT int vtlcmdExtraExport();
 
 int vtlcmdExtraExport() { return 0; }
