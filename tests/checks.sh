@@ -153,15 +153,15 @@ lint() {
 
 check_lint() { lint src; }
 
-check_lint_everything() { lint src closed runner; }
+check_lint_everything() { lint src closed runner validator; }
 
 # Those that the second compiler doesn't see, with its own idea of that platform.
 check_windows_lint() {
   local headers
   headers=$(x86_64-w64-mingw32-g++-posix -print-file-name=include/c++)
-  git ls-files 'src/*_windows.cpp' 'closed/*_windows.cpp' 'runner/*_windows.cpp' |
+  git ls-files {src,closed,runner,validator}/'*_windows.cpp' |
     xargs -P "$(nproc)" -I{} clang-tidy --quiet {} -- --target=x86_64-w64-mingw32 -std=c++20 \
-      -Isrc -Iclosed -Irunner -isystem "$headers" -isystem "$headers/x86_64-w64-mingw32"
+      -Isrc -Iclosed -Irunner -Ivalidator -isystem "$headers" -isystem "$headers/x86_64-w64-mingw32"
   echo "no finding"
 }
 

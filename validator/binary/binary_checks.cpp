@@ -62,11 +62,12 @@ void knownImports(Session& session) {
 }
 
 void knownLibraries(Session& session) {
-  for (std::string library : readSymbols(session.file()).libraries) {
+  const auto libraries = readSymbols(session.file()).libraries;
+  for (const std::string_view library : libraries) {
     if (library.starts_with("lib") && beginsAsOneOf(library.substr(3), closedLibraries)) continue;
     if (beginsAsOneOf(library, closedLibraries) || beginsAsOneOf(library, standardLibraries))
       continue;
-    throw Failed("needs " + library);
+    throw Failed("needs " + std::string(library));
   }
 }
 

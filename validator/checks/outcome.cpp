@@ -11,10 +11,6 @@ std::string joined(const std::vector<std::string>& lines) {
 
 }  // namespace
 
-void expect(bool holds, const std::string& what) {
-  if (!holds) throw Failed("not so: " + what);
-}
-
 void expectText(const std::string& what, const std::string& found, const std::string& wanted) {
   if (found != wanted) throw Failed(what + ": found \"" + found + "\", wanted \"" + wanted + '"');
 }

@@ -32,7 +32,9 @@ class Unloadable : public std::runtime_error {
 };
 
 /// Throws Failed, which says `what` ought to hold.
-void expect(bool holds, const std::string& what);
+inline void expect(bool holds, const std::string& what) {
+  if (!holds) throw Failed("not so: " + what);
+}
 
 /// Throws Failed with both texts.
 void expectText(const std::string& what, const std::string& found, const std::string& wanted);

@@ -10,8 +10,6 @@
 namespace vtlcmd::validator {
 namespace {
 
-using VantrelGraph::Executor::TypeTranslation;
-
 /// A virtual destructor takes two entries of the table here, and every later slot moves by one.
 constexpr std::size_t entryOf(std::size_t slot) { return slot == 0 ? 0 : slot + 1; }
 

@@ -21,8 +21,8 @@ class PortHost {
   void giveJobText(const char* text) { jobValues.insert(name, {{}, text}); }
 
   bool setInput(const Orvel::Type& type, bool isJobPort = false, const Any& defaultValue = {});
-  bool reportAny(const Any& value);
-  bool reportValue(const Orvel::Value& value);
+  bool reportAny(const Any& reported);
+  bool reportValue(const Orvel::Value& reported);
 
   /// Every message so far as "level text", with "foreign " in front when it isn't this side's.
   std::vector<std::string> messages() const;

@@ -25,7 +25,7 @@ void timeIsBuilt(Session& session) {
     host.giveText("7");
     host.giveJobText("7");
     expect(host.setInput(Orvel::typeOf<Time>(), isJobPort), "the answer is true");
-    const Time* time = anyCast<Time>(&host.value);
+    const auto* time = anyCast<Time>(&host.value);
     expect(time != nullptr, "the result holds a Simulation::Time");
     expect(time->mode == 1 && time->time == 0.5 && time->frame == 1 && time->frameLength == 0.5,
            "the record has mode 1 and what the context says");
@@ -82,7 +82,7 @@ constexpr SceneRow sceneRows[]{
 };
 
 void expectScene(const Any& value, const SceneRow& row, const char* secondary) {
-  const SceneInfo* scene = anyCast<SceneInfo>(&value);
+  const auto* scene = anyCast<SceneInfo>(&value);
   expect(scene != nullptr, "the result holds a File::Project::SceneInfo");
   expectText("file name", scene->fileName.c_str(), row.fileName);
   expectText("directory", scene->directory.c_str(), row.directory);

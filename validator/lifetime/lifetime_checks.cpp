@@ -43,8 +43,8 @@ void loadsWithoutUse(Session& session) {
 }
 
 void manyObjects(Session& session) {
-  std::vector<std::unique_ptr<PortHost>> hosts;
-  for (int i = 0; i < 1000; ++i) hosts.push_back(std::make_unique<PortHost>(session));
+  std::vector<std::unique_ptr<PortHost>> hosts(1000);
+  for (auto& host : hosts) host = std::make_unique<PortHost>(session);
   for (std::size_t i = 0; i < hosts.size(); ++i) {
     const std::string text = std::to_string(i);
     hosts[i]->giveText(text.c_str());
@@ -111,6 +111,7 @@ void refusalsLeaveNoTrace(Session& session) {
 
 void hostWordsAreNotRead(Session& session) {
   PortHost host(session);
+  // NOLINTNEXTLINE(performance-no-int-to-ptr): nothing is there
   auto* const noAddress = reinterpret_cast<void*>(std::uintptr_t{1});
   InputValueData input{noAddress, &host.name, false, {}, &host.context};
   expect(host.translation->setInputValue(Orvel::typeOf<bool>(), host.value, &input),

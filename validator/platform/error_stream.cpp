@@ -12,20 +12,20 @@ constexpr int errorDescriptor = 2;
 
 CaughtErrors::CaughtErrors() : file_(temporaryFile()) {
   if (file_ == nullptr) throw Skipped("no temporary file can be made");
-  std::fflush(stderr);
+  static_cast<void>(std::fflush(stderr));
   kept_ = duplicate(errorDescriptor);
   redirect(descriptorOf(file_), errorDescriptor);
 }
 
 CaughtErrors::~CaughtErrors() {
-  std::fflush(stderr);
+  static_cast<void>(std::fflush(stderr));
   redirect(kept_, errorDescriptor);
   closeDescriptor(kept_);
-  std::fclose(file_);
+  static_cast<void>(std::fclose(file_));
 }
 
 std::string CaughtErrors::text() const {
-  std::fflush(stderr);
+  static_cast<void>(std::fflush(stderr));
   std::rewind(file_);
   std::string text;
   for (int byte = std::fgetc(file_); byte != EOF; byte = std::fgetc(file_)) {

@@ -47,7 +47,7 @@ Result resultOf(const EndedChild& child) {
   const json line = lastLine(child.output);
   if (!line.is_object()) return {Outcome::crashed, "the process ended without a result"};
   const std::string name = line.value("result", "");
-  const auto known = std::find(outcomeNames.begin(), outcomeNames.end(), name);
+  const auto* const known = std::find(outcomeNames.begin(), outcomeNames.end(), name);
   if (known == outcomeNames.end()) return {Outcome::failed, line.value("note", "")};
   return {static_cast<Outcome>(known - outcomeNames.begin()), line.value("note", "")};
 }
