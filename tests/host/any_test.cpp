@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "support/type_samples.h"
+#include "support/watched_array.h"
 #include "vtlcmd/host/value_types.h"
 
 namespace vtlcmd {
@@ -122,6 +123,42 @@ TYPED_TEST(AnyOfRegisteredType, CastWantsTheExactTypeAndRank) {
   forEachRow(registeredTypes, [&]<typename T>(const RegisteredType<T>&) {
     EXPECT_EQ(anyCast<T>(&single) != nullptr, (std::is_same_v<T, TypeParam>));
   });
+}
+
+TYPED_TEST(AnyOfRegisteredType, CopiesAndMovesOfAnArrayOfAnyRankCountItsUses) {
+  const auto useAndEnd = [](const auto& array) {
+    const std::uint64_t one = Orvel::useCount(array);
+    const auto expectUses = [&](std::uint64_t uses) {
+      EXPECT_EQ(Orvel::useCount(array), one * uses);
+    };
+    const Any any = makeAny(array);
+    expectUses(2);
+    Any copy = any;
+    expectUses(3);
+    Any moved = std::move(copy);
+    expectUses(3);
+    expectHolds(moved, array);
+    moved = Any{};
+    expectUses(2);
+  };
+  const auto value = sampleValue<TypeParam>(0);
+  testing::expectUsesGivenBack(value, useAndEnd);
+  testing::expectUsesGivenBack(testing::nestedArray<TypeParam, 1>(value), useAndEnd);
+  testing::expectUsesGivenBack(testing::nestedArray<TypeParam, 2>(value), useAndEnd);
+}
+
+TEST(Any, CopiesOfAnObjectCountItsUses) {
+  const ObjectPtr object = Vantrel::createObject();
+  testing::WatchedBlock block;
+  for (Orvel::Internal::ControlBlock* control :
+       {&block, static_cast<testing::WatchedBlock*>(nullptr)}) {
+    const ObjectPtr pointer(object.get(), control);
+    const Any any = makeAny(pointer);
+    const Any copy = any;
+    expectHolds(copy, pointer);
+    EXPECT_EQ(Orvel::useCount(pointer), control == nullptr ? 0U : 3U);
+  }
+  EXPECT_EQ(block.ends, 1);
 }
 
 TYPED_TEST(AnyOfRegisteredType, CopyOfAnArraySharesIt) {

@@ -65,6 +65,7 @@ TEST(SameType, UniqueTagsEqualThemselvesAlone) {
   TypeInfo b = a;
   a.unique = 1;
   EXPECT_TRUE(sameType(a, b)) << "one unique tag alone goes by content";
+  EXPECT_TRUE(sameType(b, a));
   b.unique = 1;
   EXPECT_FALSE(sameType(a, b));
   EXPECT_TRUE(sameType(a, a));

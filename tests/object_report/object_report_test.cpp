@@ -8,7 +8,9 @@
 
 #include "support/built_text.h"
 #include "support/scoped_locale.h"
+#include "support/text_room.h"
 #include "support/type_samples.h"
+#include "support/watched_array.h"
 #include "vtlcmd/host/imports/vantrel_geometry.h"
 #include "vtlcmd/host/value_types.h"
 #include "vtlcmd/output/statistics/array_statistics.h"
@@ -179,6 +181,44 @@ TEST(DataPropertyOfNoType, IsAskedForEachElementTypeInTheOrderOfThePlaces) {
   EXPECT_EQ(text.text(), "");
 }
 
+TEST_F(ObjectReport, GivesBackWhatItUses) {
+  addComponent("pieces", 3);
+  addData<float>("weight", {1});
+  const auto components = Vantrel::Geometry::getComponentGeoPropPrototype();
+  const auto data =
+      Vantrel::Geometry::getDataGeoPropPrototype(Vantrel::Geometry::sGenericDataGeoProp);
+  const auto property = Vantrel::Geometry::getDataGeoProperty(*object_, view("weight"));
+  const std::vector<std::uint64_t> before{Orvel::useCount(components), Orvel::useCount(data),
+                                          Orvel::useCount(property)};
+  report();
+  EXPECT_EQ((std::vector<std::uint64_t>{Orvel::useCount(components), Orvel::useCount(data),
+                                        Orvel::useCount(property)}),
+            before);
+}
+
+TEST_F(ObjectReport, UsesOfAnyAndOfValueAreGivenBack) {
+  for (const bool counted : {true, false}) {
+    testing::WatchedBlock block;
+    {
+      const ObjectPtr object(object_.get(), counted ? &block : nullptr);
+      EXPECT_EQ(reportFromAny(makeAny(object)), "{\n}");
+      EXPECT_EQ(reportFromValue(Orvel::makeValue(object)), "{\n}");
+      EXPECT_EQ(block.useCount, 1U);
+      EXPECT_EQ(block.ends, 0);
+    }
+    EXPECT_EQ(block.ends, counted ? 1 : 0);
+  }
+}
+
+TEST_F(ObjectReport, AnyRoomWillDo) {
+  addComponent("pieces", 3);
+  addComponent("faces", 4);
+  addData<float>("weight", {1});
+  addData<Orvel::String>("label", {"a"});
+  testing::expectAnyRoomWillDo([&](TextBuilder& text) { objectReport(text, object_); });
+  testing::expectAnyRoomWillDo([](TextBuilder& text) { objectReport(text, {}); });
+}
+
 template <typename T>
 class DataProperty : public ::testing::Test {
  protected:
@@ -222,6 +262,18 @@ TYPED_TEST(DataProperty, IsSummarisedUnsupportedOrPassedOverByItsElementType) {
   } else {
     EXPECT_FALSE(printed);
     EXPECT_EQ(text, "  p: {non supported Data Geo Property}\n");
+  }
+}
+
+TYPED_TEST(DataProperty, GivesUsesOfItsArrayBack) {
+  testing::expectUsesGivenBack(
+      TypeParam{}, [&](const StoredArray<TypeParam, 1>& array) { this->print(makeAny(array)); });
+}
+
+TYPED_TEST(DataProperty, AnyRoomWillDo) {
+  for (const Any& any :
+       {makeAny(arrayOf<TypeParam>({TypeParam{}})), makeAny(arrayOf<TypeParam>({}))}) {
+    testing::expectAnyRoomWillDo([&](TextBuilder& text) { printDataProperty(any, text, "p"); });
   }
 }
 

@@ -6,7 +6,9 @@
 
 #include "support/allocation_count.h"
 #include "support/built_text.h"
+#include "support/text_room.h"
 #include "support/type_samples.h"
+#include "support/watched_array.h"
 #include "vtlcmd/stand_in/type_factory.h"
 #include "vtlcmd/stand_in/value_factory.h"
 
@@ -190,6 +192,69 @@ TYPED_TEST(ArrayPrinters, ArraysAreSharedNotCopied) {
     EXPECT_EQ(row->data, data);
   }
   EXPECT_EQ(Orvel::useCount(row), 1U);
+}
+
+/// Of an array at a rank around `element`, printed both ways, with and without a limit.
+template <typename T, std::uint32_t Rank>
+void expectPrintingGivesUsesBack(const StoredArray<T, Rank - 1>& element) {
+  testing::expectUsesGivenBack(element, [](const StoredArray<T, Rank>& array) {
+    for (const std::uint32_t limit : {0U, 10U}) {
+      print<T, Rank>(array, limit);
+      printValue<T>(Orvel::makeValue(array), Rank, limit);
+    }
+  });
+}
+
+TYPED_TEST(ArrayPrinters, UsesOfArraysOfAnyRankAreGivenBack) {
+  using T = TypeParam;
+  for (const bool counted : {true, false}) {
+    testing::WatchedArray<T> row;
+    row.array.append(this->five_[0]);
+    testing::WatchedArray<StoredArray<T, 1>> rows;
+    rows.array.append(row.shared(counted));
+    expectPrintingGivesUsesBack<T, 1>(this->five_[0]);
+    expectPrintingGivesUsesBack<T, 2>(rows.array[0]);
+    expectPrintingGivesUsesBack<T, 3>(rows.shared(counted));
+    EXPECT_EQ(row.block.useCount, 1U);
+    EXPECT_EQ(row.block.ends, 0);
+    EXPECT_EQ(rows.block.ends, counted ? 1 : 0);
+  }
+}
+
+TEST(ArrayPrinter, UsesOfListedObjectsAreGivenBack) {
+  const ObjectPtr object = Vantrel::createObject();
+  testing::WatchedBlock block;
+  {
+    const auto array = arrayOf<ObjectPtr>({{object.get(), &block}, {object.get(), nullptr}});
+    EXPECT_EQ(block.ends, 0);
+    const std::string expected = list(note(2, 2, "Object"), "{\n},\n{\n}");
+    EXPECT_EQ((print<ObjectPtr, 1>(array, 10)), expected);
+    EXPECT_EQ(printValue<ObjectPtr>(Orvel::makeValue(array), 1, 10), expected);
+    EXPECT_EQ(block.useCount, 1U);
+    EXPECT_EQ(block.ends, 0);
+  }
+  EXPECT_EQ(block.ends, 1);
+}
+
+TYPED_TEST(ArrayPrinters, AnyRoomWillDo) {
+  using T = TypeParam;
+  const auto row = arrayOf<T>({this->five_[0], this->five_[1]});
+  const auto rows = arrayOf<StoredArray<T, 1>>({row, arrayOf<T>({})});
+  const auto cube = arrayOf<StoredArray<T, 2>>({rows, arrayOf<StoredArray<T, 1>>({})});
+  const auto expectBoth = [&]<std::uint32_t Rank>(const StoredArray<T, Rank>& array,
+                                                  std::integral_constant<std::uint32_t, Rank>) {
+    VtlCmdLogger logger(10);
+    const Any any = makeAny(array);
+    const Orvel::Value value = Orvel::makeValue(array);
+    testing::expectAnyRoomWillDo(
+        [&](TextBuilder& text) { printArray<T, Rank>(text, &any, &logger); });
+    testing::expectAnyRoomWillDo(
+        [&](TextBuilder& text) { printArrayValue<T>(text, value, Rank, &logger); });
+  };
+  expectBoth(arrayOf<T>({}), std::integral_constant<std::uint32_t, 1>{});
+  expectBoth(row, std::integral_constant<std::uint32_t, 1>{});
+  expectBoth(rows, std::integral_constant<std::uint32_t, 2>{});
+  expectBoth(cube, std::integral_constant<std::uint32_t, 3>{});
 }
 
 TYPED_TEST(ArrayPrinters, DepthZeroIsTheSingleValuesText) {

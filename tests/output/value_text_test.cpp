@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "support/built_text.h"
+#include "support/text_room.h"
 #include "support/type_samples.h"
 #include "vtlcmd/stand_in/make_string.h"
 #include "vtlcmd/stand_in/type_factory.h"
@@ -45,6 +46,16 @@ TYPED_TEST(ValueText, ReadsAlikeFromAnyAndFromValue) {
     EXPECT_EQ(textOfAny<TypeParam>(&any), report);
     EXPECT_EQ(textOfValue<TypeParam>(Orvel::makeValue(value)), report);
   }
+}
+
+TYPED_TEST(ValueText, AnyRoomWillDo) {
+  const auto value = sampleValue<TypeParam>(0);
+  const Any any = makeAny(value);
+  const Orvel::Value libraryValue = Orvel::makeValue(value);
+  testing::expectAnyRoomWillDo([&](TextBuilder& text) { anyToText<TypeParam>(text, &any); });
+  testing::expectAnyRoomWillDo([](TextBuilder& text) { anyToText<TypeParam>(text, nullptr); });
+  testing::expectAnyRoomWillDo(
+      [&](TextBuilder& text) { valueToText<TypeParam>(text, libraryValue); });
 }
 
 TYPED_TEST(ValueText, WithoutAValueTheZeroStandsIn) {
