@@ -243,6 +243,40 @@ TEST(Any, ATagOfTheSameTextAtAnotherAddressCasts) {
   EXPECT_EQ(any_operations::cast(any, typeTag<std::uint32_t, 0>), nullptr);
 }
 
+/// A held value is found by what its tag says, not by where the tag is, and by nothing else.
+template <typename T>
+void expectCastGoesByContent(const T& value) {
+  const Any any = makeAny(value);
+  const void* address = any_operations::address(any);
+  const Orvel::Internal::TypeInfo& own = tagOf<T>();
+  const std::string spelling(own.name, own.length);
+  const auto castTo = [&](const std::string& name, int kind, std::uint32_t rank) {
+    const auto tag = makeTag(name, static_cast<std::uint8_t>(kind), rank);
+    return any_operations::cast(any, tag);
+  };
+  EXPECT_EQ(any_operations::cast(any, own), address);
+  EXPECT_EQ(castTo(spelling, own.kind, own.rank), address);
+  EXPECT_EQ(castTo(spelling, own.kind + 1, own.rank), nullptr);
+  EXPECT_EQ(castTo(spelling, own.kind, own.rank + 1), nullptr);
+  EXPECT_EQ(castTo(spelling + "@", own.kind, own.rank), nullptr);
+  EXPECT_EQ(castTo(spelling.substr(1), own.kind, own.rank), nullptr);
+  EXPECT_EQ(castTo("$" + spelling.substr(1), own.kind, own.rank), nullptr);
+  EXPECT_EQ(castTo("", own.kind, own.rank), nullptr);
+  auto unique = makeTag(spelling, own.kind, own.rank);
+  unique.unique = 1;
+  EXPECT_EQ(any_operations::cast(any, unique), address);
+}
+
+TYPED_TEST(AnyOfRegisteredType, CastGoesByWhatTheTagSays) {
+  expectCastGoesByContent(sampleValue<TypeParam>(0));
+  expectCastGoesByContent(testing::nestedArray<TypeParam, 1>(sampleValue<TypeParam>(0)));
+}
+
+TEST(Any, CastOfARecordGoesByWhatTheTagSays) {
+  expectCastGoesByContent(Vantrel::Simulation::Time{});
+  expectCastGoesByContent(Vantrel::File::Project::SceneInfo{});
+}
+
 TEST(Any, AForeignTypeTravelsWithItsOwnManager) {
   struct Foreign {
     double numbers[5];

@@ -6,6 +6,7 @@
 #include <tuple>
 #include <vector>
 
+#include "support/allocation_count.h"
 #include "support/built_text.h"
 #include "support/scoped_locale.h"
 #include "support/text_room.h"
@@ -209,6 +210,17 @@ TEST_F(ObjectReport, UsesOfAnyAndOfValueAreGivenBack) {
     EXPECT_EQ(block.ends, counted ? 1 : 0);
   }
 }
+
+#ifndef _WIN32
+// There each library has allocation functions of its own, and only the program's are counted.
+TEST_F(ObjectReport, NothingStaysInUseBehindIt) {
+  EXPECT_EQ(testing::blocksLeftBy([&] { report(); }), 0);
+  addComponent("pieces", 3);
+  EXPECT_EQ(testing::blocksLeftBy([&] { report(); }), 0);
+  addData<float>("a property whose name takes memory of its own", {1});
+  EXPECT_EQ(testing::blocksLeftBy([&] { report(); }), 0);
+}
+#endif
 
 TEST_F(ObjectReport, AnyRoomWillDo) {
   addComponent("pieces", 3);

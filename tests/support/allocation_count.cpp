@@ -35,3 +35,23 @@ void operator delete(void* block) noexcept {
   std::free(block);
 }
 void operator delete(void* block, std::size_t) noexcept { operator delete(block); }
+
+#ifndef _WIN32  // where another function ends them
+// The blocks of arrays. One that isn't there may not be given back.
+void* operator new(std::size_t size, std::align_val_t alignment) {
+  const auto aligned = static_cast<std::size_t>(alignment);
+  if (void* block = std::aligned_alloc(aligned, (size + aligned - 1) / aligned * aligned)) {
+    ++inUse;
+    return block;
+  }
+  throw std::bad_alloc();
+}
+
+void operator delete(void* block, std::align_val_t) noexcept {
+  --inUse;
+  std::free(block);
+}
+void operator delete(void* block, std::size_t, std::align_val_t alignment) noexcept {
+  operator delete(block, alignment);
+}
+#endif

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 #include <limits>
 
+#include "support/allocation_count.h"
 #include "support/given_table.h"
 #include "support/test_host.h"
 #include "support/type_samples.h"
@@ -177,6 +178,29 @@ TEST_F(InputDispatch, OldValueEndsOnlyWhenItIsReplaced) {
   host_.context.frameLength = 1;
   EXPECT_TRUE(host_.setInput(Orvel::typeOf<Time>(), value, "time"));
   EXPECT_EQ(Orvel::useCount(array), 1U);
+}
+
+TEST_F(InputDispatch, RecordsReplaceWhateverTheResultHeld) {
+  host_.context.sceneFile = L"/a directory whose name takes memory of its own/scene.vs";
+  for (const Orvel::Type& type : {Orvel::typeOf<Time>(), Orvel::typeOf<SceneInfo>()}) {
+    const auto array = testing::nestedArray<float, 1>(1.0F);
+    const auto set = [&](Any value) {
+      EXPECT_TRUE(host_.setInput(type, value, "record"));
+      EXPECT_NE(anyCast<Time>(&value) == nullptr, anyCast<SceneInfo>(&value) == nullptr);
+    };
+    const auto setEach = [&] {
+      set(Any{});
+      set(makeAny(array));
+      set(makeAny(Math::double4{}));
+      host_.logger.messages.clear();
+    };
+    setEach();
+    EXPECT_EQ(Orvel::useCount(array), 1U);
+#ifndef _WIN32
+    // There each library has allocation functions of its own, and only the program's are counted.
+    EXPECT_EQ(testing::blocksLeftBy(setEach), 0);
+#endif
+  }
 }
 
 TEST_F(InputDispatch, NullDataIsToldOnTheErrorStreamAlone) {

@@ -1,6 +1,7 @@
 #include <array>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <string>
 
 #include "support/given_table.h"
 #include "support/test_host.h"
@@ -45,6 +46,38 @@ TEST_F(OutputDispatch, RowsWithoutReporterAreAsNoRows) {
               ElementsAre("progress Output port 'n' [int]",
                           "warning The TypeTranslation does not support getting a value of type "
                           "'int' for the Terminal output named 'n'."));
+}
+
+/// Of an Any that says it holds something of this tag.
+const Orvel::Internal::TypeInfo* saidTag;
+void sayTag(AnyOpArgs* args) {
+  if (args->op == AnyOp::destroy) args->self->manager = nullptr;
+  if (args->op == AnyOp::type) args->other = const_cast<Orvel::Internal::TypeInfo*>(saidTag);
+}
+
+TEST_F(OutputDispatch, TagsThatAreNearlyThoseOfTheTableAreNotInIt) {
+  Any any;
+  any.manager = &sayTag;
+  forEachRow(registeredTypes, [&](const auto& row) {
+    const std::string spelling(row.tagSpelling);
+    const std::string start = spelling.substr(0, spelling.size() - 1);
+    for (const std::string& near : {spelling + "@", start, start + "$", start + "\x80"}) {
+      for (std::uint32_t rank = 0; rank < registeredRanks; ++rank) {
+        const auto tag = makeTag(near, row.tagKind, rank);
+        saidTag = &tag;
+        EXPECT_FALSE(host_.getAny(any, "p")) << near;
+      }
+    }
+    for (const int kind : {row.tagKind + 1, 0xFF}) {
+      const auto tag = makeTag(spelling, static_cast<std::uint8_t>(kind), 0);
+      saidTag = &tag;
+      EXPECT_FALSE(host_.getAny(any, "p")) << spelling;
+    }
+    const auto tag = makeTag(spelling, row.tagKind, registeredRanks);
+    saidTag = &tag;
+    EXPECT_FALSE(host_.getAny(any, "p")) << spelling;
+  });
+  EXPECT_THAT(host_.messages(), IsEmpty());
 }
 
 TEST_F(OutputDispatch, UnsupportedArrayIsNamedWholeThenByItsElement) {

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "support/allocation_count.h"
 #include "support/type_samples.h"
 #include "vtlcmd/translation/entry.h"
 
@@ -46,6 +47,19 @@ TEST(VtlCmdTypeTranslation, AppendsBehindWhatTheArrayHeld) {
   expected.insert(expected.end(), supported.begin(), supported.end());
   EXPECT_EQ(textsOf(names), expected);
 }
+
+#ifndef _WIN32
+// There each library has allocation functions of its own, and only the program's are counted.
+TEST(VtlCmdTypeTranslation, NothingStaysInUseBehindItsNames) {
+  const VtlCmdTypeTranslation translation;
+  EXPECT_EQ(testing::blocksLeftBy([&] {
+              Orvel::Array<Orvel::String> names;
+              translation.getSupportedTypeNames(names);
+              translation.getSupportedTypeNames(names);
+            }),
+            0);
+}
+#endif
 
 /// The one member that the class adds stands behind what its bases hold.
 const HandlerTable* handlersOf(const TypeTranslation* object) {
