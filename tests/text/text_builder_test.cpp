@@ -45,14 +45,6 @@ TEST(TextBuilder, TextSoFarCanBeReadBetweenPieces) {
   EXPECT_EQ(text.text(), expected);
 }
 
-TEST(TextBuilder, LongestNumbersFitBehindAFullText) {
-  for (std::size_t room = 0; room < 64; ++room) {
-    TextBuilder text(room);
-    text << std::string(room, 'x') << std::numeric_limits<std::uint64_t>::max();
-    EXPECT_EQ(text.text(), std::string(room, 'x') + "18446744073709551615");
-  }
-}
-
 TEST(TextBuilder, IntegersReadInFullAndBoolsAsDigits) {
   EXPECT_EQ(read(true), "1");
   EXPECT_EQ(read(false), "0");
@@ -167,6 +159,19 @@ TYPED_TEST(TextBuilderOf, ALocaleSetBehindTheFirstNumberDoesNotApply) {
   this->setMarks();
   text << TypeParam{1};
   EXPECT_EQ(text.text(), "11");
+}
+
+TYPED_TEST(TextBuilderOf, LongNumbersFitBehindAFullText) {
+  constexpr TypeParam longest = std::numeric_limits<TypeParam>::lowest() < 0
+                                    ? std::numeric_limits<TypeParam>::lowest()
+                                    : std::numeric_limits<TypeParam>::max();
+  for (std::size_t length = 0; length < 64; ++length) {
+    for (std::size_t room = length; room < length + 24; ++room) {
+      TextBuilder text(room);
+      text << std::string(length, 'x') << longest << "y" << longest;
+      EXPECT_EQ(text.text(), std::string(length, 'x') + read(longest) + "y" + read(longest));
+    }
+  }
 }
 
 TYPED_TEST(TextBuilderOf, NumbersTakeNoMemoryWhereThereIsRoom) {
