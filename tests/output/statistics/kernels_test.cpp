@@ -196,6 +196,21 @@ TYPED_TEST(FloatingKernels, KeepTheFirstOfTwoZerosAtEveryPairOfPositions) {
   }
 }
 
+TYPED_TEST(FloatingKernels, TakeNoNanForTheFirstZero) {
+  constexpr std::size_t length = 26;
+  constexpr std::size_t parts = Parts<TypeParam>::count;
+  for (const Number<TypeParam> rest : {Number<TypeParam>{1}, Number<TypeParam>{-1}}) {
+    for (std::size_t zero = 1; zero < length; ++zero) {
+      std::vector<Number<TypeParam>> numbers(length * parts, rest);
+      for (std::size_t part = 0; part < parts; ++part) {
+        for (std::size_t i = 1; i < zero; ++i) numbers[i * parts + part] = nans<TypeParam>()[0];
+        numbers[zero * parts + part] = 0;
+      }
+      ASSERT_TRUE(agree<TypeParam>(numbers)) << "position " << zero;
+    }
+  }
+}
+
 TYPED_TEST(FloatingKernels, KeepTheFirstOfTwoZerosInBlocksOfTheirOwn) {
   constexpr std::size_t parts = Parts<TypeParam>::count;
   const Number<TypeParam> zero = 0;
