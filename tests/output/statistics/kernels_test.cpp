@@ -5,6 +5,7 @@
 #include <limits>
 #include <random>
 #include <string>
+#include <utility>
 
 #include "output/statistics/plain_totals.h"
 #include "support/type_samples.h"
@@ -67,6 +68,23 @@ TYPED_TEST(Kernels, AgreeAtEveryAlignment) {
   const auto numbers = anyNumbers<TypeParam>(random, stepAndRest<TypeParam>);
   for (std::size_t offset = 1; offset < 64 / sizeof(Number<TypeParam>); ++offset)
     ASSERT_TRUE(agree<TypeParam>(numbers, offset));
+}
+
+TYPED_TEST(Kernels, LeaveOutWhatIsBehindTheElements) {
+  using Limits = std::numeric_limits<Number<TypeParam>>;
+  constexpr std::size_t parts = Parts<TypeParam>::count;
+  for (const Number<TypeParam> behind : {Limits::lowest(), Limits::max()}) {
+    for (std::size_t length = 1; length <= stepAndRest<TypeParam>; ++length) {
+      std::vector<Number<TypeParam>> numbers(length * parts, 1);
+      const auto expected = testing::plainTotals<TypeParam>(numbers);
+      numbers.insert(numbers.end(), 64, behind);
+      const auto* elements = reinterpret_cast<const TypeParam*>(numbers.data());
+      for (const KernelRow& row : runnableKernels()) {
+        const auto totals = std::get<statistics::Kernel<TypeParam>>(*row.kernels)(elements, length);
+        ASSERT_TRUE(testing::sameBits<TypeParam>(totals, expected)) << row.name << ", " << length;
+      }
+    }
+  }
 }
 
 /// Where blocks begin and end: bools are counted in blocks of up to 255 times 256, floats in blocks
@@ -153,14 +171,38 @@ TYPED_TEST(FloatingKernels, AgreeOnNanAtEveryPosition) {
 TYPED_TEST(FloatingKernels, AgreeOnWhichOfTwoNansStays) {
   const auto kinds = nans<TypeParam>();
   constexpr std::size_t length = 26;
+  constexpr std::size_t parts = Parts<TypeParam>::count;
   for (std::size_t i = 0; i < length; ++i) {
     for (std::size_t k = 0; k < length; ++k) {
-      std::vector<Number<TypeParam>> numbers(length * Parts<TypeParam>::count, 1);
-      std::memcpy(&numbers[i * Parts<TypeParam>::count], &kinds[i % kinds.size()],
-                  sizeof numbers[0]);
-      std::memcpy(&numbers[k * Parts<TypeParam>::count], &kinds[(k + 1) % kinds.size()],
-                  sizeof numbers[0]);
+      std::vector<Number<TypeParam>> numbers(length * parts, 1);
+      for (std::size_t part = 0; part < parts; ++part) {
+        std::memcpy(&numbers[i * parts + part], &kinds[(i + part) % kinds.size()],
+                    sizeof numbers[0]);
+        std::memcpy(&numbers[k * parts + part], &kinds[(k + part + 1) % kinds.size()],
+                    sizeof numbers[0]);
+      }
       ASSERT_TRUE(agree<TypeParam>(numbers)) << "positions " << i << " and " << k;
+    }
+  }
+}
+
+TYPED_TEST(FloatingKernels, FindTheLeastAndTheGreatestWhereSumsAreNans) {
+  using Limits = std::numeric_limits<Number<TypeParam>>;
+  constexpr std::size_t parts = Parts<TypeParam>::count;
+  // One element, two or one vectors, and a rest, whichever vectors a kernel has.
+  constexpr std::size_t length = 12;
+  for (std::size_t components = 1; components < 1U << parts; ++components) {
+    for (const std::size_t position : Positions{1, 9}) {
+      std::vector<Number<TypeParam>> numbers(length * parts, 1);
+      for (std::size_t part = 0; part < parts; ++part)
+        if ((components >> part & 1U) != 0) numbers[position * parts + part] = Limits::quiet_NaN();
+      for (Number<TypeParam>& number : numbers) {
+        for (const Number<TypeParam> extreme : {Limits::lowest(), Limits::max()}) {
+          const Number<TypeParam> before = std::exchange(number, extreme);
+          ASSERT_TRUE(agree<TypeParam>(numbers)) << "position " << &number - numbers.data();
+          number = before;
+        }
+      }
     }
   }
 }
