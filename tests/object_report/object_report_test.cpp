@@ -1,6 +1,7 @@
 #include "vtlcmd/object_report/object_report.h"
 
 #include <gtest/gtest.h>
+#include <new>
 #include <map>
 #include <string>
 #include <tuple>
@@ -219,6 +220,32 @@ TEST_F(ObjectReport, NothingStaysInUseBehindIt) {
   EXPECT_EQ(testing::blocksLeftBy([&] { report(); }), 0);
   addData<float>("a property whose name takes memory of its own", {1});
   EXPECT_EQ(testing::blocksLeftBy([&] { report(); }), 0);
+}
+
+TEST_F(ObjectReport, NothingStaysInUseWhicheverAllocationFails) {
+  addComponent("pieces", 3);
+  addData<float>("a property whose name takes memory of its own", {1});
+  const auto property = Vantrel::Geometry::getDataGeoProperty(
+      *object_, view("a property whose name takes memory of its own"));
+  const auto uses = Orvel::useCount(property);
+  bool failed = true;
+  for (std::size_t successes = 0; failed; ++successes) {
+    const std::ptrdiff_t before = testing::blocksInUse();
+    std::size_t left = successes;
+    testing::watchAllocations(
+        [](void* counted) {
+          if ((*static_cast<std::size_t*>(counted))-- == 0) throw std::bad_alloc();
+        },
+        &left);
+    try {
+      report();
+      failed = false;
+    } catch (const std::bad_alloc&) {
+    }
+    testing::watchAllocations(nullptr, nullptr);
+    EXPECT_EQ(testing::blocksInUse(), before) << "after " << successes;
+    EXPECT_EQ(Orvel::useCount(property), uses) << "after " << successes;
+  }
 }
 #endif
 
