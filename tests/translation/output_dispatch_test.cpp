@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <string>
+#include <string_view>
 
 #include "support/given_table.h"
 #include "support/test_host.h"
@@ -78,6 +79,20 @@ TEST_F(OutputDispatch, TagsThatAreNearlyThoseOfTheTableAreNotInIt) {
     EXPECT_FALSE(host_.getAny(any, "p")) << spelling;
   });
   EXPECT_THAT(host_.messages(), IsEmpty());
+}
+
+TEST_F(OutputDispatch, TagsAreReadByTheirLength) {
+  Any any;
+  any.manager = &sayTag;
+  forEachRow(registeredTypes, [&](const auto& row) {
+    for (const char* behind : {"$", "z"}) {
+      const std::string longer = std::string(row.tagSpelling) + behind;
+      const auto tag =
+          makeTag(std::string_view(longer).substr(0, row.tagSpelling.size()), row.tagKind, 0);
+      saidTag = &tag;
+      EXPECT_TRUE(host_.getAny(any, "p")) << longer;
+    }
+  });
 }
 
 TEST_F(OutputDispatch, UnsupportedArrayIsNamedWholeThenByItsElement) {
