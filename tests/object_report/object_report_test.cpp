@@ -1,8 +1,8 @@
 #include "vtlcmd/object_report/object_report.h"
 
 #include <gtest/gtest.h>
-#include <new>
 #include <map>
+#include <new>
 #include <string>
 #include <tuple>
 #include <vector>
