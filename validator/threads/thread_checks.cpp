@@ -51,7 +51,8 @@ void loggersAreApart(Session& session) {
       expect(host.reportAny(host.value), "the output is reported");
       expectText("line", host.lastText(), "Output port 'port': (int) " + text);
     }
-    expect(host.logger.messages.size() == 2 * rounds, "the logger has this thread's messages");
+    expect(host.logger.messages.size() == std::size_t{2} * rounds,
+           "the logger has this thread's messages");
   });
 }
 
