@@ -85,9 +85,9 @@ TYPED_TEST(SetVectorFromString, EveryScalarLimitHoldsForEachComponent) {
         ElementsAre("error P: Unable to convert '" + std::string(piece) + this->componentEnd()));
   }
   for (const char* piece : {"1e39", "1e-40", "3.4028235e+38"}) {
-    const bool isFloat = std::is_same_v<typename TypeParam::ComponentType, float>;
-    EXPECT_EQ(this->set(this->repeat(piece, this->count)).size(), isFloat ? this->count : 0U);
-    EXPECT_EQ(this->value_.holdsValue(), !isFloat);
+    const bool isDouble = std::is_same_v<typename TypeParam::ComponentType, double>;
+    EXPECT_EQ(this->set(this->repeat(piece, this->count)).size(), isDouble ? 0U : this->count);
+    EXPECT_EQ(this->value_.holdsValue(), isDouble);
   }
 }
 
