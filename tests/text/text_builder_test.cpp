@@ -174,6 +174,13 @@ TYPED_TEST(TextBuilderOf, LongNumbersFitBehindAFullText) {
   }
 }
 
+TYPED_TEST(TextBuilderOf, RoomThatIsEnoughStaysUnderALocaleToo) {
+  this->setMarks();
+  TextBuilder text(100);
+  text << TypeParam{1} << TypeParam{1};
+  EXPECT_LT(text.text().capacity(), 200U);
+}
+
 TYPED_TEST(TextBuilderOf, NumbersTakeNoMemoryWhereThereIsRoom) {
   TextBuilder text(100);
   const std::size_t before = testing::allocationCount();

@@ -47,6 +47,7 @@ TEST(VtlCmdTypeTranslation, AppendsBehindWhatTheArrayHeld) {
   expected.insert(expected.end(), supported.begin(), supported.end());
   expected.insert(expected.end(), supported.begin(), supported.end());
   EXPECT_EQ(textsOf(names), expected);
+  EXPECT_EQ(names.capacity, 64U);
 }
 
 #ifndef _WIN32
