@@ -7,24 +7,6 @@ import assembly
 from equivalents import Place
 
 OUTCOMES = ("always", "never")
-# Code of a header is compiled into many functions. Of these headers every survivor is judged; mutants
-# of the others are tried only where they are asked for.
-JUDGED_HEADERS = {
-    "src/vtlcmd/input/from_string.h",
-    "src/vtlcmd/input/input_setter.h",
-    "src/vtlcmd/input/set_from_string.h",
-    "src/vtlcmd/output/array_printers.h",
-    "src/vtlcmd/output/array_text.h",
-    "src/vtlcmd/output/output_reporter.h",
-    "src/vtlcmd/output/statistics/array_statistics.h",
-    "src/vtlcmd/output/value_text.h",
-    "src/vtlcmd/text/joined.h",
-}
-
-
-def is_judged(file):
-    """Whether the list has an entry for whatever survives in there."""
-    return file.endswith(".cpp") or file in JUDGED_HEADERS
 
 
 @dataclass(frozen=True)

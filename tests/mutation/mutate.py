@@ -55,7 +55,7 @@ def arguments():
 
 
 def is_chosen(file, files):
-    return file in files if files else mutants.is_judged(file)
+    return not files or file in files
 
 
 def chosen(found, files, sample, seed):
@@ -66,8 +66,9 @@ def chosen(found, files, sample, seed):
 
 
 def trial(mutant, tests, limits, folder):
-    """The tests of the mutant's own folder come first, for they are likely to kill it."""
-    own_first = sorted(tests, key=lambda test: test.folder != mutant.folder)
+    """The tests of the mutant's own folder come first, for they are likely to kill it, then the quick
+    ones."""
+    own_first = sorted(tests, key=lambda test: (test.folder != mutant.folder, limits[test.folder]))
     return mutant, trials.try_mutant(mutant, own_first, limits, folder)
 
 
