@@ -1,4 +1,5 @@
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -6,6 +7,7 @@
 #include "checks/subjects.h"
 #include "host/plug_in.h"
 #include "host/session.h"
+#include "vtlcmd/host/value_types.h"
 
 namespace vtlcmd::validator {
 namespace {
@@ -19,23 +21,13 @@ std::vector<std::string> namesOf(const Translation& translation,
 }
 
 /// The registered names in the order of the table, then the records'.
-const std::vector<std::string> supportedNames{"Math::double2",
-                                              "Math::double3",
-                                              "Math::double4",
-                                              "Math::float2",
-                                              "Math::float3",
-                                              "Math::float4",
-                                              "Object",
-                                              "bool",
-                                              "double",
-                                              "float",
-                                              "int",
-                                              "long",
-                                              "string",
-                                              "uint",
-                                              "ulong",
-                                              "Simulation::Time",
-                                              "File::Project::SceneInfo"};
+const std::vector<std::string> supportedNames = [] {
+  std::vector<std::string> names;
+  forEachRow(registeredTypes, [&](const auto& row) { names.emplace_back(row.name); });
+  std::sort(names.begin(), names.end());
+  forEachRow(inputOnlyTypes, [&](const auto& row) { names.emplace_back(row.name); });
+  return names;
+}();
 
 void libraryLoads(Session& session) { session.plugIn(); }
 
