@@ -62,11 +62,11 @@ TEST_F(OutputDispatch, TagsThatAreNearlyThoseOfTheTableAreNotInIt) {
   forEachRow(registeredTypes, [&](const auto& row) {
     const std::string spelling(row.tagSpelling);
     const std::string start = spelling.substr(0, spelling.size() - 1);
-    for (const std::string& near : {spelling + "@", start, start + "$", start + "\x80"}) {
+    for (const std::string& similar : {spelling + "@", start, start + "$", start + "\x80"}) {
       for (std::uint32_t rank = 0; rank < registeredRanks; ++rank) {
-        const auto tag = makeTag(near, row.tagKind, rank);
+        const auto tag = makeTag(similar, row.tagKind, rank);
         saidTag = &tag;
-        EXPECT_FALSE(host_.getAny(any, "p")) << near;
+        EXPECT_FALSE(host_.getAny(any, "p")) << similar;
       }
     }
     for (const int kind : {row.tagKind + 1, 0xFF}) {
