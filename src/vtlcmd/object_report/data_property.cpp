@@ -36,20 +36,28 @@ consteval Row rowOf() {
   }
 }
 
-constexpr auto elementTypes = std::tuple_cat(registeredTypes, reportOnlyTypes);
+template <typename... Types>
+consteval std::size_t countPlaces(const std::tuple<Types...>& types) {
+  return (std::size_t{std::get<Types>(types).reportPlace != 0} + ...);
+}
 
-constexpr std::size_t rowCount = std::apply(
-    [](const auto&... type) { return (std::size_t{type.reportPlace != 0} + ...); }, elementTypes);
+constexpr auto elementTypes = std::tuple_cat(registeredTypes, reportOnlyTypes);
+using Rows = std::array<Row, countPlaces(elementTypes)>;
+
+template <typename Type>
+consteval void place(Rows& rows, const Type& type) {
+  if (type.reportPlace != 0) rows[type.reportPlace - 1] = rowOf<typename Type::Type>();
+}
+
+template <typename... Types>
+consteval Rows placed(const std::tuple<Types...>& types) {
+  Rows rows{};
+  (place(rows, std::get<Types>(types)), ...);
+  return rows;
+}
 
 /// In the order of the types' places, which is part of the report's form.
-constexpr std::array<Row, rowCount> rows = [] {
-  std::array<Row, rowCount> ordered{};
-  forEachRow(elementTypes, [&]<typename ListRow>(const ListRow& type) {
-    if (type.reportPlace == 0) return;
-    ordered[type.reportPlace - 1] = rowOf<typename ListRow::Type>();
-  });
-  return ordered;
-}();
+constexpr Rows rows = placed(elementTypes);
 
 // No two types have one place.
 static_assert(std::all_of(rows.begin(), rows.end(), [](const Row& row) { return row.tag; }));
