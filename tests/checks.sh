@@ -2,52 +2,52 @@
 # how they are run. What a check prints last is its figure in docs/quality.md. Each can be made alone,
 # so it builds what it needs.
 
-# name | claim; those of the second table belong to the long form.
+# name | the build that it uses | claim; those of the second table belong to the long form.
 short_checks=(
-  'format|sources have the format of the project'
-  'headers|each header compiles alone; those of hosts as C++20 and C++23 with both compilers'
-  'layouts|what crosses the border lies in memory as written down, on three ABIs'
-  'surface|the closed libraries export what they exported before'
-  'reference|the comments of what a host sees make a reference without a warning'
-  'mutants|a jump in the machine code of the plug-in that goes wrong fails a test'
-  'benchmarks|every row of the benchmarks runs'
-  'instructions|no operation takes 5 % more instructions than before'
-  'closed-libraries|the plug-in builds alone, against link libraries made of its list of imports'
-  'sanitizers|the tests make no wrong access, leak nothing and have no undefined behaviour'
-  'thread-sanitizer|objects, loggers and use counts in several threads have no data race'
-  'coverage|tests reach every line, branch and condition of the plug-in'
-  'lint|clang-tidy finds nothing in the plug-in'
-  'windows-lint|nor in the sources for Windows'
-  'shells|completion works in bash, zsh and fish'
-  'browser|a report page shows in a browser what it should, and runs nothing foreign'
-  'farm|a job on a cluster of two nodes survives the loss of one'
-  'manual|manual pages are well formed and name every option'
-  'packages|the packages install, work and leave nothing behind'
-  'part|another project can have the plug-in as a part'
-  'parsing|texts become the values that a model of the rules says'
-  'statistics|minimum, maximum and average are those of exact arithmetic'
-  'round-trip|floats printed with nine digits are read back the same'
-  'number-text|numbers read as the streams of C++ write them, in every rounding mode'
-  'texts-of-others|so do texts of other projects, and two more libraries agree'
-  'fuzzing|inputs made to break the plug-in are answered as a model says'
-  'windows|the tests pass on 64-bit Windows (Wine)'
-  'windows-package|the package for Windows works in an empty folder'
+  'format|none|sources have the format of the project'
+  'headers|none|each header compiles alone; those of hosts as C++20 and C++23 with both compilers'
+  'layouts|none|what crosses the border lies in memory as written down, on three ABIs'
+  'surface|abi|the closed libraries export what they exported before'
+  'reference|none|the comments of what a host sees make a reference without a warning'
+  'mutants|release|a jump in the machine code of the plug-in that goes wrong fails a test'
+  'benchmarks|release|every row of the benchmarks runs'
+  'instructions|release|no operation takes 5 % more instructions than before'
+  'closed-libraries|release|the plug-in builds alone, against link libraries made of its list of imports'
+  'sanitizers|asan-ubsan|the tests make no wrong access, leak nothing and have no undefined behaviour'
+  'thread-sanitizer|tsan|objects, loggers and use counts in several threads have no data race'
+  'coverage|coverage|tests reach every line, branch and condition of the plug-in'
+  'lint|lint|clang-tidy finds nothing in the plug-in'
+  'windows-lint|none|nor in the sources for Windows'
+  'shells|release|completion works in bash, zsh and fish'
+  'browser|release|a report page shows in a browser what it should, and runs nothing foreign'
+  'farm|release|a job on a cluster of two nodes survives the loss of one'
+  'manual|release|manual pages are well formed and name every option'
+  'packages|release|the packages install, work and leave nothing behind'
+  'part|none|another project can have the plug-in as a part'
+  'parsing|release|texts become the values that a model of the rules says'
+  'statistics|release|minimum, maximum and average are those of exact arithmetic'
+  'round-trip|release|floats printed with nine digits are read back the same'
+  'number-text|release|numbers read as the streams of C++ write them, in every rounding mode'
+  'texts-of-others|release|so do texts of other projects, and two more libraries agree'
+  'fuzzing|fuzz|inputs made to break the plug-in are answered as a model says'
+  'windows|mingw|the tests pass on 64-bit Windows (Wine)'
+  'windows-package|mingw|the package for Windows works in an empty folder'
 )
 long_checks=(
-  'every-mutant|each jump in the machine code of the plug-in that goes wrong fails a test'
-  'gcc-sanitizers|the tests under the sanitizers of the other compiler'
-  'memcheck|the tests of the plug-in touch no wrong memory and lose none (valgrind)'
-  'runner-coverage|tests reach at least 95 % of the lines of the runner, and 85 % of its branches'
-  'lint-everything|clang-tidy finds nothing anywhere'
-  'kills|a run that is killed goes on where it was'
-  'failing-calls|any allocation, read or write that fails ends a run in an orderly way'
-  'twice|two builds of one commit make the same packages'
-  'long-parsing|many more texts become the values that a model of the rules says'
-  'every-float|every float is read back from its nine digits'
-  'every-number-text|every float, and ten million doubles, read as the streams of C++ write them'
-  'json|graph files of a test suite for JSON parsers are answered rightly'
-  'long-fuzzing|inputs made to break plug-in and runner are answered as a model says, at length'
-  'windows-units|the tests of the runner'"'"'s parts pass on 64-bit Windows (Wine)'
+  'every-mutant|release|each jump in the machine code of the plug-in that goes wrong fails a test'
+  'gcc-sanitizers|asan-ubsan-gcc|the tests under the sanitizers of the other compiler'
+  'memcheck|release|the tests of the plug-in touch no wrong memory and lose none (valgrind)'
+  'runner-coverage|coverage|tests reach at least 95 % of the lines of the runner, and 85 % of its branches'
+  'lint-everything|lint|clang-tidy finds nothing anywhere'
+  'kills|release|a run that is killed goes on where it was'
+  'failing-calls|release|any allocation, read or write that fails ends a run in an orderly way'
+  'twice|none|two builds of one commit make the same packages'
+  'long-parsing|release|many more texts become the values that a model of the rules says'
+  'every-float|release|every float is read back from its nine digits'
+  'every-number-text|release|every float, and ten million doubles, read as the streams of C++ write them'
+  'json|release|graph files of a test suite for JSON parsers are answered rightly'
+  'long-fuzzing|fuzz|inputs made to break plug-in and runner are answered as a model says, at length'
+  'windows-units|mingw|the tests of the runner'"'"'s parts pass on 64-bit Windows (Wine)'
 )
 
 # run_tests PRESET: their output, and how many there were.
@@ -201,7 +201,7 @@ check_manual() {
 
 check_packages() {
   build_preset release
-  rm -rf build/packages
+  rm -f build/packages/*.{deb,tar.gz}
   make_packages release
   bash tests/install/package_test.sh build/packages
 }
@@ -275,7 +275,7 @@ check_windows_package() {
 
 # list_checks: name|claim of each, with an empty line before those of the long form.
 list_checks() {
-  printf '%s\n' "${short_checks[@]}" '' "${long_checks[@]}"
+  printf '%s\n' "${short_checks[@]}" '' "${long_checks[@]}" | sed 's/|[^|]*|/|/'
 }
 
 # row_of NAME: its row of the tables.
@@ -291,11 +291,10 @@ row_of() {
   return 2
 }
 
-# run_check NAME: prints its figure; its output goes to a file, and is shown if it fails.
+# run_check NAME: keeps its figure; its output goes to a file, and is shown if it fails.
 run_check() {
   local log=build/check/$1.log began=$SECONDS status
   echo "== $1" >&2
-  rm -f "$log"
   # A condition around it would make it go on after a failure.
   set +e
   (
@@ -309,18 +308,28 @@ run_check() {
     echo "== failed: $1" >&2
     return 1
   fi
-  tail -n 1 "$log"
-  echo "   $(tail -n 1 "$log") ($((SECONDS - began)) s)" >&2
+  tail -n 1 "$log" >"build/check/$1.figure"
+  echo "   $1: $(<"build/check/$1.figure") ($((SECONDS - began)) s)" >&2
 }
 
-# run_checks NAME...: in this order, up to the first that fails; then the table of them.
+# run_checks NAME...: one after the other, up to the first that fails.
 run_checks() {
-  local figures=build/check/figures.txt name figure
+  local name
+  for name in "$@"; do run_check "$name"; done
+}
+
+# run_rows ROW...: those of one build one after the other, two builds at a time; then the table.
+run_rows() {
+  local figures=build/check/figures.txt name status=0
   mkdir -p build/check
-  : >"$figures"
-  for name in "$@"; do
-    figure=$(run_check "$name")
-    echo "$name|$figure" >>"$figures"
-  done
+  for name in "${@%%|*}"; do rm -f "build/check/$name".{log,figure}; done
+  export CMAKE_BUILD_PARALLEL_LEVEL=$(((($(nproc) + 3)) / 2))
+  printf '%s\n' "$@" | awk -F '|' '
+    !($2 in names) { builds[++count] = $2 }
+    { names[$2] = names[$2] " " $1 }
+    END { for (i = 1; i <= count; i++) print names[builds[i]] }' |
+    xargs -P 2 -L 1 ./dev run-checks || status=$?
+  ((status == 0)) || return 1
+  for name in "${@%%|*}"; do echo "$name|$(<"build/check/$name.figure")"; done >"$figures"
   list_checks | python3 tests/docs/quality.py "$figures" docs/quality.md
 }
