@@ -39,7 +39,7 @@ class ValueText : public ::testing::Test {};
 TYPED_TEST_SUITE(ValueText, testing::RegisteredTestTypes);
 
 TYPED_TEST(ValueText, ReadsAlikeFromAnyAndFromValue) {
-  for (const std::size_t which : {0, 1}) {
+  for (const std::size_t which : {0U, 1U}) {
     const TypeParam value = sampleValue<TypeParam>(which);
     const Any any = makeAny(value);
     const char* report = rowOf<TypeParam>().samples[which].report;
