@@ -30,6 +30,13 @@ void* operator new(std::size_t size) {
   throw std::bad_alloc();
 }
 
+// A sanitizer's own would not be a pair with the delete below.
+void* operator new(std::size_t size, const std::nothrow_t&) noexcept try {
+  return operator new(size);
+} catch (const std::bad_alloc&) {
+  return nullptr;
+}
+
 void operator delete(void* block) noexcept {
   if (block != nullptr) --inUse;
   std::free(block);
