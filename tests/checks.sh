@@ -2,36 +2,37 @@
 # how they are run. What a check prints last is its figure in docs/quality.md. Each can be made alone,
 # so it builds what it needs.
 
-# name | the build that it uses | claim; those of the second table belong to the long form.
+# name | the build that it uses | claim; those of the second table belong to the long form. Builds that
+# take longest come early, so that two of them end at about the same time.
 short_checks=(
   'format|none|sources have the format of the project'
   'headers|none|each header compiles alone; those of hosts as C++20 and C++23 with both compilers'
   'layouts|none|what crosses the border lies in memory as written down, on three ABIs'
-  'surface|abi|the closed libraries export what they exported before'
   'reference|none|the comments of what a host sees make a reference without a warning'
+  'windows-lint|none|clang-tidy finds nothing in the sources for Windows'
+  'part|none|another project can have the plug-in as a part'
+  'sanitizers|asan-ubsan|the tests make no wrong access, leak nothing and have no undefined behaviour'
+  'windows|mingw|the tests pass on 64-bit Windows (Wine)'
+  'windows-package|mingw|the package for Windows works in an empty folder'
   'mutants|release|a jump in the machine code of the plug-in that goes wrong fails a test'
   'benchmarks|release|every row of the benchmarks runs'
   'instructions|release|no operation takes 5 % more instructions than before'
   'closed-libraries|release|the plug-in builds alone, against link libraries made of its list of imports'
-  'sanitizers|asan-ubsan|the tests make no wrong access, leak nothing and have no undefined behaviour'
-  'thread-sanitizer|tsan|objects, loggers and use counts in several threads have no data race'
-  'coverage|coverage|tests reach every line, branch and condition of the plug-in'
-  'lint|lint|clang-tidy finds nothing in the plug-in'
-  'windows-lint|none|nor in the sources for Windows'
   'shells|release|completion works in bash, zsh and fish'
   'browser|release|a report page shows in a browser what it should, and runs nothing foreign'
   'farm|release|a job on a cluster of two nodes survives the loss of one'
   'manual|release|manual pages are well formed and name every option'
   'packages|release|the packages install, work and leave nothing behind'
-  'part|none|another project can have the plug-in as a part'
   'parsing|release|texts become the values that a model of the rules says'
+  'texts-of-others|release|texts of tests of other projects become those values too'
   'statistics|release|minimum, maximum and average are those of exact arithmetic'
   'round-trip|release|floats printed with nine digits are read back the same'
   'number-text|release|numbers read as the streams of C++ write them, in every rounding mode'
-  'texts-of-others|release|so do texts of other projects, and two more libraries agree'
   'fuzzing|fuzz|inputs made to break the plug-in are answered as a model says'
-  'windows|mingw|the tests pass on 64-bit Windows (Wine)'
-  'windows-package|mingw|the package for Windows works in an empty folder'
+  'coverage|coverage|tests reach every line, branch and condition of the plug-in'
+  'lint|lint|clang-tidy finds nothing in the plug-in'
+  'thread-sanitizer|tsan|objects, loggers and use counts in several threads have no data race'
+  'surface|abi|the closed libraries export what they exported before'
 )
 long_checks=(
   'every-mutant|release|each jump in the machine code of the plug-in that goes wrong fails a test'
