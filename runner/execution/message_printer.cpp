@@ -47,8 +47,6 @@ void MessagePrinter::printLine(std::string_view prefix, std::string_view text, b
 
 void MessagePrinter::flush() {
   writePending();
-  sinks_.report.stream.flush();
-  sinks_.problems.stream.flush();
   progress_.show();
 }
 
@@ -57,7 +55,7 @@ void MessagePrinter::writePending() {
   const TextSink& sink = sinkOf(pendingIsProblem_);
   // Problems go where progress does, be it a terminal or not.
   if (sink.isTerminal || pendingIsProblem_) progress_.hide();
-  sink.stream << pending_;
+  sink.stream << pending_ << std::flush;
   pending_.clear();
 }
 

@@ -7,6 +7,8 @@
 #include <ostream>
 #include <utility>
 
+#include "text/shortest_text.h"
+
 namespace vtlcmd::runner {
 namespace {
 
@@ -53,11 +55,11 @@ Progress::Progress(std::ostream& stream, ProgressForm form, std::size_t frameCou
 
 Progress::~Progress() { hide(); }
 
-void Progress::beginFrame(std::size_t index, const std::string& frame) {
+void Progress::beginFrame(std::size_t index, double frame) {
   if (form_ == ProgressForm::none) return;
   const std::lock_guard lock(mutex_);
   index_ = index;
-  frame_ = frame;
+  frame_ = shortestText(frame);
   frameStart_ = clock_();
   renewAt(frameStart_);
 }
@@ -68,12 +70,14 @@ void Progress::renew() {
 }
 
 void Progress::hide() {
+  if (form_ == ProgressForm::none) return;
   const std::lock_guard lock(mutex_);
   paused_ = true;
   hideLine();
 }
 
 void Progress::show() {
+  if (form_ == ProgressForm::none) return;
   const std::lock_guard lock(mutex_);
   paused_ = false;
   showLine();

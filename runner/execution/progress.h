@@ -33,7 +33,7 @@ class Progress {
   ~Progress();
 
   /// Before each frame: its place in the run, and its number as the user knows it.
-  void beginFrame(std::size_t index, const std::string& frame);
+  void beginFrame(std::size_t index, double frame);
 
   /// While a frame runs, to be called every now and then: brings what is told up to date. Leaves
   /// the stream alone between `hide` and `show`.

@@ -27,8 +27,9 @@ FrameCollector::FrameCollector(const FrameList& frames, const FrameQueue& queue,
       settings_(std::move(settings)) {}
 
 void FrameCollector::begin(std::size_t place, unsigned worker) {
-  const std::string frame = shortestText(frames_[place]);
-  if (journal_ != nullptr) journal_->startFrame(frames_.placeInWhole(place), frame, worker);
+  const double frame = frames_[place];
+  if (journal_ != nullptr)
+    journal_->startFrame(frames_.placeInWhole(place), shortestText(frame), worker);
   progress_.beginFrame(taken_, frame);
 }
 

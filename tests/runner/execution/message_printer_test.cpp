@@ -21,6 +21,10 @@ class WriteLog : public std::streambuf {
     writes_.push_back(name_ + ": " + std::string(text, static_cast<std::size_t>(size)));
     return size;
   }
+  int sync() override {
+    writes_.push_back(name_ + " flushed");
+    return 0;
+  }
 
   std::string name_;
   std::vector<std::string>& writes_;
@@ -43,7 +47,8 @@ TEST_F(MessagePrinterTest, NeighbouringLinesOfOneSinkGoOutInOneWrite) {
   logger_.addMessage(vtlcmdSource, levelProgress, "two");
   printer_.printNew();
   EXPECT_EQ(writes_,
-            std::vector<std::string>{"report: [vtlcmd]            one\n[vtlcmd]            two\n"});
+            (std::vector<std::string>{"report: [vtlcmd]            one\n[vtlcmd]            two\n",
+                                      "report flushed"}));
 }
 
 TEST_F(MessagePrinterTest, TheOrderOfTheSinksIsKept) {
@@ -51,16 +56,17 @@ TEST_F(MessagePrinterTest, TheOrderOfTheSinksIsKept) {
   logger_.addMessage(vtlcmdSource, levelError, "two");
   logger_.addMessage(vtlcmdSource, levelProgress, "three");
   printer_.printNew();
-  EXPECT_EQ(writes_, (std::vector<std::string>{"report: [vtlcmd]            one\n",
-                                               "problems: [vtlcmd]  Error:    two\n",
-                                               "report: [vtlcmd]            three\n"}));
+  EXPECT_EQ(writes_,
+            (std::vector<std::string>{"report: [vtlcmd]            one\n", "report flushed",
+                                      "problems: [vtlcmd]  Error:    two\n", "problems flushed",
+                                      "report: [vtlcmd]            three\n", "report flushed"}));
 }
 
 TEST_F(MessagePrinterTest, NothingIsPrintedTwice) {
   logger_.addMessage(vtlcmdSource, levelProgress, "one");
   printer_.printNew();
   printer_.printNew();
-  EXPECT_EQ(writes_.size(), 1U);
+  EXPECT_EQ(writes_.size(), 2U);
 }
 
 }  // namespace

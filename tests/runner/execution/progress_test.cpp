@@ -19,7 +19,7 @@ class ProgressTest : public testing::Test {
     {
       Progress progress(stream, form, count, [this] { return now_; });
       for (std::size_t i = 0; i < count; ++i) {
-        progress.beginFrame(i, std::to_string(i + 101));
+        progress.beginFrame(i, static_cast<double>(i + 101));
         now_ += duration;
         inFrame(progress, stream);
       }
