@@ -18,7 +18,7 @@ SHARED_SOURCE = {"vtlcmd/host", "vtlcmd/host/imports", "vtlcmd/logging", "vtlcmd
 
 WRITTEN_BY_THE_BUILD = {"build_facts.h"}
 
-PLATFORM_HEADERS = {"cpuid.h", "fcntl.h", "immintrin.h", "unistd.h", "windows.h"}
+PLATFORM_HEADERS = {"cpuid.h", "fcntl.h", "immintrin.h", "sys/platform/x86.h", "unistd.h", "windows.h"}
 
 
 def includes(file):

@@ -3,6 +3,9 @@
 #if defined(__x86_64__)
 #include <cpuid.h>
 #include <immintrin.h>
+#if __has_include(<sys/platform/x86.h>)
+#include <sys/platform/x86.h>
+#endif
 #endif
 
 #include "vtlcmd/output/statistics/kernels.h"
@@ -27,13 +30,23 @@ namespace {
 constexpr KernelRow rows[]{
     {"baseline", &baseline::kernels}, {"avx2", &avx2::kernels}, {"avx512", &avx512::kernels}};
 
-// The compilers' own query asks the processor a dozen times in each library that loads.
+// In a virtual machine each question to the processor takes microseconds, and the compilers' own
+// query asks a dozen in each library that loads.
 struct ThisProcessor {
+#ifdef CPU_FEATURE_PRESENT
+  // The C library has asked already.
   static CpuidLeaf leaf(unsigned number) noexcept {
-    CpuidLeaf answer;
-    __cpuid_count(number, 0, answer.eax, answer.ebx, answer.ecx, answer.edx);
+    const auto& [eax, ebx, ecx, edx] =
+        __x86_get_cpuid_feature_leaf(number == 1 ? CPUID_INDEX_1 : CPUID_INDEX_7)->cpuid_array;
+    return {eax, ebx, ecx, edx};
+  }
+#else
+  static CpuidLeaf leaf(unsigned number) noexcept {
+    CpuidLeaf answer{};
+    __get_cpuid_count(number, 0, &answer.eax, &answer.ebx, &answer.ecx, &answer.edx);
     return answer;
   }
+#endif
 
   __attribute__((target("xsave"))) static std::uint64_t savedRegisters() noexcept {
     return _xgetbv(0);

@@ -33,12 +33,11 @@ constexpr bool hasAll(std::uint64_t flags, std::uint64_t wanted) noexcept {
 
 /// How many rows of the table of kernels an x86-64 processor runs under its system, from 1 to 3.
 ///
-/// `processor.leaf(number)` answers as CpuidLeaf, `processor.savedRegisters()` which registers the
-/// system saves when it changes threads. Each is asked only where the answers before say that it
-/// may be; in a virtual machine each question takes microseconds.
+/// `processor.leaf(number)` answers as CpuidLeaf, with zeros to a question that it doesn't know;
+/// `processor.savedRegisters()` tells which registers the system saves when it changes threads, and
+/// is asked only where the answers before say that it may be.
 template <typename Processor>
 std::size_t runnableRows(const Processor& processor) noexcept {
-  if (processor.leaf(0).eax < 7) return 1;
   if (!hasAll(processor.leaf(1).ecx, leaf1_ecx::osxsave | leaf1_ecx::avx)) return 1;
   const std::uint64_t saved = processor.savedRegisters();
   const unsigned features = processor.leaf(7).ebx;
