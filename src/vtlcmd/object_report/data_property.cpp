@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <functional>
 #include <tuple>
 
 #include "vtlcmd/host/value_types.h"
@@ -59,8 +60,13 @@ consteval Rows placed(const std::tuple<Types...>& types) {
 /// In the order of the types' places, which is part of the report's form.
 constexpr Rows rows = placed(elementTypes);
 
-// No two types have one place.
-static_assert(std::all_of(rows.begin(), rows.end(), [](const Row& row) { return row.tag; }));
+template <typename... Types>
+consteval bool haveOwnPlaces(const std::tuple<Types...>& types) {
+  std::array<bool, rows.size() + 1> taken{};
+  ((taken[std::get<Types>(types).reportPlace] = true), ...);
+  return std::all_of(taken.begin() + 1, taken.end(), std::identity{});
+}
+static_assert(haveOwnPlaces(elementTypes));
 
 }  // namespace
 
