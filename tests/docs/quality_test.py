@@ -82,6 +82,24 @@ class Checks(unittest.TestCase):
         self.assertGreater(len(names), 30)
         self.assertEqual(sorted(names), sorted(name.replace("_", "-") for name in functions))
 
+    def test_a_failure_in_the_middle_ends_a_check_and_those_behind_it(self):
+        script = f"""set -euo pipefail
+            . {PROJECT}/tests/checks.sh
+            mkdir -p build/check
+            check_first() {{ echo 1 thing; }}
+            check_breaks() {{ echo before; false; echo behind; }}
+            check_last() {{ echo 2 things; }}
+            run_checks first breaks last"""
+        with tempfile.TemporaryDirectory() as folder:
+            done = subprocess.run(["bash", "-c", script], cwd=folder, text=True,
+                                  stdout=subprocess.PIPE, stderr=subprocess.PIPE)
+            figures = {file.name: file.read_text()
+                       for file in pathlib.Path(folder, "build/check").glob("*.figure")}
+        self.assertEqual((done.stdout, done.stderr, done.returncode),
+                         ("", "== first\n   first: 1 thing (0 s)\n== breaks\nbefore\n"
+                          "== failed: breaks\n", 1))
+        self.assertEqual(figures, {"first.figure": "1 thing\n"})
+
     def test_another_is_refused(self):
         done = subprocess.run(["bash", "dev", "check", "layout"], cwd=PROJECT, text=True,
                               stdout=subprocess.PIPE, stderr=subprocess.PIPE)

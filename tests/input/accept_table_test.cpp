@@ -70,8 +70,7 @@ class AcceptTable : public ::testing::Test {
     EXPECT_THAT(host.messages(), ::testing::ElementsAre(message));
   }
 };
-constexpr auto isScalar = []<typename T>() { return Registered<T> && std::is_arithmetic_v<T>; };
-TYPED_TEST_SUITE(AcceptTable, testing::TestTypesWhere<isScalar>);
+TYPED_TEST_SUITE(AcceptTable, testing::ScalarTestTypes);
 
 TYPED_TEST(AcceptTable, HoldsOnEveryPortInEveryState) {
   using T = TypeParam;

@@ -32,10 +32,7 @@ class FromString : public ::testing::Test {
 
   VtlCmdLogger logger_{10};
 };
-constexpr auto hasScalarText = []<typename T>() {
-  return Registered<T> && std::is_arithmetic_v<T>;
-};
-TYPED_TEST_SUITE(FromString, testing::TestTypesWhere<hasScalarText>);
+TYPED_TEST_SUITE(FromString, testing::ScalarTestTypes);
 
 TYPED_TEST(FromString, RefusalIsOneMessageWithTheTextAsItStands) {
   for (const char* text : {"", "   ", " x ", "12 34", "12abc", "abc", "inf", "nan", "TRUE", "yes",

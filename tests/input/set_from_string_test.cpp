@@ -39,8 +39,9 @@ class SetVectorFromString : public ::testing::Test {
 
   Any value_;
 };
-constexpr auto isVector = []<typename T>() { return VectorType<T>; };
-TYPED_TEST_SUITE(SetVectorFromString, testing::TestTypesWhere<isVector>);
+template <typename T>
+using IsVector = std::bool_constant<VectorType<T>>;
+TYPED_TEST_SUITE(SetVectorFromString, testing::TestTypesWhere<IsVector>);
 
 TYPED_TEST(SetVectorFromString, TakesAsManyPiecesAsComponents) {
   std::string text = "1";

@@ -75,8 +75,7 @@ std::string read(T value) {
 
 template <typename T>
 class FloatingText : public ::testing::Test {};
-constexpr auto isFloating = []<typename T>() { return std::is_floating_point_v<T>; };
-TYPED_TEST_SUITE(FloatingText, testing::TestTypesWhere<isFloating>);
+TYPED_TEST_SUITE(FloatingText, testing::TestTypesWhere<std::is_floating_point>);
 
 TYPED_TEST(FloatingText, IsTheGeneralFormatAtPrecision6) {
   using T = TypeParam;

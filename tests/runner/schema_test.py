@@ -1,6 +1,7 @@
 """The schemas of graph file and run report agree with the program and the project's graphs."""
 
 import argparse
+import copy
 import json
 import pathlib
 import re
@@ -32,7 +33,7 @@ def known_types():
 
 schema_file = arguments.folder / "docs/graph.schema.json"
 schema = json.loads(schema_file.read_text())
-accepted_schema = json.loads(schema_file.read_text())
+accepted_schema = copy.deepcopy(schema)
 accepted_schema["$defs"]["node"]["properties"]["op"]["enum"] = [node["op"] for node in listed("nodes")]
 accepted_schema["$defs"]["type"]["pattern"] = f"^(array<)*({'|'.join(known_types())})>*$"
 if arguments.accept:

@@ -23,22 +23,28 @@ struct TestTypesOf<std::tuple<Rows...>> {
   using Types = ::testing::Types<typename Rows::Type...>;
 };
 
-template <const auto& isWanted, typename... Rows>
+template <template <typename> typename IsWanted, typename... Rows>
 auto rowsWhere(const std::tuple<Rows...>&) -> decltype(std::tuple_cat(
-    std::declval<std::conditional_t<isWanted.template operator()<typename Rows::Type>(),
-                                    std::tuple<Rows>, std::tuple<>>>()...));
+    std::declval<std::conditional_t<IsWanted<typename Rows::Type>::value, std::tuple<Rows>,
+                                    std::tuple<>>>()...));
 
-/// The types, registered or only reported, that `isWanted.operator()<T>()` holds of.
-template <const auto& isWanted>
-using TestTypesWhere = typename TestTypesOf<decltype(rowsWhere<isWanted>(
+/// The types, registered or only reported, that a trait holds of.
+template <template <typename> typename IsWanted>
+using TestTypesWhere = typename TestTypesOf<decltype(rowsWhere<IsWanted>(
     std::tuple_cat(registeredTypes, reportOnlyTypes)))>::Types;
 
 using RegisteredTestTypes = TestTypesOf<std::remove_const_t<decltype(registeredTypes)>>::Types;
 using ReportOnlyTestTypes = TestTypesOf<std::remove_const_t<decltype(reportOnlyTypes)>>::Types;
 using ElementTestTypes =
     TestTypesOf<decltype(std::tuple_cat(registeredTypes, reportOnlyTypes))>::Types;
-inline constexpr auto isSummarised = []<typename T>() { return Summarised<T>; };
-using SummarisedTestTypes = TestTypesWhere<isSummarised>;
+
+template <typename T>
+using IsSummarised = std::bool_constant<Summarised<T>>;
+using SummarisedTestTypes = TestTypesWhere<IsSummarised>;
+/// With a number or truth value as their text.
+template <typename T>
+using IsScalar = std::bool_constant<Registered<T> && std::is_arithmetic_v<T>>;
+using ScalarTestTypes = TestTypesWhere<IsScalar>;
 
 template <Registered T>
 const RegisteredRow<T>& rowOf() {

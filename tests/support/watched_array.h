@@ -1,5 +1,7 @@
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include "vtlcmd/host/imports/orvel_array.h"
 #include "vtlcmd/host/imports/orvel_ptr.h"
 #include "vtlcmd/stand_in/make_ptr.h"

@@ -1,15 +1,19 @@
 #pragma once
 
 #include <chrono>
+#include <cstddef>
 #include <string>
 #include <vector>
 
 namespace vtlcmd::validator {
 
+/// Bytes of its output from which on no more is kept of a process: more than any result has.
+inline constexpr std::size_t outputLimit = std::size_t{64} * 1024;
+
 /// How a process that was started came to its end.
 struct EndedChild {
   enum class End { exited, crashed, timedOut } end;
-  /// What it wrote to its standard output, at most some kilobytes.
+  /// What it wrote to its standard output, up to a little more than the limit.
   std::string output;
   /// Of a crash: what the system says of it.
   std::string reason;

@@ -15,8 +15,6 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-constexpr std::size_t outputLimit = std::size_t{64} * 1024;
-
 void check(int error) {
   if (error != 0) throw std::system_error(error, std::generic_category(), "starting a check");
 }

@@ -10,8 +10,6 @@
 namespace vtlcmd::validator {
 namespace {
 
-constexpr std::size_t outputLimit = std::size_t{64} * 1024;
-
 void check(BOOL result) {
   if (result == 0)
     throw std::system_error(static_cast<int>(GetLastError()), std::system_category(),

@@ -186,7 +186,10 @@ concept Tagged = (Registered<T> && Rank < registeredRanks) || (InputOnly<T> && R
 
 /// An element type of which reports show the statistics of arrays.
 template <typename T>
-concept Summarised = Tagged<T, 1> &&(valueType<T>().arrayClass == ArrayClass::summarised);
+concept Summarised = requires {
+  requires Tagged<T, 1>;
+  requires(valueType<T>().arrayClass == ArrayClass::summarised);
+};
 
 /// The static tag of T at an array rank.
 template <typename T, std::uint32_t Rank>

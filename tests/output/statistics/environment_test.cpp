@@ -24,8 +24,9 @@ std::string statisticsOf(const std::vector<T>& elements) {
 template <typename T>
 class StatisticsEnvironment : public ::testing::Test {};
 
-constexpr auto isReported = []<typename T>() { return Registered<T> && Summarised<T>; };
-TYPED_TEST_SUITE(StatisticsEnvironment, testing::TestTypesWhere<isReported>);
+template <typename T>
+using IsReported = std::bool_constant<Registered<T> && Summarised<T>>;
+TYPED_TEST_SUITE(StatisticsEnvironment, testing::TestTypesWhere<IsReported>);
 
 TYPED_TEST(StatisticsEnvironment, StaysAsItWas) {
   const std::vector<TypeParam> elements(length, testing::sampleValue<TypeParam>(0));
