@@ -38,7 +38,7 @@ struct DiffOptions {
 std::string shownValue(const Json& value) {
   constexpr std::size_t mostLength = 60;
   if (value.is_null()) return "nothing";
-  const std::string text = jsonText(value);
+  std::string text = jsonText(value);
   if (text.size() <= mostLength) return text;
   std::size_t length = mostLength;
   // A character of several bytes stays whole.

@@ -123,8 +123,8 @@ std::size_t submit(const FarmFolder& folder, const FarmJob& job,
 
 ExitCode waitForReport(const FarmFolder& folder, std::size_t submission, std::size_t frames) {
   const std::optional<int> code = awaitReportedCode(folder, submission);
-  const bool isMade =
-      code == static_cast<int>(ExitCode::success) || code == static_cast<int>(ExitCode::runFailed);
+  const bool isMade = code && (*code == static_cast<int>(ExitCode::success) ||
+                               *code == static_cast<int>(ExitCode::runFailed));
   if (isMade) return codeOf(surveyFrames(folder, frames));
   std::cerr << "vtlcmd: the report isn't there; "
             << fileText(folder.logs() / (std::to_string(submission) + "-report.log"))

@@ -24,7 +24,7 @@ std::string helpOf(const CLI::App& command, const std::string& before) {
 }
 
 void printHelp(const CLI::App& app, const std::string& topic) {
-  const std::string program = app.get_name();
+  const std::string& program = app.get_name();
   if (topic.empty()) {
     std::cout << helpOf(app, program);
   } else if (topic == graphFormTopic) {

@@ -20,7 +20,7 @@ namespace vtlcmd::runner {
 inline constexpr int journalForm = 1;
 
 /// What every journal begins with.
-inline constexpr std::string_view journalOpening = "{\"crc32\":\"";
+inline constexpr std::string_view journalOpening = R"({"crc32":")";
 
 /// The kinds of lines, in the order of their first appearance.
 namespace line_kinds {
