@@ -37,6 +37,20 @@ TEST(AnyBridge, LeadsThroughAnAnyAndBackWithoutACopy) {
   });
 }
 
+TEST(AnyBridge, TagsSayElementAndRankAtEveryDepth) {
+  vtlcmd::forEachRow(storedTypes, [](const auto& row) {
+    Type type = typeNamed(String(row.name));
+    for (std::uint32_t depth = 0; depth <= testing::deepest; ++depth) {
+      const Any any = toAny(makeZero(type));
+      const auto tag = vtlcmd::makeTag(row.tagSpelling, row.tagKind, depth);
+      EXPECT_TRUE(vtlcmd::sameType(any.type(), tag)) << row.name << " " << depth;
+      EXPECT_NE(vtlcmd::any_operations::address(any), nullptr);
+      EXPECT_EQ(vtlcmd::any_operations::cast(any, tag), vtlcmd::any_operations::address(any));
+      type = makeArrayType(type);
+    }
+  });
+}
+
 TEST(AnyBridge, KeepsNoUseOfWhatWentThrough) {
   const auto goThrough = [](const auto& array) {
     using Stored = std::remove_cvref_t<decltype(array)>;

@@ -18,19 +18,26 @@ using testing::membersOf;
 using testing::nameOf;
 
 TEST(TypeFactory, FindsEveryStoredTypeByItsName) {
-  testing::forEachStoredType([]<typename Stored>(const Stored&) {
-    using Nesting = vtlcmd::type_lists::Nesting<Stored>;
-    std::string name = vtlcmd::valueType<typename Nesting::Element>().name;
-    Type built = typeOf<typename Nesting::Element>();
-    for (std::uint32_t level = 0; level < Nesting::rank; ++level) {
+  testing::forEachStoredElement([]<typename T>() {
+    std::string name = vtlcmd::valueType<T>().name;
+    Type built = typeOf<T>();
+    for (std::uint32_t depth = 0; depth <= testing::deepest; ++depth) {
+      EXPECT_EQ(nameOf(built), name);
+      EXPECT_TRUE(equalTypes(built, typeNamed(String(name.c_str()))));
+      EXPECT_EQ(built.getTypeKind() == TypeKind::array, depth > 0);
       name = "array<" + name + ">";
       built = makeArrayType(built);
     }
-    const Type type = typeOf<Stored>();
-    EXPECT_EQ(nameOf(type), name);
-    EXPECT_TRUE(equalTypes(type, typeNamed(String(name.c_str()))));
-    EXPECT_TRUE(equalTypes(type, built));
-    EXPECT_EQ(type.getTypeKind() == TypeKind::array, Nesting::rank > 0);
+  });
+}
+
+TEST(TypeFactory, ArraysOfCppAreArrayTypes) {
+  testing::forEachStoredElement([]<typename T>() {
+    const Type array = typeOf<vtlcmd::StoredArray<T, 1>>();
+    EXPECT_TRUE(equalTypes(array, makeArrayType(typeOf<T>())));
+    EXPECT_TRUE(equalTypes(typeOf<vtlcmd::StoredArray<T, 2>>(), makeArrayType(array)));
+    EXPECT_TRUE(equalTypes(typeOf<vtlcmd::StoredArray<T, 4>>(),
+                           makeArrayType(makeArrayType(makeArrayType(array)))));
   });
 }
 
