@@ -20,4 +20,6 @@ if(MINGW)
   # g++ takes its own copy of an inline function for the one that is called, and goes by the registers
   # which that copy leaves alone; the linker may keep another file's copy, compiled otherwise.
   add_compile_options(-fno-ipa-ra)
+  # An object file has fewer sections by default than several sources with their templates need.
+  add_compile_options(-Wa,-mbig-obj)
 endif()

@@ -21,7 +21,7 @@ bool elementMatches(const ValueType& type, Predicate predicate) {
 
 constexpr auto isInteger = []<typename T>() { return Number<T> && std::integral<T>; };
 constexpr auto isBool = []<typename T>() { return std::is_same_v<T, bool>; };
-constexpr auto isText = []<typename T>() { return std::is_same_v<T, Orvel::String>; };
+constexpr auto isString = []<typename T>() { return std::is_same_v<T, Orvel::String>; };
 constexpr auto isScalar = []<typename T>() { return std::is_arithmetic_v<T>; };
 constexpr auto isComparable = []<typename T>() {
   return std::is_arithmetic_v<T> || std::is_same_v<T, Orvel::String>;
@@ -76,7 +76,7 @@ const TypeClass floating{"a float, a double or an array of them", isSingleOrArra
 const TypeClass vectors{"a vector or an array of vectors", isSingleOrArray<isVector>};
 const TypeClass matrix{"a matrix of floats or doubles", isMatrix};
 const TypeClass text{"a string", isExactly<Orvel::String>};
-const TypeClass texts{"a string or an array of strings", isSingleOrArray<isText>};
+const TypeClass texts{"a string or an array of strings", isSingleOrArray<isString>};
 const TypeClass path{"a string", isExactly<Orvel::String>};
 const TypeClass object{"an Object", isExactly<ObjectPtr>};
 const TypeClass time{"a Simulation::Time", isExactly<Time>};

@@ -18,7 +18,7 @@ using Vantrel::Geometry::setDataProperty;
 Orvel::String text(const char* characters) { return characters; }
 
 /// Reported in both forms and as an array's element.
-void expectReport(Session& session, const ObjectPtr& object, const std::string& report) {
+void expectObjectReport(Session& session, const ObjectPtr& object, const std::string& report) {
   PortHost host(session, 1);
   expect(host.reportAny(makeAny(object)), "the Any is reported");
   expectText("line of the Any", host.lastText(), "Output port 'port': (Object) " + report);
@@ -30,10 +30,10 @@ void expectReport(Session& session, const ObjectPtr& object, const std::string& 
 }
 
 void nullObject(Session& session) {
-  expectReport(session, {}, "{\n  No object produced, verify your inputs.\n}");
+  expectObjectReport(session, {}, "{\n  No object produced, verify your inputs.\n}");
 }
 
-void emptyObject(Session& session) { expectReport(session, Vantrel::createObject(), "{\n}"); }
+void emptyObject(Session& session) { expectObjectReport(session, Vantrel::createObject(), "{\n}"); }
 
 const std::string idBlock = "  id: (3 int)\n  {\n     min: 1\n     max: 6\n     avg: 3\n  }\n";
 
@@ -42,7 +42,7 @@ void wholeObject(Session& session) {
   setDataProperty(*object, text("id"), makeAny(arrayOf<std::int32_t>({1, 2, 6})));
   setDataProperty(*object, text("label"), makeAny(arrayOf<Orvel::String>({"a"})));
   setComponentProperty(*object, text("pieces"), 3);
-  expectReport(
+  expectObjectReport(
       session, ObjectPtr(object.pointer, nullptr),
       "{\n  pieces: count: 3\n" + idBlock + "  label: {non supported Data Geo Property}\n}");
 }
@@ -51,8 +51,8 @@ void componentsInOrder(Session& session) {
   const auto object = Vantrel::createObject();
   setComponentProperty(*object, text("z"), 4294967295U);
   setComponentProperty(*object, text("a"), 0);
-  expectReport(session, ObjectPtr(object.pointer, nullptr),
-               "{\n  z: count: 4294967295\n  a: count: 0\n}");
+  expectObjectReport(session, ObjectPtr(object.pointer, nullptr),
+                     "{\n  z: count: 4294967295\n  a: count: 0\n}");
 }
 
 void unknownDataIsPassedOver(Session& session) {
@@ -62,13 +62,13 @@ void unknownDataIsPassedOver(Session& session) {
   setDataProperty(*object, text("nested"), makeAny(nestedArray<std::int32_t, 2>(1)));
   setDataProperty(*object, text("objects"), makeAny(arrayOf<ObjectPtr>({{}})));
   setDataProperty(*object, text("id"), makeAny(arrayOf<std::int32_t>({1, 2, 6})));
-  expectReport(session, ObjectPtr(object.pointer, nullptr), "{\n" + idBlock + "}");
+  expectObjectReport(session, ObjectPtr(object.pointer, nullptr), "{\n" + idBlock + "}");
 }
 
 void plainPropertiesAreNotShown(Session& session) {
   const auto object = Vantrel::createObject();
   Vantrel::setProperty(*object, text("count"), makeAny(arrayOf<std::int32_t>({1})));
-  expectReport(session, ObjectPtr(object.pointer, nullptr), "{\n}");
+  expectObjectReport(session, ObjectPtr(object.pointer, nullptr), "{\n}");
 }
 
 void otherValueReadsAsNull(Session& session) {
@@ -85,9 +85,9 @@ void emptyDataProperty(Session& session, const std::string& name, bool hasStatis
   const auto object = Vantrel::createObject();
   setDataProperty(*object, text("p"), makeAny(arrayOf<T>({})));
   const std::string head = std::is_same_v<T, bool> ? " (0 " : "(0 ";
-  expectReport(session, ObjectPtr(object.pointer, nullptr),
-               hasStatistics ? "{\n  p: " + head + name + ")\n  {\nempty array...  }\n}"
-                             : "{\n  p: {non supported Data Geo Property}\n}");
+  expectObjectReport(session, ObjectPtr(object.pointer, nullptr),
+                     hasStatistics ? "{\n  p: " + head + name + ")\n  {\nempty array...  }\n}"
+                                   : "{\n  p: {non supported Data Geo Property}\n}");
 }
 
 template <typename T>
@@ -103,7 +103,7 @@ template <typename T>
 void wrappingProperty(Session& session, std::vector<T> elements, const std::string& block) {
   const auto object = Vantrel::createObject();
   setDataProperty(*object, text("p"), makeAny(arrayOf<T>(elements)));
-  expectReport(session, ObjectPtr(object.pointer, nullptr), "{\n  p: " + block + "\n}");
+  expectObjectReport(session, ObjectPtr(object.pointer, nullptr), "{\n  p: " + block + "\n}");
 }
 
 }  // namespace
