@@ -64,7 +64,8 @@ void refuseSharedInput(const std::string& graph, const std::vector<std::string>&
     const std::string port = "port " + inQuotes(name);
     if (!reader.empty())
       throw UsageError("the standard input can't be both " + reader + " and the text for " + port);
-    reader = "the text for " + port;
+    reader = "the text for ";
+    reader += port;
   }
 }
 

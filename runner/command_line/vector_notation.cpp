@@ -21,7 +21,7 @@ std::optional<std::string_view> numberIn(std::string_view piece) {
   const char* const end = piece.data() + piece.size();
   const auto [stop, error] = std::from_chars(piece.data(), end, number);
   const std::string_view rest(stop, static_cast<std::size_t>(end - stop));
-  if (error != std::errc() || (rest != "" && rest != "f" && rest != "F")) return std::nullopt;
+  if (error != std::errc() || (!rest.empty() && rest != "f" && rest != "F")) return std::nullopt;
   return piece.substr(0, piece.size() - rest.size());
 }
 

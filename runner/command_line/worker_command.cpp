@@ -23,7 +23,7 @@ class WorkerOutput {
   /// Ends before what was said on standard error, by whomever, so that it can be told apart.
   void send(const std::string& message) {
     std::cout.flush();
-    std::fflush(stdout);
+    static_cast<void>(std::fflush(stdout));
     std::cerr.put(endOfSaid).flush();
     // The program has ended when it doesn't take it.
     if (std::fwrite(message.data(), 1, message.size(), stream_) != message.size() ||

@@ -4,7 +4,10 @@
 #include <cpuid.h>
 #include <immintrin.h>
 #if __has_include(<sys/platform/x86.h>)
+// It says _Bool, which clang knows in C alone.
+#define _Bool bool
 #include <sys/platform/x86.h>
+#undef _Bool
 #endif
 #endif
 
