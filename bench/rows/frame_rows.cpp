@@ -50,7 +50,7 @@ std::vector<TimedRow> frameRows(const Scale& scale) {
   TimedRow row;
   row.name = "a frame of the runner, one scalar in and out";
   row.goal = 2.0;
-  row.pairs = 15;
+  row.pairs = 61;
   row.elements = frames;
   row.subject = [setup, frames](std::size_t) { runFrames(*setup, frames + 1); };
   row.fixedPart = [setup](std::size_t) { runFrames(*setup, 1); };

@@ -82,10 +82,10 @@ FrameRecord Session::runFrame() {
   failure_ = Failure::none;
   filesRead_.clear();
   picturing_ = {};
-  const std::optional<std::vector<Orvel::Value>> inputs = setInputs();
-  logger_.setInputsSet(inputs.has_value());
-  if (inputs) {
-    const Executor::Result result = executor_.run(*inputs);
+  const bool areSet = setInputs();
+  logger_.setInputsSet(areSet);
+  if (areSet) {
+    const Executor::Result result = executor_.run(inputs_);
     failure_ = result.failure;
     logger_.setExecuted(result.outputs.has_value());
     logger_.setInterrupted(!result.outputs && result.failure == Failure::none);
@@ -108,14 +108,12 @@ Failure Session::failureOfFrame() const {
 }
 
 /// Every port gets its turn, so that the user reads of all bad texts at once.
-std::optional<std::vector<Orvel::Value>> Session::setInputs() {
-  std::vector<Orvel::Value> values;
-  values.reserve(ports_.size());
+bool Session::setInputs() {
+  inputs_.clear();
   for (std::size_t i = 0; i < ports_.size(); ++i) {
-    if (std::optional<Orvel::Value> value = setInput(i)) values.push_back(*std::move(value));
+    if (std::optional<Orvel::Value> value = setInput(i)) inputs_.push_back(*std::move(value));
   }
-  if (values.size() != ports_.size()) return std::nullopt;
-  return values;
+  return inputs_.size() == ports_.size();
 }
 
 std::optional<Orvel::Value> Session::setInput(std::size_t index) {

@@ -86,7 +86,7 @@ class Session {
 
   void describeFrame(std::size_t place);
   FrameRecord runFrame();
-  std::optional<std::vector<Orvel::Value>> setInputs();
+  bool setInputs();
   std::optional<Orvel::Value> setInput(std::size_t index);
   void reportOutputs(const std::vector<Orvel::Value>& values, FrameRecord& record);
   void saveOutputs(const std::vector<Orvel::Value>& values);
@@ -112,6 +112,8 @@ class Session {
   std::vector<Port> ports_;
   /// By output.
   std::vector<Orvel::String> outputNames_;
+  /// Of the current frame, by port; some are missing when setting them failed.
+  std::vector<Orvel::Value> inputs_;
   /// The worst of what was caught in the current frame.
   Failure failure_ = Failure::none;
   /// By the current frame, of those that weren't known before the run.
