@@ -120,7 +120,7 @@ def runs_a_task_again_that_was_requeued(cluster, work):
         cluster.command("scontrol", "update", f"JobId={tasks}_1", "StartTime=now", check=False)
         return (job.folder / "journals/1-1-1.journal").exists()
 
-    wait_until("the task again", has_begun_again)
+    wait_until("the task again", has_begun_again, seconds=180)
     job.wait_for_report()
     journal = (job.folder / "journals/1-1-1.journal").read_text()
     expect("its frames, each once", journal.count('"frame":{"index"'), CHUNK)
