@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <span>
 #include <type_traits>
 #include <vector>
@@ -35,15 +36,30 @@ struct NumberIn<T> {
 template <typename T>
 using NumberOf = typename NumberIn<T>::Type;
 
-/// An array of `shape.size() == Rank` levels; `makeRow` gives those of the innermost level, from
-/// the first to the last.
-template <typename T, std::uint32_t Rank, typename MakeRow>
-StoredArray<T, Rank> nestRows(std::span<const std::uint64_t> shape, MakeRow& makeRow) {
+/// Gives the rows of the innermost level, of so many elements, from the first to the last.
+template <typename T>
+using MakeRow = std::function<Orvel::Ptr<Orvel::Array<T>>(std::uint64_t count)>;
+
+template <typename T, std::uint32_t Rank>
+StoredArray<T, Rank> nestRows(std::span<const std::uint64_t> shape, const MakeRow<T>& makeRow) {
   if constexpr (Rank == 1) {
     return makeRow(shape[0]);
   } else {
     return shareArray(generateArray<StoredArray<T, Rank - 1>>(
         shape[0], [&](std::uint64_t) { return nestRows<T, Rank - 1>(shape.subspan(1), makeRow); }));
+  }
+}
+
+/// An array of one to three levels.
+template <typename T>
+Orvel::Value nestedValue(std::span<const std::uint64_t> shape, const MakeRow<T>& makeRow) {
+  switch (shape.size()) {
+    case 1:
+      return Orvel::makeValue(nestRows<T, 1>(shape, makeRow));
+    case 2:
+      return Orvel::makeValue(nestRows<T, 2>(shape, makeRow));
+    default:
+      return Orvel::makeValue(nestRows<T, 3>(shape, makeRow));
   }
 }
 
@@ -94,36 +110,23 @@ void fillInFortranOrder(const std::vector<T*>& rows, std::span<const std::uint64
   }
 }
 
-template <typename Stored, typename T, std::uint32_t Rank>
-StoredArray<T, Rank> buildNpyArray(const NpyLayout& layout, NpyNumbers& numbers) {
-  if (!layout.fortranOrder) {
-    const auto makeRow = [&](std::uint64_t count) {
-      return shareArray(nextRow<Stored, T>(count, numbers));
-    };
-    return nestRows<T, Rank>(layout.shape, makeRow);
-  }
-  std::vector<T*> rows;
-  const auto makeRow = [&](std::uint64_t count) {
-    Orvel::Array<T> row = generateArray<T>(count, [](std::uint64_t) { return T{}; });
-    rows.push_back(row.data);
-    return shareArray(std::move(row));
-  };
-  StoredArray<T, Rank> array = nestRows<T, Rank>(layout.shape, makeRow);
-  if (!rows.empty()) fillInFortranOrder<Stored>(rows, layout.shape, numbers);
-  return array;
-}
-
 /// An array of elements T, whose numbers the file has as Stored.
 template <typename Stored, typename T>
 Orvel::Value buildNpyValue(const NpyLayout& layout, NpyNumbers& numbers) {
-  switch (layout.shape.size()) {
-    case 1:
-      return Orvel::makeValue(buildNpyArray<Stored, T, 1>(layout, numbers));
-    case 2:
-      return Orvel::makeValue(buildNpyArray<Stored, T, 2>(layout, numbers));
-    default:
-      return Orvel::makeValue(buildNpyArray<Stored, T, 3>(layout, numbers));
+  if (!layout.fortranOrder) {
+    return nestedValue<T>(layout.shape, [&](std::uint64_t count) {
+      return shareArray(nextRow<Stored, T>(count, numbers));
+    });
   }
+  std::vector<T*> rows;
+  Orvel::Value array = nestedValue<T>(layout.shape, [&](std::uint64_t count) {
+    Orvel::Array<T> row = generateArray<T>(count, [](std::uint64_t) { return T{}; });
+    rows.push_back(row.data);
+    return shareArray(std::move(row));
+  });
+  // The value shares the rows.
+  if (!rows.empty()) fillInFortranOrder<Stored>(rows, layout.shape, numbers);
+  return array;
 }
 
 }  // namespace vtlcmd::runner
