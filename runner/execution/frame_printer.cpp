@@ -26,8 +26,7 @@ void FramePrinter::print(const std::string& frame, const std::vector<LogMessage>
     const bool isProblem = message.level <= levelWarning;
     if (hasSeveralFrames_ && isProblem && isRepetition(message)) continue;
     bool& isHeaded = hasHead[isProblem ? 1 : 0];
-    if (hasSeveralFrames_ && !isHeaded)
-      printer_.printLine(headPrefix_, "Frame " + frame + ":", isProblem);
+    if (hasSeveralFrames_ && !isHeaded) printer_.printHead("Frame " + frame + ":", isProblem);
     isHeaded = true;
     printer_.print(message);
   }

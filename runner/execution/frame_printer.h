@@ -38,7 +38,6 @@ class FramePrinter {
   /// Whether a problem was told at an earlier frame already.
   bool isRepetition(const LogMessage& message);
 
-  const std::string headPrefix_ = VtlCmdLogger::makeMessagePrefix(vtlcmdSource, levelProgress);
   std::int16_t verbosity_;
   MessagePrinter printer_;
   bool hasSeveralFrames_;

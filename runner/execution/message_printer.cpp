@@ -15,7 +15,12 @@ constexpr const char* plain = "\x1b[0m";
 
 MessagePrinter::MessagePrinter(const VtlCmdLogger& logger, std::int16_t verbosity, Sinks sinks,
                                Progress& progress)
-    : logger_(logger), verbosity_(verbosity), sinks_(sinks), progress_(progress) {}
+    : logger_(logger), verbosity_(verbosity), sinks_(sinks), progress_(progress) {
+  for (LogLevel level = levelCritical; level <= levelDebug; ++level) {
+    prefixes_[0][level] = VtlCmdLogger::makeMessagePrefix(vtlcmdSource, level);
+    prefixes_[1][level] = VtlCmdLogger::makeMessagePrefix(vantrelSource, level);
+  }
+}
 
 void MessagePrinter::printNew() {
   for (; printed_ < logger_.messages.size(); ++printed_) print(logger_.messages[printed_]);
@@ -28,8 +33,11 @@ void MessagePrinter::print(const LogMessage& message) {
   const char* color = !isProblem || !sinks_.colored   ? ""
                       : message.level == levelWarning ? yellow
                                                       : red;
-  printLine(VtlCmdLogger::makeMessagePrefix(message.source, message.level), message.text, isProblem,
-            color);
+  printLine(prefixOf(message), message.text, isProblem, color);
+}
+
+void MessagePrinter::printHead(std::string_view text, bool isProblem) {
+  printLine(prefixes_[0][levelProgress], text, isProblem, "");
 }
 
 void MessagePrinter::printLine(std::string_view prefix, std::string_view text, bool isProblem,

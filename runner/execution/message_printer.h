@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <iosfwd>
@@ -39,18 +40,23 @@ class MessagePrinter {
   /// Prints a message, if the verbosity admits it. What is printed comes out with `flush` at the
   /// latest: neighbouring lines of one sink go out in one write.
   void print(const LogMessage& message);
-  /// Prints prefix and text as a line where problems go, or where the report goes. `color` is a
-  /// terminal's code.
-  void printLine(std::string_view prefix, std::string_view text, bool isProblem,
-                 const char* color = "");
+  /// Prints a line of the program's own where problems go, or where the report goes.
+  void printHead(std::string_view text, bool isProblem);
   void flush();
 
  private:
   const TextSink& sinkOf(bool isProblem) const {
     return isProblem ? sinks_.problems : sinks_.report;
   }
+  /// `color` is a terminal's code.
+  void printLine(std::string_view prefix, std::string_view text, bool isProblem, const char* color);
+  const std::string& prefixOf(const LogMessage& message) const {
+    return prefixes_[message.source == vtlcmdSource ? 0 : 1][message.level];
+  }
   void writePending();
 
+  /// By side and level.
+  std::array<std::array<std::string, VtlCmdLogger::levelNames.size()>, 2> prefixes_;
   const VtlCmdLogger& logger_;
   std::int16_t verbosity_;
   Sinks sinks_;

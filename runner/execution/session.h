@@ -86,6 +86,7 @@ class Session {
 
   void describeFrame(std::size_t place);
   FrameRecord runFrame();
+  /// Whether every port has a value.
   bool setInputs();
   std::optional<Orvel::Value> setInput(std::size_t index);
   void reportOutputs(const std::vector<Orvel::Value>& values, FrameRecord& record);

@@ -62,6 +62,21 @@ TEST_F(MessagePrinterTest, TheOrderOfTheSinksIsKept) {
                                       "report: [vtlcmd]            three\n", "report flushed"}));
 }
 
+TEST_F(MessagePrinterTest, EveryLineIsBehindThePrefixOfItsSideAndLevel) {
+  MessagePrinter printer(logger_, levelDebug, {{report_}, {problems_}}, progress_);
+  std::vector<std::string> expected;
+  for (const LogSource source : {vtlcmdSource, vantrelSource, LogSource{7}}) {
+    for (LogLevel level = levelCritical; level <= levelDebug; ++level) {
+      const std::string sink = level <= levelWarning ? "problems" : "report";
+      logger_.addMessage(source, level, "text");
+      printer.printNew();
+      expected.push_back(sink + ": " + VtlCmdLogger::makeMessagePrefix(source, level) + "text\n");
+      expected.push_back(sink + " flushed");
+    }
+  }
+  EXPECT_EQ(writes_, expected);
+}
+
 TEST_F(MessagePrinterTest, NothingIsPrintedTwice) {
   logger_.addMessage(vtlcmdSource, levelProgress, "one");
   printer_.printNew();
