@@ -5,18 +5,26 @@
 #include <charconv>
 #include <cmath>
 
+#include "text/spelled_number.h"
+
 namespace vtlcmd::runner {
 namespace {
 
 /// Marks that are nearer to an end would run into its label.
 constexpr double nearestToEnd = 0.13;
 
+/// The nearest double; zero where there is none. On Windows pow misses it by up to several bits,
+/// and one is enough to put a mark a step further.
+double powerOfTen(int exponent) {
+  return spelledNumber<double>("1e" + std::to_string(exponent)).value_or(0);
+}
+
 /// 1, 2 or 5 times a power of ten, near a share of the span. Halves keep the widest span finite.
 /// Zero when there is none.
 double roundStep(double low, double high, int marks) {
   const double wanted = (high / 2 - low / 2) / marks * 2;
   if (!(wanted > 0)) return 0;
-  const double power = std::pow(10, std::floor(std::log10(wanted)));
+  const double power = powerOfTen(static_cast<int>(std::floor(std::log10(wanted))));
   if (!std::isnormal(power)) return 0;
   for (const double factor : {1.0, 2.0, 5.0}) {
     if (wanted <= factor * power * 1.0001) return factor * power;
