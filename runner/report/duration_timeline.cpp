@@ -5,6 +5,7 @@
 
 #include "report/frame_ranges.h"
 #include "report/html_text.h"
+#include "text/json_text.h"
 
 namespace vtlcmd::runner {
 namespace {
@@ -17,10 +18,6 @@ constexpr std::size_t mostLanes = 16;
 // In units of the picture's own coordinates, which the page stretches to the room that there is.
 constexpr double timelineWidth = 1000;
 constexpr double timelineHeight = 100;
-
-std::string workerName(const Json& worker) {
-  return worker.is_string() ? worker.get<std::string>() : worker.dump();
-}
 
 std::string rounded(double number) { return shortNumber(number, 3); }
 
@@ -68,7 +65,7 @@ void DurationTimeline::add(const PageFrame& frame) {
   if (byWorker_.size() > mostLanes) return;
   const auto worker = frame.times.find("worker");
   const std::string name =
-      worker == frame.times.end() ? host : host + " · worker " + workerName(*worker);
+      worker == frame.times.end() ? host : host + " · worker " + plainText(*worker);
   byWorker_[name].add(bar, frame.text);
 }
 

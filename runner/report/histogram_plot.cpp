@@ -8,6 +8,7 @@
 #include "report/html_text.h"
 #include "report/line_plot.h"
 #include "report/plot_size.h"
+#include "text/json_text.h"
 
 namespace vtlcmd::runner {
 namespace {
@@ -15,15 +16,19 @@ namespace {
 /// Of a bar's place, between bars.
 constexpr double gap = 0.08;
 
+/// A path up from the bottom and back.
+std::string bar(double left, const std::string& width, const std::string& height) {
+  return "M" + shortNumber(left, 5) + " 500v-" + height + "h" + width + "v" + height + "z";
+}
+
 std::string barData(const std::vector<std::uint64_t>& counts, const Axis& y) {
   const double room = plotWidth / static_cast<double>(counts.size());
   const std::string thickness = shortNumber(room * (1 - gap), 5);
   std::string data;
   for (std::size_t i = 0; i < counts.size(); ++i) {
     if (counts[i] == 0) continue;
-    const std::string top = shortNumber(y.share(static_cast<double>(counts[i])) * plotHeight, 5);
-    data += "M" + shortNumber((static_cast<double>(i) + gap / 2) * room, 5) + " 500v-" + top + "h" +
-            thickness + "v" + top + "z";
+    const std::string height = shortNumber(y.share(static_cast<double>(counts[i])) * plotHeight, 5);
+    data += bar((static_cast<double>(i) + gap / 2) * room, thickness, height);
   }
   return data;
 }
@@ -59,7 +64,7 @@ std::string histogramHtml(const Json& histogram, const std::string& frame) {
   for (const std::uint64_t count : counts) total += count;
   std::string html = "<figure><figcaption><b>Frame " + htmlText(frame) +
                      "</b> <span class='facts'>" + counted(total, "element");
-  if (counts.size() < 2) html += ", all " + histogram.at("low").dump();
+  if (counts.size() < 2) html += ", all " + jsonText(histogram.at("low"));
   const std::uint64_t notFinite = histogram.at("not_finite");
   if (notFinite > 0) html += ", " + groupedDigits(notFinite) + " more not finite";
   html += "</span></figcaption>";

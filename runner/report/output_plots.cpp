@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 
+#include "text/json_text.h"
+
 namespace vtlcmd::runner {
 namespace {
 
@@ -22,11 +24,6 @@ T& findOrAdd(std::vector<T>& items, Name name, const std::string& wanted) {
   if (found != items.end()) return *found;
   name(items.emplace_back()) = wanted;
   return items.back();
-}
-
-/// The number's own text; what isn't finite is written as a text.
-std::string exactText(const Json& number) {
-  return number.is_string() ? number.get<std::string>() : number.dump();
 }
 
 }  // namespace
@@ -102,7 +99,7 @@ std::vector<OutputPlots::Constants> OutputPlots::constants() const {
   for (const Thing& thing : things_) {
     Constants row{thing.title, {}};
     for (const Series& series : thing.series) {
-      if (!series.changes) row.numbers.emplace_back(series.plot.name, exactText(series.first));
+      if (!series.changes) row.numbers.emplace_back(series.plot.name, plainText(series.first));
     }
     if (!row.numbers.empty()) rows.push_back(std::move(row));
   }

@@ -31,6 +31,8 @@ class OutputPlots {
   std::vector<Constants> constants() const;
 
  private:
+  // A null JSON value needs no memory, so that making one throws nothing.
+  // NOLINTNEXTLINE(bugprone-exception-escape)
   struct Series {
     PlotSeries plot;
     Json first;

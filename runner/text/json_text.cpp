@@ -38,4 +38,8 @@ std::string jsonText(const Json& json, int indent) {
   return safe;
 }
 
+std::string plainText(const Json& json) {
+  return json.is_string() ? json.get<std::string>() : jsonText(json);
+}
+
 }  // namespace vtlcmd::runner

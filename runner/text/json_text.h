@@ -10,4 +10,7 @@ namespace vtlcmd::runner {
 /// too, so that a document can't steer a terminal.
 std::string jsonText(const nlohmann::ordered_json& json, int indent = -1);
 
+/// A text as it is, any other value as its JSON text.
+std::string plainText(const nlohmann::ordered_json& json);
+
 }  // namespace vtlcmd::runner

@@ -50,7 +50,7 @@ class Histogram {
     if constexpr (std::integral<T>) {
       return distance(high_) / mostBins + 1;
     } else {
-      return (double{high_} / 2 - double{low_} / 2) / (mostBins / 2);
+      return (double{high_} / 2 - double{low_} / 2) / (mostBins / 2.0);
     }
   }
 

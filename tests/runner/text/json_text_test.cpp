@@ -13,6 +13,13 @@ TEST(JsonText, ControlCharactersAreEscaped) {
   EXPECT_EQ(jsonText(Json{{"\x7f", 1}}, 2), "{\n  \"\\u007f\": 1\n}");
 }
 
+TEST(PlainText, IsATextItselfAndTheJsonOfAnythingElse) {
+  EXPECT_EQ(plainText("-inf \""), "-inf \"");
+  EXPECT_EQ(plainText(0.1), "0.1");
+  EXPECT_EQ(plainText(Json{1, "a"}), R"([1,"a"])");
+  EXPECT_EQ(plainText(nullptr), "null");
+}
+
 TEST(JsonText, OtherCharactersStay) {
   const std::string text = "\xc2\xa0\xc3\x9f\xe2\x82\xac\xf0\x9f\x98\x80";
   EXPECT_EQ(jsonText(text), '"' + text + '"');
