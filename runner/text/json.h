@@ -3,9 +3,6 @@
 #include <nlohmann/json.hpp>
 #include <string_view>
 
-// Compiled in json.cpp alone: it would be most of what those who include this compile.
-extern template class nlohmann::basic_json<nlohmann::ordered_map>;
-
 namespace vtlcmd::runner {
 
 /// A JSON value whose objects keep their keys in order.
