@@ -46,7 +46,8 @@ def compile_with_labels(command, number, project, out):
     text, made = out / f"{number}.s", out / f"{number}.o"
     words[words.index("-o") + 1] = str(text)
     words[words.index("-c")] = "-S"
-    output(*words, "-g1", cwd=command["directory"])
+    # A header that was compiled before without -g1 is read as text.
+    output(*words, "-g1", "-Wno-invalid-pch", cwd=command["directory"])
 
     def is_ours(file):
         return pathlib.Path(command["directory"], file).resolve().is_relative_to(project / "src")
@@ -61,6 +62,8 @@ def compile_sources(project, build, out, pool):
     """Of every source that the plug-in consists of."""
     commands = [command for command in json.loads((build / "compile_commands.json").read_text())
                 if " -o src/CMakeFiles/" in command["command"]
+                # The precompiled header has a command there too.
+                and pathlib.Path(command["file"]).is_relative_to(project / "src")
                 and not any(f"-D{name} " in command["command"] for name in NOT_MUTATED)]
     return pool.starmap(compile_with_labels, [(command, number, project, out)
                                               for number, command in enumerate(commands)])
