@@ -296,9 +296,10 @@ row_of() {
   return 2
 }
 
-# run_check NAME: keeps its figure; its output goes to a file, and is shown if it fails.
+# run_check NAME: keeps its figure, which there is none of if it fails; then its output is shown.
 run_check() {
   local log=build/check/$1.log began=$SECONDS status
+  rm -f "build/check/$1".{log,figure}
   echo "== $1" >&2
   # A condition around it would make it go on after a failure.
   set +e
@@ -311,23 +312,26 @@ run_check() {
   if ((status != 0)); then
     cat "$log" >&2
     echo "== failed: $1" >&2
-    return 1
+    return
   fi
   tail -n 1 "$log" >"build/check/$1.figure"
   echo "   $1: $(<"build/check/$1.figure") ($((SECONDS - began)) s)" >&2
 }
 
-# run_checks NAME...: one after the other, up to the first that fails.
+# run_checks NAME...: one after the other, whether or not those before have failed.
 run_checks() {
-  local name
-  for name in "$@"; do run_check "$name"; done
+  local name failed=0
+  for name in "$@"; do
+    run_check "$name"
+    [[ -e build/check/$name.figure ]] || failed=1
+  done
+  return $failed
 }
 
 # run_rows ROW...: those of one build one after the other, two builds at a time; then the table.
 run_rows() {
   local figures=build/check/figures.txt name
   mkdir -p build/check
-  for name in "${@%%|*}"; do rm -f "build/check/$name".{log,figure}; done
   export CMAKE_BUILD_PARALLEL_LEVEL=$(nproc)
   printf '%s\n' "$@" | awk -F '|' '
     !($2 in names) { builds[++count] = $2 }

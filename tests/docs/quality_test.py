@@ -82,7 +82,7 @@ class Checks(unittest.TestCase):
         self.assertGreater(len(names), 30)
         self.assertEqual(sorted(names), sorted(name.replace("_", "-") for name in functions))
 
-    def test_a_failure_in_the_middle_ends_a_check_and_those_behind_it(self):
+    def test_a_failure_in_the_middle_ends_a_check_but_not_those_behind_it(self):
         script = f"""set -euo pipefail
             . {PROJECT}/tests/checks.sh
             mkdir -p build/check
@@ -97,8 +97,8 @@ class Checks(unittest.TestCase):
                        for file in pathlib.Path(folder, "build/check").glob("*.figure")}
         self.assertEqual((done.stdout, done.stderr, done.returncode),
                          ("", "== first\n   first: 1 thing (0 s)\n== breaks\nbefore\n"
-                          "== failed: breaks\n", 1))
-        self.assertEqual(figures, {"first.figure": "1 thing\n"})
+                          "== failed: breaks\n== last\n   last: 2 things (0 s)\n", 1))
+        self.assertEqual(figures, {"first.figure": "1 thing\n", "last.figure": "2 things\n"})
 
     def test_another_is_refused(self):
         done = subprocess.run(["bash", "dev", "check", "layout"], cwd=PROJECT, text=True,
