@@ -45,12 +45,14 @@ TEST(PortValueMap, FindsEveryNameOfManyExactly) {
 }
 
 TEST(PortValueMap, LaterEntryReplacesTheEarlier) {
-  PortValueMap map;
-  map.insert("count", {"", "1"});
-  map.insert("count", {"", "2"});
-  EXPECT_EQ(map.size(), 1U);
-  ASSERT_NE(map.find("count"), nullptr);
-  EXPECT_STREQ(map.find("count")->text.c_str(), "2");
+  for (const char* name : {"count", ""}) {
+    PortValueMap map;
+    map.insert(name, {"", "1"});
+    map.insert(name, {"", "2"});
+    EXPECT_EQ(map.size(), 1U);
+    ASSERT_NE(map.find(name), nullptr);
+    EXPECT_STREQ(map.find(name)->text.c_str(), "2");
+  }
 }
 
 TEST(PortValueMap, EmptyNameAndEmptyTextAreEntriesLikeAnyOther) {
@@ -67,6 +69,14 @@ TEST(PortValueMap, EmptyNameIsFoundAfterGrowth) {
     map.insert(("port" + std::to_string(i)).c_str(), {});
     ASSERT_NE(map.find(""), nullptr) << i;
   }
+}
+
+TEST(PortValueMap, EmptyNameIsFoundInAMapOfMany) {
+  PortValueMap map;
+  for (int i = 0; i < 1000; ++i) map.insert(("port" + std::to_string(i)).c_str(), {});
+  map.insert("", {"", "empty"});
+  ASSERT_NE(map.find(""), nullptr);
+  EXPECT_STREQ(map.find("")->text.c_str(), "empty");
 }
 
 TEST(PortValueMap, CopiesStandAlone) {
