@@ -22,7 +22,7 @@ TEST(Utf8Path, IsTheWayBack) {
   const std::string path =
       "/a\x7F\xC2\x80\xDF\xBF\xE0\xA0\x80\xEF\xBF\xBF\xF0\x90\x80\x80\xF4\x8F\xBF\xBF";
   EXPECT_EQ(utf8Path(widePath(path)), path);
-  EXPECT_EQ(utf8Path(L""), "");
+  EXPECT_EQ(utf8Path({}), "");
 }
 
 TEST(Utf8Path, WritesAQuestionMarkForWhatIsNoCharacter) {
