@@ -20,6 +20,9 @@ SlurmctldPort={ports[0]}
 SlurmUser={user}
 SlurmdUser={user}
 AuthType=auth/none
+# A requeued job starts after so many seconds, by default two minutes. Its node refuses it in the
+# second in which it was ended, so StartTime=now would be too early.
+AuthInfo=cred_expire=10
 CredType=cred/none
 ProctrackType=proctrack/linuxproc
 TaskPlugin=task/none
@@ -28,7 +31,7 @@ AccountingStorageType=accounting_storage/none
 JobCompType=jobcomp/none
 SelectType=select/cons_tres
 SelectTypeParameters=CR_Core
-SchedulerParameters=batch_sched_delay=0,sched_min_interval=0
+SchedulerParameters=batch_sched_delay=0,sched_min_interval=0,sched_interval=1
 ReturnToService=2
 SlurmdTimeout=5
 MaxArraySize={array_size}
