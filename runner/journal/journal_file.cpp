@@ -9,16 +9,20 @@
 namespace vtlcmd::runner {
 
 JournalFile::JournalFile(const std::filesystem::path& file) : file_(file) {
-  errno = 0;
-  stream_.open(file, std::ios::in | std::ios::out | std::ios::binary | std::ios::trunc);
-  if (!stream_) throwLastError();
+  open(std::ios::trunc);
 }
 
 JournalFile::JournalFile(const std::filesystem::path& file, std::uint64_t size) : file_(file) {
   std::filesystem::resize_file(file, size);
+  open(std::ios::app);
+}
+
+void JournalFile::open(std::ios::openmode mode) {
   errno = 0;
-  stream_.open(file, std::ios::in | std::ios::out | std::ios::binary | std::ios::ate);
-  if (!stream_) throwLastError();
+  written_.rdbuf()->pubsetbuf(nullptr, 0);
+  written_.open(file_, std::ios::binary | mode);
+  if (written_) read_.open(file_, std::ios::binary);
+  if (!written_ || !read_) throwLastError();
 }
 
 JournalFile JournalFile::temporary() {
@@ -34,18 +38,19 @@ JournalFile JournalFile::temporary() {
 
 void JournalFile::append(const std::string& line) {
   errno = 0;
-  stream_ << line << std::flush;
-  if (!stream_) throwLastError();
+  written_ << line << std::flush;
+  if (!written_) throwLastError();
 }
 
 std::istream& JournalFile::lines() {
-  stream_.clear();
-  stream_.seekg(0);
-  return stream_;
+  read_.clear();
+  read_.seekg(0);
+  return read_;
 }
 
 void JournalFile::remove() noexcept {
-  stream_.close();
+  written_.close();
+  read_.close();
   std::error_code ignored;
   std::filesystem::remove(file_, ignored);
 }

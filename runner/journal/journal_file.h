@@ -36,8 +36,13 @@ class JournalFile {
   const std::filesystem::path& path() const noexcept { return file_; }
 
  private:
+  /// Opens both streams of the file.
+  void open(std::ios::openmode mode);
+
   std::filesystem::path file_;
-  std::fstream stream_;
+  /// Without a buffer: what couldn't be written of a line must not come behind it later.
+  std::ofstream written_;
+  std::ifstream read_;
 };
 
 }  // namespace vtlcmd::runner

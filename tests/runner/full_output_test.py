@@ -7,6 +7,7 @@ import pathlib
 import resource
 import subprocess
 import tempfile
+from functools import partial
 
 from expectations import expect, finish
 
@@ -44,14 +45,23 @@ with tempfile.TemporaryDirectory() as name:
            (75, f"[vtlcmd]  Error:    Saving output port 'points' failed: {folder}/full.npy: "
                 "No space left on device\n"))
 
-    def limit():
-        resource.setrlimit(resource.RLIMIT_FSIZE, (100_000, 100_000))
-
     journal = folder / "run.json.journal"
-    code, errors = outcome(*MANY_FRAMES, "--report", folder / "run.json", preexec_fn=limit)
-    expect("the journal's limit", (code, errors.splitlines()[0]),
-           (1, f"vtlcmd: the journal can't be written to {journal}: File too large"))
-    expect("the journal is kept", journal.exists(), True)
+
+    def run_into_limit(size):
+        limit = partial(resource.setrlimit, resource.RLIMIT_FSIZE, (size, size))
+        code, errors = outcome(*MANY_FRAMES, "--report", folder / "run.json", preexec_fn=limit)
+        expect(f"the journal's limit, {size} bytes", (code, errors.splitlines()[0]),
+               (1, f"vtlcmd: the journal can't be written to {journal}: File too large"))
+        expect("the journal is kept", journal.stat().st_size, size)
+
+    run_into_limit(100_000)
+    first, second, *_ = journal.read_bytes().splitlines(keepends=True)
+    journal.unlink()
+    # A line of any length may be torn, the short one at a frame's start too, anywhere.
+    for size in range(len(first), len(first) + len(second) + 2, 9):
+        run_into_limit(size)
+        journal.unlink()
+    run_into_limit(100_000)
     # What fits a journal need not fit the report that is made of it.
     if (folder / "run.json").exists():
         report = json.loads((folder / "run.json").read_text())
