@@ -1,7 +1,6 @@
 // Prints normal floats of both signs with nine digits, which tell any two of them apart, and parses
 // them back to the same bits.
 
-#include <CLI/CLI.hpp>
 #include <array>
 #include <atomic>
 #include <bit>
@@ -13,6 +12,7 @@
 #include <thread>
 #include <vector>
 
+#include "options.h"
 #include "vtlcmd/input/number_parsing.h"
 
 namespace {
@@ -66,12 +66,10 @@ std::uint64_t failuresOfRun(std::uint64_t run, std::uint64_t threads, std::uint6
 int main(int argumentCount, char** arguments) try {
   std::uint64_t stride = 5;
   bool exhaustive = false;
-  CLI::App app("Prints floats with nine digits and parses them back.");
-  app.add_option("--stride", stride, "Take every so many")
-      ->check(CLI::PositiveNumber)
-      ->capture_default_str();
-  app.add_flag("--exhaustive", exhaustive, "Take every float there is");
-  CLI11_PARSE(app, argumentCount, arguments);
+  vtlcmd::oracle::readOptions(argumentCount, arguments,
+                              "Prints floats with nine digits and parses them back.",
+                              {{"--stride", &stride, "Take every so many", 1},
+                               {"--exhaustive", &exhaustive, "Take every float there is"}});
   if (exhaustive) stride = 1;
 
   constexpr std::uint64_t threads = 2;

@@ -1,7 +1,6 @@
 // Holds the text of numbers against what a stream in its default state writes, in two global
 // locales and all rounding modes.
 
-#include <CLI/CLI.hpp>
 #include <array>
 #include <atomic>
 #include <bit>
@@ -18,6 +17,7 @@
 #include <thread>
 #include <vector>
 
+#include "options.h"
 #include "random_source.h"
 #include "support/scoped_locale.h"
 #include "vtlcmd/text/text_builder.h"
@@ -145,13 +145,11 @@ void compareIn(const RoundingMode& mode, const char* locale, const Amounts& amou
 int main(int argumentCount, char** arguments) try {
   Amounts amounts{65'537, 20'000};
   bool exhaustive = false;
-  CLI::App app("Holds the text of numbers against a stream's.");
-  app.add_option("--stride", amounts.stride, "Take every so many floats")
-      ->check(CLI::PositiveNumber)
-      ->capture_default_str();
-  app.add_option("--doubles", amounts.doubles, "Pairs of doubles")->capture_default_str();
-  app.add_flag("--exhaustive", exhaustive, "Take every float there is, and ten million doubles");
-  CLI11_PARSE(app, argumentCount, arguments);
+  vtlcmd::oracle::readOptions(
+      argumentCount, arguments, "Holds the text of numbers against a stream's.",
+      {{"--stride", &amounts.stride, "Take every so many floats", 1},
+       {"--doubles", &amounts.doubles, "Pairs of doubles"},
+       {"--exhaustive", &exhaustive, "Take every float there is, and ten million doubles"}});
   if (exhaustive) amounts = {1, 5'000'000};
 
   Counts all;

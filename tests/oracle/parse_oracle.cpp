@@ -1,12 +1,12 @@
 // Compares everything that reads a port's text with the model, for each type and text.
 
-#include <CLI/CLI.hpp>
 #include <cstdint>
 #include <exception>
 #include <iostream>
 #include <string>
 
 #include "input_comparison.h"
+#include "options.h"
 #include "text_generator.h"
 
 using namespace vtlcmd::oracle;
@@ -15,11 +15,11 @@ int main(int argumentCount, char** arguments) try {
   std::uint64_t count = 50'000;
   std::uint64_t seed = 1;
   bool hard = false;
-  CLI::App app("Compares the parsers with an independent model over seeded texts.");
-  app.add_option("--count", count, "Number of texts")->capture_default_str();
-  app.add_option("--seed", seed, "Seed of the texts")->capture_default_str();
-  app.add_flag("--hard", hard, "Only numbers at limits and half-way between two neighbours");
-  CLI11_PARSE(app, argumentCount, arguments);
+  readOptions(argumentCount, arguments,
+              "Compares the parsers with an independent model over seeded texts.",
+              {{"--count", &count, "Number of texts"},
+               {"--seed", &seed, "Seed of the texts"},
+               {"--hard", &hard, "Only numbers at limits and half-way between two neighbours"}});
 
   TextGenerator generator(seed, hard ? TextFamily::hardNumbers : TextFamily::mixed);
   for (std::uint64_t index = 0; index < count; ++index) {

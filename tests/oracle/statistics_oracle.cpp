@@ -1,6 +1,5 @@
 // Compares the statistics blocks of arrays with the model, for each element type that has one.
 
-#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
@@ -11,6 +10,7 @@
 #include <vector>
 
 #include "element_generator.h"
+#include "options.h"
 #include "random_source.h"
 #include "statistics_comparison.h"
 
@@ -67,10 +67,9 @@ std::string largeDifference() {
 int main(int argumentCount, char** arguments) try {
   std::uint64_t count = 50'000;
   std::uint64_t seed = 1;
-  CLI::App app("Compares array statistics with an independent model over seeded arrays.");
-  app.add_option("--count", count, "Number of arrays")->capture_default_str();
-  app.add_option("--seed", seed, "Seed of the arrays")->capture_default_str();
-  CLI11_PARSE(app, argumentCount, arguments);
+  readOptions(argumentCount, arguments,
+              "Compares array statistics with an independent model over seeded arrays.",
+              {{"--count", &count, "Number of arrays"}, {"--seed", &seed, "Seed of the arrays"}});
 
   RandomSource random(seed);
   for (std::uint64_t index = 0; index < count; ++index) {
