@@ -10,26 +10,26 @@ namespace vtlcmd::runner {
 namespace {
 
 /// Place in the job and number.
-using Frames = std::vector<std::pair<std::size_t, double>>;
+using PlacedFrames = std::vector<std::pair<std::size_t, double>>;
 
-Frames framesIn(const FrameList& list) {
-  Frames frames;
+PlacedFrames placedFrames(const FrameList& list) {
+  PlacedFrames frames;
   for (std::size_t i = 0; i < list.size(); ++i) frames.emplace_back(list.placeInWhole(i), list[i]);
   return frames;
 }
 
 TEST(JobFrames, HaveThePlacesOfTheJob) {
   const FrameList part = parsePartOfJob("4-6", "1-10");
-  EXPECT_EQ(framesIn(part), (Frames{{3, 4}, {4, 5}, {5, 6}}));
+  EXPECT_EQ(placedFrames(part), (PlacedFrames{{3, 4}, {4, 5}, {5, 6}}));
   EXPECT_EQ(part.wholeSize(), 10U);
-  EXPECT_EQ(framesIn(parsePartOfJob("1-10", "10-1")), [] {
-    Frames frames;
+  EXPECT_EQ(placedFrames(parsePartOfJob("1-10", "10-1")), [] {
+    PlacedFrames frames;
     for (std::size_t i = 0; i < 10; ++i) frames.emplace_back(9 - i, static_cast<double>(i + 1));
     return frames;
   }());
-  EXPECT_EQ(framesIn(parsePartOfJob("20,5,7,6", "5-7,20-22x2,1")),
-            (Frames{{3, 20}, {0, 5}, {2, 7}, {1, 6}}));
-  EXPECT_EQ(framesIn(parsePartOfJob("7,20", "5-7,20-22x2,1")), (Frames{{2, 7}, {3, 20}}));
+  EXPECT_EQ(placedFrames(parsePartOfJob("20,5,7,6", "5-7,20-22x2,1")),
+            (PlacedFrames{{3, 20}, {0, 5}, {2, 7}, {1, 6}}));
+  EXPECT_EQ(placedFrames(parsePartOfJob("7,20", "5-7,20-22x2,1")), (PlacedFrames{{2, 7}, {3, 20}}));
 }
 
 TEST(JobFrames, HaveTheNumbersOfTheJobAlsoWhereStepsAreInexact) {
@@ -41,13 +41,13 @@ TEST(JobFrames, HaveTheNumbersOfTheJobAlsoWhereStepsAreInexact) {
   }
 }
 
-struct Refusal {
+struct RefusedPart {
   const char* frames;
   const char* jobFrames;
   const char* message;
 };
 
-class RefusedJobFrames : public testing::TestWithParam<Refusal> {};
+class RefusedJobFrames : public testing::TestWithParam<RefusedPart> {};
 
 TEST_P(RefusedJobFrames, SayWhy) {
   try {
@@ -60,12 +60,12 @@ TEST_P(RefusedJobFrames, SayWhy) {
 
 INSTANTIATE_TEST_SUITE_P(
     All, RefusedJobFrames,
-    testing::Values(Refusal{"9-11", "1-10", "--job-frames: '1-10' lacks frame 11 of '9-11'"},
-                    Refusal{"0", "1-10", "--job-frames: '1-10' lacks frame 0 of '0'"},
-                    Refusal{"2.5", "1-10", "--job-frames: '1-10' lacks frame 2.5 of '2.5'"},
-                    Refusal{"2", "1-10x2", "--job-frames: '1-10x2' lacks frame 2 of '2'"},
-                    Refusal{"1", "1-10,7", "--job-frames: '1-10,7' has frame 7 twice"},
-                    Refusal{"1", "",
+    testing::Values(RefusedPart{"9-11", "1-10", "--job-frames: '1-10' lacks frame 11 of '9-11'"},
+                    RefusedPart{"0", "1-10", "--job-frames: '1-10' lacks frame 0 of '0'"},
+                    RefusedPart{"2.5", "1-10", "--job-frames: '1-10' lacks frame 2.5 of '2.5'"},
+                    RefusedPart{"2", "1-10x2", "--job-frames: '1-10x2' lacks frame 2 of '2'"},
+                    RefusedPart{"1", "1-10,7", "--job-frames: '1-10,7' has frame 7 twice"},
+                    RefusedPart{"1", "",
                             "the frames '' make no sense: a number is missing at the end"}));
 
 }  // namespace

@@ -8,7 +8,7 @@
 namespace vtlcmd::runner {
 namespace {
 
-std::vector<std::string> framesIn(const std::string& document) {
+std::vector<std::string> framesInReport(const std::string& document) {
   std::istringstream stream(document);
   ReportFrames report(stream);
   EXPECT_EQ(report.run(), Json({{"graph", "a"}})) << document;
@@ -19,27 +19,27 @@ std::vector<std::string> framesIn(const std::string& document) {
 
 TEST(ReportFrames, ComeOneByOneWhateverStandsAround) {
   const std::vector<std::string> frames{R"({"frame":"1"})", R"({"frame":"2"})"};
-  EXPECT_EQ(framesIn(R"({"run":{"graph":"a"},"frames":[{"frame":"1"},{"frame":"2"}]})"), frames);
+  EXPECT_EQ(framesInReport(R"({"run":{"graph":"a"},"frames":[{"frame":"1"},{"frame":"2"}]})"), frames);
   EXPECT_EQ(
-      framesIn("{\n \"form\" : 2,\r\n\t\"run\" : { \"graph\" : \"a\" } ,\"frames\":\n[ "
+      framesInReport("{\n \"form\" : 2,\r\n\t\"run\" : { \"graph\" : \"a\" } ,\"frames\":\n[ "
                "{\"frame\":\"1\"}\n, {\"frame\":\"2\"} ] , \"times\": {\"frames\":[3]} }\n\n"),
       frames);
 }
 
 TEST(ReportFrames, MayComeBeforeTheRun) {
   EXPECT_EQ(
-      framesIn(R"({"exit_code":0,"frames":[{"frame":"1"}],"missing":null,"run":{"graph":"a"}})"),
+      framesInReport(R"({"exit_code":0,"frames":[{"frame":"1"}],"missing":null,"run":{"graph":"a"}})"),
       (std::vector<std::string>{R"({"frame":"1"})"}));
 }
 
 TEST(ReportFrames, MayHaveBracketsInTheirTexts) {
   EXPECT_EQ(
-      framesIn(R"({"messages":"]}\"{\\","run":{"graph":"a"},"frames":[{"a":"]\"}"},["\\"]]})"),
+      framesInReport(R"({"messages":"]}\"{\\","run":{"graph":"a"},"frames":[{"a":"]\"}"},["\\"]]})"),
       (std::vector<std::string>{R"({"a":"]\"}"})", R"(["\\"])"}));
 }
 
 TEST(ReportFrames, MayBeNone) {
-  EXPECT_TRUE(framesIn(R"({"run":{"graph":"a"},"frames":[ ]})").empty());
+  EXPECT_TRUE(framesInReport(R"({"run":{"graph":"a"},"frames":[ ]})").empty());
 }
 
 TEST(ReportFrames, AreNotInWhatIsNoReport) {

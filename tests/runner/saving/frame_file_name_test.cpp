@@ -8,7 +8,7 @@ namespace {
 
 std::string nameAt(const char* text, double frame) { return FrameFileName(text).at(frame); }
 
-std::string refusalOf(const char* text) {
+std::string nameRefusal(const char* text) {
   try {
     const FrameFileName name(text);
   } catch (const std::invalid_argument& error) {
@@ -43,10 +43,10 @@ TEST(FrameFileName, TellsWhatItWants) {
 TEST(FrameFileName, RefusesOtherForms) {
   for (const char* form : {"{frame:4}", "{frame:0}", "{frame:00}", "{frame:0x}", "{frame:0100}",
                            "{frame:-04}", "{frame04}", "{frames}"}) {
-    EXPECT_EQ(refusalOf(form),
+    EXPECT_EQ(nameRefusal(form),
               "'" + std::string(form) + "' is no form of the frame; {frame} and {frame:04} are");
   }
-  EXPECT_EQ(refusalOf("a{frame:04.npy"), "'{frame:04.npy' has no '}'");
+  EXPECT_EQ(nameRefusal("a{frame:04.npy"), "'{frame:04.npy' has no '}'");
 }
 
 }  // namespace

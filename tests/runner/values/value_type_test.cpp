@@ -5,7 +5,7 @@
 namespace vtlcmd::runner {
 namespace {
 
-std::string refusalOf(const std::string& text) {
+std::string typeRefusal(const std::string& text) {
   try {
     parseValueType(text);
   } catch (const std::invalid_argument& error) {
@@ -29,12 +29,12 @@ TEST(ValueType, PutsThemTogether) {
 }
 
 TEST(ValueType, RefusesOthers) {
-  EXPECT_EQ(refusalOf(""), "'' is no type");
-  EXPECT_EQ(refusalOf("array<>"), "'array<>' is no type");
-  EXPECT_EQ(refusalOf("array<int"), "'array<int' is no type");
-  EXPECT_EQ(refusalOf("array< int>"), "'array< int>' is no type; did you mean 'int' or 'uint'?");
-  EXPECT_EQ(refusalOf("Int"), "'Int' is no type; did you mean 'int'?");
-  EXPECT_EQ(refusalOf("Math::flaot3"),
+  EXPECT_EQ(typeRefusal(""), "'' is no type");
+  EXPECT_EQ(typeRefusal("array<>"), "'array<>' is no type");
+  EXPECT_EQ(typeRefusal("array<int"), "'array<int' is no type");
+  EXPECT_EQ(typeRefusal("array< int>"), "'array< int>' is no type; did you mean 'int' or 'uint'?");
+  EXPECT_EQ(typeRefusal("Int"), "'Int' is no type; did you mean 'int'?");
+  EXPECT_EQ(typeRefusal("Math::flaot3"),
             "'Math::flaot3' is no type; did you mean 'Math::float3', 'Math::float2' or "
             "'Math::float4'?");
 }
@@ -45,8 +45,8 @@ TEST(ValueType, LimitsTheDepth) {
     for (int i = 0; i < depth; ++i) name = "array<" + name + ">";
     return name;
   };
-  EXPECT_EQ(refusalOf(nested(256)), "accepted");
-  EXPECT_EQ(refusalOf(nested(257)), "a type has at most 256 array levels");
+  EXPECT_EQ(typeRefusal(nested(256)), "accepted");
+  EXPECT_EQ(typeRefusal(nested(257)), "a type has at most 256 array levels");
 }
 
 }  // namespace
