@@ -12,6 +12,7 @@
 #endif
 
 #include "vtlcmd/output/statistics/kernels.h"
+#include "vtlcmd/output/statistics/prefetch_distance.h"
 #include "vtlcmd/output/statistics/runnable_rows.h"
 
 namespace vtlcmd::statistics {
@@ -39,9 +40,12 @@ struct ThisProcessor {
 #ifdef CPU_FEATURE_PRESENT
   // The C library has asked already.
   static CpuidLeaf leaf(unsigned number) noexcept {
-    const auto& [eax, ebx, ecx, edx] =
-        __x86_get_cpuid_feature_leaf(number == 1 ? CPUID_INDEX_1 : CPUID_INDEX_7)->cpuid_array;
+    const auto& [eax, ebx, ecx, edx] = __x86_get_cpuid_feature_leaf(indexOf(number))->cpuid_array;
     return {eax, ebx, ecx, edx};
+  }
+  static unsigned indexOf(unsigned number) noexcept {
+    if (number == 1) return CPUID_INDEX_1;
+    return number == 7 ? CPUID_INDEX_7 : CPUID_INDEX_80000001;
   }
 #else
   static CpuidLeaf leaf(unsigned number) noexcept {
@@ -57,12 +61,14 @@ struct ThisProcessor {
 };
 
 std::size_t runnableCount() noexcept { return runnableRows(ThisProcessor{}); }
+std::uint64_t distance() noexcept { return prefetchDistance(ThisProcessor{}); }
 
 #else
 
 constexpr KernelRow rows[]{{"baseline", &baseline::kernels}};
 
 std::size_t runnableCount() noexcept { return 1; }
+std::uint64_t distance() noexcept { return usualPrefetchDistance; }
 
 #endif
 
@@ -73,5 +79,6 @@ std::span<const KernelRow> runnableKernels() noexcept {
 }
 
 const KernelSet* const chosenKernels = runnableKernels().back().kernels;
+const std::uint64_t bytesAhead = distance();
 
 }  // namespace vtlcmd::statistics

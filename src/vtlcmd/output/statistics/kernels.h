@@ -52,4 +52,8 @@ std::span<const KernelRow> runnableKernels() noexcept;
 /// The fastest ones. Set while the library loads and constant from then on.
 extern const KernelSet* const chosenKernels;
 
+/// How many bytes ahead of them the kernels have the memory get what they will read. Set like
+/// chosenKernels.
+extern const std::uint64_t bytesAhead;
+
 }  // namespace vtlcmd::statistics

@@ -3,6 +3,8 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "vtlcmd/output/statistics/kernels.h"
+
 namespace vtlcmd::statistics::VTLCMD_KERNELS {
 
 /// Bytes of the widest vectors of the processor that is compiled for.
@@ -37,12 +39,12 @@ inline constexpr std::size_t vectorsAStep = 4;
 template <typename T>
 inline constexpr std::size_t elementsAStep = vectorsAStep* LanesOf<T>::count;
 
-/// Has the memory get what the step from element i will find some steps later, but nothing behind
-/// the last step of `count` elements: left to itself the processor asks for it too late.
+/// Has the memory get what lies so far ahead of the step from element i, but nothing behind the
+/// last step of `count` elements.
 template <typename T>
 void prefetch(const T* elements, std::uint64_t i, std::uint64_t count) {
   constexpr std::size_t cacheLine = 64 / sizeof(T);
-  constexpr std::uint64_t ahead = 3072 / sizeof(T);
+  const std::uint64_t ahead = bytesAhead / sizeof(T);
   const std::uint64_t last = count - elementsAStep<T>;
   const T* step = elements + (i + ahead < last ? i + ahead : last);
 #pragma GCC unroll 4

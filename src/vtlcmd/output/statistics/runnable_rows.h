@@ -3,15 +3,9 @@
 #include <cstddef>
 #include <cstdint>
 
-namespace vtlcmd::statistics {
+#include "vtlcmd/output/statistics/cpuid_leaf.h"
 
-/// What the processor answers to the question of this number.
-struct CpuidLeaf {
-  unsigned eax;
-  unsigned ebx;
-  unsigned ecx;
-  unsigned edx;
-};
+namespace vtlcmd::statistics {
 
 // Bits of the answers, from the processors' manuals.
 namespace leaf1_ecx {
@@ -27,15 +21,11 @@ inline constexpr std::uint64_t avx = 0x6;
 inline constexpr std::uint64_t avx512 = 0xe6;
 }  // namespace saved_registers
 
-constexpr bool hasAll(std::uint64_t flags, std::uint64_t wanted) noexcept {
-  return (flags & wanted) == wanted;
-}
-
 /// How many rows of the table of kernels an x86-64 processor runs under its system, from 1 to 3.
 ///
-/// `processor.leaf(number)` answers as CpuidLeaf, with zeros to a question that it doesn't know;
-/// `processor.savedRegisters()` tells which registers the system saves when it changes threads, and
-/// is asked only where the answers before say that it may be.
+/// `processor.leaf(number)` answers as CpuidLeaf; `processor.savedRegisters()` tells which
+/// registers the system saves when it changes threads, and is asked only where the answers before
+/// say that it may be.
 template <typename Processor>
 std::size_t runnableRows(const Processor& processor) noexcept {
   if (!hasAll(processor.leaf(1).ecx, leaf1_ecx::osxsave | leaf1_ecx::avx)) return 1;
