@@ -39,7 +39,7 @@ long_checks=(
   'gcc-sanitizers|asan-ubsan-gcc|the tests under the sanitizers of the other compiler'
   'memcheck|release|the tests of the plug-in touch no wrong memory and lose none (valgrind)'
   'runner-coverage|coverage|tests reach at least 95 % of the lines of the runner, and 85 % of its branches'
-  'lint-everything|lint|clang-tidy finds nothing in the other sources'
+  'lint-others|lint|clang-tidy finds nothing in the other sources'
   'kills|release|a run that is killed goes on where it was'
   'failing-calls|release|any allocation, read or write that fails ends a run in an orderly way'
   'twice|none|two builds of one commit make the same packages'
@@ -157,7 +157,7 @@ lint() {
 
 check_lint() { lint src; }
 
-check_lint_everything() { lint closed runner validator; }
+check_lint_others() { lint closed runner validator; }
 
 # Those that the second compiler doesn't see, with its own idea of that platform.
 check_windows_lint() {
