@@ -8,9 +8,7 @@
 
 namespace vtlcmd::runner {
 
-JournalFile::JournalFile(const std::filesystem::path& file) : file_(file) {
-  open(std::ios::trunc);
-}
+JournalFile::JournalFile(const std::filesystem::path& file) : file_(file) { open(std::ios::trunc); }
 
 JournalFile::JournalFile(const std::filesystem::path& file, std::uint64_t size) : file_(file) {
   std::filesystem::resize_file(file, size);

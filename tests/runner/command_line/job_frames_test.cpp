@@ -66,7 +66,7 @@ INSTANTIATE_TEST_SUITE_P(
                     RefusedPart{"2", "1-10x2", "--job-frames: '1-10x2' lacks frame 2 of '2'"},
                     RefusedPart{"1", "1-10,7", "--job-frames: '1-10,7' has frame 7 twice"},
                     RefusedPart{"1", "",
-                            "the frames '' make no sense: a number is missing at the end"}));
+                                "the frames '' make no sense: a number is missing at the end"}));
 
 }  // namespace
 }  // namespace vtlcmd::runner

@@ -19,23 +19,24 @@ std::vector<std::string> framesInReport(const std::string& document) {
 
 TEST(ReportFrames, ComeOneByOneWhateverStandsAround) {
   const std::vector<std::string> frames{R"({"frame":"1"})", R"({"frame":"2"})"};
-  EXPECT_EQ(framesInReport(R"({"run":{"graph":"a"},"frames":[{"frame":"1"},{"frame":"2"}]})"), frames);
-  EXPECT_EQ(
-      framesInReport("{\n \"form\" : 2,\r\n\t\"run\" : { \"graph\" : \"a\" } ,\"frames\":\n[ "
-               "{\"frame\":\"1\"}\n, {\"frame\":\"2\"} ] , \"times\": {\"frames\":[3]} }\n\n"),
-      frames);
+  EXPECT_EQ(framesInReport(R"({"run":{"graph":"a"},"frames":[{"frame":"1"},{"frame":"2"}]})"),
+            frames);
+  EXPECT_EQ(framesInReport(
+                "{\n \"form\" : 2,\r\n\t\"run\" : { \"graph\" : \"a\" } ,\"frames\":\n[ "
+                "{\"frame\":\"1\"}\n, {\"frame\":\"2\"} ] , \"times\": {\"frames\":[3]} }\n\n"),
+            frames);
 }
 
 TEST(ReportFrames, MayComeBeforeTheRun) {
-  EXPECT_EQ(
-      framesInReport(R"({"exit_code":0,"frames":[{"frame":"1"}],"missing":null,"run":{"graph":"a"}})"),
-      (std::vector<std::string>{R"({"frame":"1"})"}));
+  EXPECT_EQ(framesInReport(
+                R"({"exit_code":0,"frames":[{"frame":"1"}],"missing":null,"run":{"graph":"a"}})"),
+            (std::vector<std::string>{R"({"frame":"1"})"}));
 }
 
 TEST(ReportFrames, MayHaveBracketsInTheirTexts) {
-  EXPECT_EQ(
-      framesInReport(R"({"messages":"]}\"{\\","run":{"graph":"a"},"frames":[{"a":"]\"}"},["\\"]]})"),
-      (std::vector<std::string>{R"({"a":"]\"}"})", R"(["\\"])"}));
+  EXPECT_EQ(framesInReport(
+                R"({"messages":"]}\"{\\","run":{"graph":"a"},"frames":[{"a":"]\"}"},["\\"]]})"),
+            (std::vector<std::string>{R"({"a":"]\"}"})", R"(["\\"])"}));
 }
 
 TEST(ReportFrames, MayBeNone) {
