@@ -39,7 +39,7 @@ long_checks=(
   'gcc-sanitizers|asan-ubsan-gcc|the tests under the sanitizers of the other compiler'
   'memcheck|release|the tests of the plug-in touch no wrong memory and lose none (valgrind)'
   'runner-coverage|coverage|tests reach at least 95 % of the lines of the runner, and 85 % of its branches'
-  'lint-others|lint|clang-tidy finds nothing in the other sources'
+  'lint-others|lint|clang-tidy finds nothing in the sources outside of the plug-in'
   'kills|release|a run that is killed goes on where it was'
   'failing-calls|release|any allocation, read or write that fails ends a run in an orderly way'
   'twice|none|two builds of one commit make the same packages'

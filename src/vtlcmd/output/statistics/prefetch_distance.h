@@ -17,7 +17,7 @@ inline constexpr unsigned sse4a = 1U << 6U;
 /// answers as CpuidLeaf.
 ///
 /// Those with SSE4a keep up with the memory when they are asked twice for where the pass is, and
-/// take up to a quarter longer when they are asked ahead (seen with 21 to 28 GB/s).
+/// take up to a quarter longer when they are asked ahead (seen on one, with 21 to 28 GB/s).
 template <typename Processor>
 std::uint64_t prefetchDistance(const Processor& processor) noexcept {
   return hasAll(processor.leaf(0x8000'0001).ecx, leaf80000001_ecx::sse4a) ? 0
