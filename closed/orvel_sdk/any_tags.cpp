@@ -11,15 +11,10 @@
 namespace Orvel::Internal {
 namespace {
 
-struct TagStart {
-  std::string_view spelling;
-  std::uint8_t kind;
-};
-
-/// By place in `storedTypes`.
-constexpr std::array storedTagStarts = std::apply(
+/// By place in `storedTypes`; those of arrays have other ranks.
+constexpr std::array storedTags = std::apply(
     [](const auto&... row) {
-      return std::array{TagStart{row.tagSpelling, row.tagKind}...};
+      return std::array{vtlcmd::makeTag(row.tagSpelling, row.tagKind, 0)...};
     },
     storedTypes);
 
@@ -38,10 +33,12 @@ std::string structSpelling(std::string_view name) {
 
 const TypeInfo& tagOf(const TypeRep& type) {
   const TypeRep& element = innermostOf(type);
-  const bool stored = element.storedIndex != TypeRep::notStored;
-  std::tuple key(stored ? std::string(storedTagStarts[element.storedIndex].spelling)
-                        : structSpelling(viewOf(element.name)),
-                 stored ? storedTagStarts[element.storedIndex].kind : std::uint8_t{0}, type.depth);
+  const TypeInfo* stored =
+      element.storedIndex == TypeRep::notStored ? nullptr : &storedTags[element.storedIndex];
+  if (stored != nullptr && type.depth == 0) return *stored;
+  std::tuple key(stored == nullptr ? structSpelling(viewOf(element.name))
+                                   : std::string(stored->name, stored->length),
+                 stored == nullptr ? std::uint8_t{0} : stored->kind, type.depth);
 
   static std::mutex mutex;
   // Never ended: values may be looked at while the process exits.
