@@ -7,9 +7,9 @@
 namespace vtlcmd::runner {
 namespace {
 
-constexpr const char* red = "\x1b[31m";
-constexpr const char* yellow = "\x1b[33m";
-constexpr const char* plain = "\x1b[0m";
+constexpr std::string_view red = "\x1b[31m";
+constexpr std::string_view yellow = "\x1b[33m";
+constexpr std::string_view plain = "\x1b[0m";
 
 }  // namespace
 
@@ -30,18 +30,17 @@ void MessagePrinter::printNew() {
 void MessagePrinter::print(const LogMessage& message) {
   if (!VtlCmdLogger::levelAdmits(verbosity_, std::uint32_t{message.level} - 1)) return;
   const bool isProblem = message.level <= levelWarning;
-  const char* color = !isProblem || !sinks_.colored   ? ""
-                      : message.level == levelWarning ? yellow
-                                                      : red;
+  std::string_view color;
+  if (isProblem && sinks_.colored) color = message.level == levelWarning ? yellow : red;
   printLine(prefixOf(message), message.text, isProblem, color);
 }
 
 void MessagePrinter::printHead(std::string_view text, bool isProblem) {
-  printLine(prefixes_[0][levelProgress], text, isProblem, "");
+  printLine(prefixes_[0][levelProgress], text, isProblem, {});
 }
 
 void MessagePrinter::printLine(std::string_view prefix, std::string_view text, bool isProblem,
-                               const char* color) {
+                               std::string_view color) {
   if (isProblem != pendingIsProblem_) writePending();
   pendingIsProblem_ = isProblem;
   pending_.append(color).append(prefix);
@@ -50,7 +49,8 @@ void MessagePrinter::printLine(std::string_view prefix, std::string_view text, b
   } else {
     pending_ += text;
   }
-  pending_.append(*color == '\0' ? "" : plain) += '\n';
+  if (!color.empty()) pending_ += plain;
+  pending_ += '\n';
 }
 
 void MessagePrinter::flush() {

@@ -48,8 +48,9 @@ class MessagePrinter {
   const TextSink& sinkOf(bool isProblem) const {
     return isProblem ? sinks_.problems : sinks_.report;
   }
-  /// `color` is a terminal's code.
-  void printLine(std::string_view prefix, std::string_view text, bool isProblem, const char* color);
+  /// `color` is a terminal's code, or empty.
+  void printLine(std::string_view prefix, std::string_view text, bool isProblem,
+                 std::string_view color);
   const std::string& prefixOf(const LogMessage& message) const {
     return prefixes_[message.source == vtlcmdSource ? 0 : 1][message.level];
   }
