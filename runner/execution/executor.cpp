@@ -41,14 +41,18 @@ Executor::Executor(const Graph& graph, VtlCmdLogger& logger, OnRead onRead)
 Executor::Result Executor::run(const std::vector<Orvel::Value>& portValues) {
   const CountingScope counting(logger_);
   forgetIfFilesChanged();
-  Slots slots;
-  slots.reserve(graph_.ports.size() + graph_.nodes.size());
-  slots.assign(portValues.begin(), portValues.end());
-  slots.resize(graph_.ports.size() + graph_.nodes.size());
+  slots_.assign(portValues.begin(), portValues.end());
+  slots_.resize(graph_.ports.size() + graph_.nodes.size());
+  Result result = evaluateAll();
+  slots_.clear();
+  return result;
+}
+
+Executor::Result Executor::evaluateAll() {
   for (const std::size_t index : graph_.order) {
     if (frameAbandoned()) return {};
     try {
-      slots[graph_.slotOfNode(index)] = valueOf(index, slots);
+      slots_[graph_.slotOfNode(index)] = valueOf(index);
     } catch (const FrameAbandoned&) {
       return {};
     } catch (const std::exception&) {
@@ -59,7 +63,8 @@ Executor::Result Executor::run(const std::vector<Orvel::Value>& portValues) {
   }
   Result result{std::vector<Orvel::Value>()};
   result.outputs->reserve(graph_.outputs.size());
-  for (const GraphOutput& output : graph_.outputs) result.outputs->push_back(*slots[output.source]);
+  for (const GraphOutput& output : graph_.outputs)
+    result.outputs->push_back(*slots_[output.source]);
   return result;
 }
 
@@ -71,21 +76,21 @@ void Executor::forgetIfFilesChanged() {
   if (std::any_of(kept_.begin(), kept_.end(), hasChanged)) kept_.assign(kept_.size(), std::nullopt);
 }
 
-Orvel::Value Executor::valueOf(std::size_t node, const Slots& slots) {
-  if (dependsOnFrame_[node]) return evaluate(node, slots).value;
+Orvel::Value Executor::valueOf(std::size_t node) {
+  if (dependsOnFrame_[node]) return evaluate(node).value;
   std::optional<Evaluation>& kept = kept_[node];
-  if (!kept) return kept.emplace(evaluate(node, slots)).value;
+  if (!kept) return kept.emplace(evaluate(node)).value;
   for (const FileStamp& stamp : kept->files) onRead_(stamp.file);
   for (const std::string& sentence : kept->warnings) warn(sentence);
   return kept->value;
 }
 
-Executor::Evaluation Executor::evaluate(std::size_t node, const Slots& slots) const {
+Executor::Evaluation Executor::evaluate(std::size_t node) const {
   const GraphNode& declared = graph_.nodes[node];
   std::vector<std::vector<Orvel::Value>> arguments(declared.sources.size());
   for (std::size_t i = 0; i < declared.sources.size(); ++i) {
     arguments[i].reserve(declared.sources[i].size());
-    for (const std::size_t slot : declared.sources[i]) arguments[i].push_back(*slots[slot]);
+    for (const std::size_t slot : declared.sources[i]) arguments[i].push_back(*slots_[slot]);
   }
   const NodeTypes nodeTypes{types_[node], std::nullopt};
   std::vector<std::string> warnings;

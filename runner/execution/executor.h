@@ -35,8 +35,6 @@ class Executor {
   Result run(const std::vector<Orvel::Value>& portValues);
 
  private:
-  using Slots = std::vector<std::optional<Orvel::Value>>;
-
   /// By parameter, the types of its sources.
   using ArgumentTypes = std::vector<std::vector<ValueType>>;
 
@@ -49,8 +47,9 @@ class Executor {
   };
 
   void forgetIfFilesChanged();
-  Orvel::Value valueOf(std::size_t node, const Slots& slots);
-  Evaluation evaluate(std::size_t node, const Slots& slots) const;
+  Result evaluateAll();
+  Orvel::Value valueOf(std::size_t node);
+  Evaluation evaluate(std::size_t node) const;
   void warn(const std::string& sentence) const;
 
   const Graph& graph_;
@@ -62,6 +61,9 @@ class Executor {
   std::vector<bool> dependsOnFrame_;
   /// By node, what stays the same in later runs.
   std::vector<std::optional<Evaluation>> kept_;
+  /// Values of ports and nodes while a run lasts, as the graph counts them; those that aren't
+  /// evaluated yet are empty.
+  std::vector<std::optional<Orvel::Value>> slots_;
 };
 
 }  // namespace vtlcmd::runner
