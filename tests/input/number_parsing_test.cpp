@@ -67,6 +67,8 @@ const NumberRow numberRows[] = {
     {"-Infinity", {none}, {range}, {none}},
     {"nan", {none}, {none}, {none}},
     {"NAN(1)", {none}, {none}, {none}},
+    // More digits than fit into an integer.
+    {"nan(1844674407370955161512)", {none}, {none}, {none}},
     {"infx", {none}, {none}, {none}},
     {"true", {none}, {none}, {none}},
     {"1e999", {trailing, 1}, {trailing, 1}, {range}},
