@@ -61,11 +61,10 @@ void refuseSharedInput(const std::string& graph, const std::vector<std::string>&
   for (const std::string& assignment : assignments) {
     const auto [name, path] = split(assignment);
     if (path != standardInput) continue;
-    const std::string port = "port " + inQuotes(name);
     if (!reader.empty())
-      throw UsageError("the standard input can't be both " + reader + " and the text for " + port);
-    reader = "the text for ";
-    reader += port;
+      throw UsageError("the standard input can't be both " + reader + " and the text for port " +
+                       inQuotes(name));
+    reader = "the text for port " + inQuotes(name);
   }
 }
 

@@ -3,12 +3,15 @@
 #include <cerrno>
 #include <random>
 #include <system_error>
+#include <utility>
 
 #include "text/system_reason.h"
 
 namespace vtlcmd::runner {
 
-JournalFile::JournalFile(const std::filesystem::path& file) : file_(file) { open(std::ios::trunc); }
+JournalFile::JournalFile(std::filesystem::path file) : file_(std::move(file)) {
+  open(std::ios::trunc);
+}
 
 JournalFile::JournalFile(const std::filesystem::path& file, std::uint64_t size) : file_(file) {
   std::filesystem::resize_file(file, size);

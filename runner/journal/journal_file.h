@@ -13,7 +13,7 @@ namespace vtlcmd::runner {
 class JournalFile {
  public:
   /// Begins an empty file in the place of what is there. Throws std::system_error.
-  explicit JournalFile(const std::filesystem::path& file);
+  explicit JournalFile(std::filesystem::path file);
   /// Goes on behind the first `size` bytes of a file, and drops what follows. Throws
   /// std::system_error.
   JournalFile(const std::filesystem::path& file, std::uint64_t size);
