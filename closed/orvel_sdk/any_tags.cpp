@@ -29,20 +29,27 @@ std::string structSpelling(std::string_view name) {
   return spelling.append(name) + "@@";
 }
 
+/// Spelling, kind and rank.
+using TagKey = std::tuple<std::string, std::uint8_t, std::uint32_t>;
+
+TagKey keyOf(const TypeRep& type) {
+  const TypeRep& element = innermostOf(type);
+  if (element.storedIndex == TypeRep::notStored)
+    return {structSpelling(viewOf(element.name)), 0, type.depth};
+  const TypeInfo& single = storedTags[element.storedIndex];
+  return {{single.name, single.length}, single.kind, type.depth};
+}
+
 }  // namespace
 
 const TypeInfo& tagOf(const TypeRep& type) {
-  const TypeRep& element = innermostOf(type);
-  const TypeInfo* stored =
-      element.storedIndex == TypeRep::notStored ? nullptr : &storedTags[element.storedIndex];
-  if (stored != nullptr && type.depth == 0) return *stored;
-  std::tuple key(stored == nullptr ? structSpelling(viewOf(element.name))
-                                   : std::string(stored->name, stored->length),
-                 stored == nullptr ? std::uint8_t{0} : stored->kind, type.depth);
+  if (type.depth == 0 && type.storedIndex != TypeRep::notStored)
+    return storedTags[type.storedIndex];
+  TagKey key = keyOf(type);
 
   static std::mutex mutex;
   // Never ended: values may be looked at while the process exits.
-  static auto& tags = *new std::map<decltype(key), TypeInfo>;
+  static auto& tags = *new std::map<TagKey, TypeInfo>;
   const std::lock_guard lock(mutex);
   const auto [tag, isNew] = tags.try_emplace(std::move(key));
   const auto& [spelling, kind, rank] = tag->first;
