@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "support/type_samples.h"
+#include "support/type_tests.h"
 #include "support/watched_array.h"
 #include "vtlcmd/host/value_types.h"
 
@@ -96,13 +97,13 @@ void exerciseEveryOperation(const T& value, const T& other) {
 
 template <typename T>
 class AnyOfRegisteredType : public ::testing::Test {};
-TYPED_TEST_SUITE(AnyOfRegisteredType, testing::RegisteredTestTypes);
+TYPE_TEST_SUITE(AnyOfRegisteredType, testing::RegisteredTestTypes);
 
-TYPED_TEST(AnyOfRegisteredType, EveryOperationAtRank0) {
+TYPE_TEST(AnyOfRegisteredType, EveryOperationAtRank0) {
   exerciseEveryOperation(sampleValue<TypeParam>(0), sampleValue<TypeParam>(1));
 }
 
-TYPED_TEST(AnyOfRegisteredType, EveryOperationAtEveryArrayRank) {
+TYPE_TEST(AnyOfRegisteredType, EveryOperationAtEveryArrayRank) {
   const TypeParam value = sampleValue<TypeParam>(0);
   const auto exercise = [&]<std::uint32_t Rank>(std::integral_constant<std::uint32_t, Rank>) {
     exerciseEveryOperation(testing::nestedArray<TypeParam, Rank>(value),
@@ -113,7 +114,7 @@ TYPED_TEST(AnyOfRegisteredType, EveryOperationAtEveryArrayRank) {
   exercise(std::integral_constant<std::uint32_t, 3>{});
 }
 
-TYPED_TEST(AnyOfRegisteredType, CastWantsTheExactTypeAndRank) {
+TYPE_TEST(AnyOfRegisteredType, CastWantsTheExactTypeAndRank) {
   const Any single = makeAny(sampleValue<TypeParam>(0));
   const Any array = makeAny(testing::nestedArray<TypeParam, 1>(sampleValue<TypeParam>(0)));
   EXPECT_EQ((anyCast<StoredArray<TypeParam, 1>>(&single)), nullptr);
@@ -125,7 +126,7 @@ TYPED_TEST(AnyOfRegisteredType, CastWantsTheExactTypeAndRank) {
   });
 }
 
-TYPED_TEST(AnyOfRegisteredType, CopiesAndMovesOfAnArrayOfAnyRankCountItsUses) {
+TYPE_TEST(AnyOfRegisteredType, CopiesAndMovesOfAnArrayOfAnyRankCountItsUses) {
   const auto useAndEnd = [](const auto& array) {
     const std::uint64_t one = Orvel::useCount(array);
     const auto expectUses = [&](std::uint64_t uses) {
@@ -161,7 +162,7 @@ TEST(Any, CopiesOfAnObjectCountItsUses) {
   EXPECT_EQ(block.ends, 1);
 }
 
-TYPED_TEST(AnyOfRegisteredType, CopyOfAnArraySharesIt) {
+TYPE_TEST(AnyOfRegisteredType, CopyOfAnArraySharesIt) {
   const auto array = testing::nestedArray<TypeParam, 1>(sampleValue<TypeParam>(0));
   ASSERT_EQ(Orvel::useCount(array), 1U);
   {
@@ -271,7 +272,7 @@ void expectCastGoesByContent(const T& value) {
   EXPECT_EQ(any_operations::cast(any, unique), address);
 }
 
-TYPED_TEST(AnyOfRegisteredType, CastGoesByWhatTheTagSays) {
+TYPE_TEST(AnyOfRegisteredType, CastGoesByWhatTheTagSays) {
   expectCastGoesByContent(sampleValue<TypeParam>(0));
   expectCastGoesByContent(testing::nestedArray<TypeParam, 1>(sampleValue<TypeParam>(0)));
 }

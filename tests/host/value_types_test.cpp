@@ -6,6 +6,7 @@
 #include <type_traits>
 
 #include "support/type_samples.h"
+#include "support/type_tests.h"
 
 namespace vtlcmd {
 namespace {
@@ -62,9 +63,9 @@ TEST(ValueTypes, ReportOnlyTypesAreAsTheirHostsExpectThem) {
 
 template <typename T>
 class RegisteredTagTest : public ::testing::Test {};
-TYPED_TEST_SUITE(RegisteredTagTest, testing::RegisteredTestTypes);
+TYPE_TEST_SUITE(RegisteredTagTest, testing::RegisteredTestTypes);
 
-TYPED_TEST(RegisteredTagTest, FourTagsDifferInRankAlone) {
+TYPE_TEST(RegisteredTagTest, FourTagsDifferInRankAlone) {
   const Orvel::Internal::TypeInfo* tags[] = {&typeTag<TypeParam, 0>, &typeTag<TypeParam, 1>,
                                              &typeTag<TypeParam, 2>, &typeTag<TypeParam, 3>};
   for (std::uint32_t rank = 0; rank < 4; ++rank) {

@@ -5,6 +5,7 @@
 
 #include "support/test_host.h"
 #include "support/type_samples.h"
+#include "support/type_tests.h"
 #include "vtlcmd/input/number_parsing.h"
 
 namespace vtlcmd {
@@ -70,9 +71,9 @@ class AcceptTable : public ::testing::Test {
     EXPECT_THAT(host.messages(), ::testing::ElementsAre(message));
   }
 };
-TYPED_TEST_SUITE(AcceptTable, testing::ScalarTestTypes);
+TYPE_TEST_SUITE(AcceptTable, testing::ScalarTestTypes);
 
-TYPED_TEST(AcceptTable, HoldsOnEveryPortInEveryState) {
+TYPE_TEST(AcceptTable, HoldsOnEveryPortInEveryState) {
   using T = TypeParam;
   const Any own = makeAny(sampleValue<T>(1));
   const Any foreign = makeAny(Math::double4{});

@@ -6,6 +6,7 @@
 
 #include "support/test_host.h"
 #include "support/type_samples.h"
+#include "support/type_tests.h"
 #include "vtlcmd/stand_in/make_string.h"
 
 namespace vtlcmd {
@@ -32,9 +33,9 @@ class FromString : public ::testing::Test {
 
   VtlCmdLogger logger_{10};
 };
-TYPED_TEST_SUITE(FromString, testing::ScalarTestTypes);
+TYPE_TEST_SUITE(FromString, testing::ScalarTestTypes);
 
-TYPED_TEST(FromString, RefusalIsOneMessageWithTheTextAsItStands) {
+TYPE_TEST(FromString, RefusalIsOneMessageWithTheTextAsItStands) {
   for (const char* text : {"", "   ", " x ", "12 34", "12abc", "abc", "inf", "nan", "TRUE", "yes",
                            "'", "a\nb", "\xff\xfe", "1e999", " true", "true "}) {
     this->expectRefused(text);
@@ -42,14 +43,14 @@ TYPED_TEST(FromString, RefusalIsOneMessageWithTheTextAsItStands) {
   EXPECT_EQ(this->logger_.errorCount, 0U);
 }
 
-TYPED_TEST(FromString, PrefixMayBeEmpty) {
+TYPE_TEST(FromString, PrefixMayBeEmpty) {
   EXPECT_EQ(this->parse("x", ""), std::nullopt);
   EXPECT_THAT(TestHost::messagesOf(this->logger_),
               ElementsAre(std::string("error Unable to convert 'x") +
                           testing::rowOf<TypeParam>().parseErrorEnd));
 }
 
-TYPED_TEST(FromString, ValuesLeaveNoMessage) {
+TYPE_TEST(FromString, ValuesLeaveNoMessage) {
   if constexpr (std::is_same_v<TypeParam, bool>) {
     EXPECT_EQ(this->parse("true"), true);
     EXPECT_EQ(this->parse("false"), false);
@@ -62,7 +63,7 @@ TYPED_TEST(FromString, ValuesLeaveNoMessage) {
   EXPECT_THAT(this->logger_.messages, IsEmpty());
 }
 
-TYPED_TEST(FromString, WordsAndNumbersAreNotMixed) {
+TYPE_TEST(FromString, WordsAndNumbersAreNotMixed) {
   if constexpr (std::is_same_v<TypeParam, bool>) {
     for (const char* text :
          {"12", " 12 ", "+1", "-1", "-0", "010", "0x10", "1e3", "1.5", "1", "0", "True"}) {
@@ -74,7 +75,7 @@ TYPED_TEST(FromString, WordsAndNumbersAreNotMixed) {
   }
 }
 
-TYPED_TEST(FromString, SignsAndFormsByType) {
+TYPE_TEST(FromString, SignsAndFormsByType) {
   using T = TypeParam;
   if constexpr (UnsignedNumber<T>) {
     for (const char* text : {"-1", "-0", " -1"}) this->expectRefused(text);
@@ -92,7 +93,7 @@ TYPED_TEST(FromString, SignsAndFormsByType) {
   }
 }
 
-TYPED_TEST(FromString, TextEndsAtItsFirstNul) {
+TYPE_TEST(FromString, TextEndsAtItsFirstNul) {
   const Orvel::String text = Orvel::makeString({"12\0x", 4});
   if constexpr (std::is_same_v<TypeParam, bool>) {
     // Words compare whole: the text behind the NUL makes it another text.

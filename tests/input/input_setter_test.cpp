@@ -9,6 +9,7 @@
 #include "support/allocation_count.h"
 #include "support/test_host.h"
 #include "support/type_samples.h"
+#include "support/type_tests.h"
 #include "vtlcmd/stand_in/make_string.h"
 
 namespace vtlcmd {
@@ -81,9 +82,9 @@ struct Call {
 
 template <typename T>
 class InputSetter : public ::testing::Test {};
-TYPED_TEST_SUITE(InputSetter, testing::RegisteredTestTypes);
+TYPE_TEST_SUITE(InputSetter, testing::RegisteredTestTypes);
 
-TYPED_TEST(InputSetter, TextBecomesTheValue) {
+TYPE_TEST(InputSetter, TextBecomesTheValue) {
   if constexpr (!std::is_same_v<TypeParam, ObjectPtr>) {
     for (const State& state : allStates()) {
       const Call<TypeParam> call(state, rowOf<TypeParam>().samples[0].text);
@@ -95,7 +96,7 @@ TYPED_TEST(InputSetter, TextBecomesTheValue) {
   }
 }
 
-TYPED_TEST(InputSetter, BadOrEmptyTextLeavesNothingAndUsesNoDefault) {
+TYPE_TEST(InputSetter, BadOrEmptyTextLeavesNothingAndUsesNoDefault) {
   for (const State& state : allStates()) {
     for (const char* text : {"x", ""}) {
       const Call<TypeParam> call(state, text);
@@ -119,7 +120,7 @@ TYPED_TEST(InputSetter, BadOrEmptyTextLeavesNothingAndUsesNoDefault) {
   }
 }
 
-TYPED_TEST(InputSetter, OneBadPieceIsEnough) {
+TYPE_TEST(InputSetter, OneBadPieceIsEnough) {
   const std::size_t count = valueType<TypeParam>().components;
   for (const char* bad : {"1x", "x", "", "1e999"}) {
     for (std::size_t position = 0; count > 1 && position < count; ++position) {
@@ -135,7 +136,7 @@ TYPED_TEST(InputSetter, OneBadPieceIsEnough) {
   }
 }
 
-TYPED_TEST(InputSetter, WithoutTextTheDefaultIsUsed) {
+TYPE_TEST(InputSetter, WithoutTextTheDefaultIsUsed) {
   for (const State& state : allStates()) {
     const Call<TypeParam> call(state, nullptr);
     EXPECT_TRUE(call.result);
@@ -158,7 +159,7 @@ TYPED_TEST(InputSetter, WithoutTextTheDefaultIsUsed) {
   }
 }
 
-TYPED_TEST(InputSetter, NamesCompareExactly) {
+TYPE_TEST(InputSetter, NamesCompareExactly) {
   TestHost host;
   host.giveText("P", "x");
   host.giveText("p ", "x");
@@ -228,7 +229,7 @@ class EndWatch : public Orvel::Internal::ControlBlock {
   bool heldNewValue_ = false;
 };
 
-TYPED_TEST(InputSetter, OldValueEndsLast) {
+TYPE_TEST(InputSetter, OldValueEndsLast) {
   const bool hasText = !std::is_same_v<TypeParam, ObjectPtr>;
   for (const bool giveText : {false, hasText}) {
     for (const bool giveDefault : {false, true}) {
@@ -244,7 +245,7 @@ TYPED_TEST(InputSetter, OldValueEndsLast) {
   }
 }
 
-TYPED_TEST(InputSetter, ResultMayBeItsOwnDefault) {
+TYPE_TEST(InputSetter, ResultMayBeItsOwnDefault) {
   TestHost host;
   const Orvel::String name = "p";
   const TypeParam sample = sampleValue<TypeParam>(1);
@@ -314,7 +315,7 @@ TEST(InputSetterOfObject, DefaultIsShared) {
 
 #ifndef _WIN32
 // There each library has allocation functions of its own, and only the program's are counted.
-TYPED_TEST(InputSetter, NothingStaysInUseBehindTheRun) {
+TYPE_TEST(InputSetter, NothingStaysInUseBehindTheRun) {
   for (const State& state : allStates()) {
     for (const char* text : {rowOf<TypeParam>().samples[0].text, "neither, this", "", "1,2,3,x",
                              static_cast<const char*>(nullptr)}) {

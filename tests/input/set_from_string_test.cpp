@@ -7,6 +7,7 @@
 
 #include "support/test_host.h"
 #include "support/type_samples.h"
+#include "support/type_tests.h"
 
 namespace vtlcmd {
 namespace {
@@ -41,9 +42,9 @@ class SetVectorFromString : public ::testing::Test {
 };
 template <typename T>
 using IsVector = std::bool_constant<VectorType<T>>;
-TYPED_TEST_SUITE(SetVectorFromString, testing::TestTypesWhere<IsVector>);
+TYPE_TEST_SUITE(SetVectorFromString, testing::TestTypesWhere<IsVector>);
 
-TYPED_TEST(SetVectorFromString, TakesAsManyPiecesAsComponents) {
+TYPE_TEST(SetVectorFromString, TakesAsManyPiecesAsComponents) {
   std::string text = "1";
   for (std::size_t i = 1; i < this->count; ++i) text += ", " + std::to_string(i + 1) + " ";
   EXPECT_THAT(this->set(text), IsEmpty());
@@ -54,7 +55,7 @@ TYPED_TEST(SetVectorFromString, TakesAsManyPiecesAsComponents) {
   }
 }
 
-TYPED_TEST(SetVectorFromString, WrongCountIsOneMessageAndNothingIsParsed) {
+TYPE_TEST(SetVectorFromString, WrongCountIsOneMessageAndNothingIsParsed) {
   for (const std::string& text :
        {std::string(), this->repeat("1", this->count - 1), this->repeat("1", this->count + 1),
         this->repeat("x", this->count + 1), this->repeat("1", this->count) + ",",
@@ -66,7 +67,7 @@ TYPED_TEST(SetVectorFromString, WrongCountIsOneMessageAndNothingIsParsed) {
   }
 }
 
-TYPED_TEST(SetVectorFromString, EveryBadPieceIsToldAndTheVectorDropped) {
+TYPE_TEST(SetVectorFromString, EveryBadPieceIsToldAndTheVectorDropped) {
   const std::vector<std::string> messages = this->set(this->repeat(" x ", this->count));
   ASSERT_EQ(messages.size(), this->count);
   for (const std::string& message : messages) {
@@ -79,7 +80,7 @@ TYPED_TEST(SetVectorFromString, EveryBadPieceIsToldAndTheVectorDropped) {
   EXPECT_FALSE(this->value_.holdsValue());
 }
 
-TYPED_TEST(SetVectorFromString, EveryScalarLimitHoldsForEachComponent) {
+TYPE_TEST(SetVectorFromString, EveryScalarLimitHoldsForEachComponent) {
   for (const char* piece : {"inf", "nan", "1x", "1e999", "1e-320"}) {
     EXPECT_THAT(
         this->set(this->repeat("1", this->count - 1) + "," + piece),

@@ -12,6 +12,7 @@
 #include "support/scoped_locale.h"
 #include "support/text_room.h"
 #include "support/type_samples.h"
+#include "support/type_tests.h"
 #include "support/watched_array.h"
 #include "vtlcmd/host/imports/vantrel_geometry.h"
 #include "vtlcmd/host/value_types.h"
@@ -286,9 +287,9 @@ class DataProperty : public ::testing::Test {
   }
 };
 
-TYPED_TEST_SUITE(DataProperty, testing::ElementTestTypes);
+TYPE_TEST_SUITE(DataProperty, testing::ElementTestTypes);
 
-TYPED_TEST(DataProperty, IsSummarisedUnsupportedOrPassedOverByItsElementType) {
+TYPE_TEST(DataProperty, IsSummarisedUnsupportedOrPassedOverByItsElementType) {
   using T = TypeParam;
   const auto [printed, text] = this->print(makeAny(arrayOf<T>({T{}})));
   if constexpr (std::is_same_v<T, ObjectPtr>) {
@@ -304,12 +305,12 @@ TYPED_TEST(DataProperty, IsSummarisedUnsupportedOrPassedOverByItsElementType) {
   }
 }
 
-TYPED_TEST(DataProperty, GivesUsesOfItsArrayBack) {
+TYPE_TEST(DataProperty, GivesUsesOfItsArrayBack) {
   testing::expectUsesGivenBack(
       TypeParam{}, [&](const StoredArray<TypeParam, 1>& array) { this->print(makeAny(array)); });
 }
 
-TYPED_TEST(DataProperty, AnyRoomWillDo) {
+TYPE_TEST(DataProperty, AnyRoomWillDo) {
   for (const Any& any :
        {makeAny(arrayOf<TypeParam>({TypeParam{}})), makeAny(arrayOf<TypeParam>({}))}) {
     testing::expectAnyRoomWillDo([&](TextBuilder& text) { printDataProperty(any, text, "p"); });

@@ -8,6 +8,7 @@
 #include "support/built_text.h"
 #include "support/text_room.h"
 #include "support/type_samples.h"
+#include "support/type_tests.h"
 #include "support/watched_array.h"
 #include "vtlcmd/stand_in/type_factory.h"
 #include "vtlcmd/stand_in/value_factory.h"
@@ -101,9 +102,9 @@ class ArrayPrinters : public ::testing::Test {
   std::vector<T> five_{sampleValue<T>(0), sampleValue<T>(1), sampleValue<T>(0), sampleValue<T>(1),
                        sampleValue<T>(0)};
 };
-TYPED_TEST_SUITE(ArrayPrinters, testing::RegisteredTestTypes);
+TYPE_TEST_SUITE(ArrayPrinters, testing::RegisteredTestTypes);
 
-TYPED_TEST(ArrayPrinters, EmptyArrayIsAShortNoteAtEveryRank) {
+TYPE_TEST(ArrayPrinters, EmptyArrayIsAShortNoteAtEveryRank) {
   using T = TypeParam;
   const std::string expected = note(0, 0, this->name());
   EXPECT_EQ((print<T, 1>(arrayOf<T>({}), 10)), expected);
@@ -111,14 +112,14 @@ TYPED_TEST(ArrayPrinters, EmptyArrayIsAShortNoteAtEveryRank) {
   EXPECT_EQ((print<T, 3>(arrayOf<StoredArray<T, 2>>({}), 10)), expected);
 }
 
-TYPED_TEST(ArrayPrinters, EmptyValueNamesTheLevelBelow) {
+TYPE_TEST(ArrayPrinters, EmptyValueNamesTheLevelBelow) {
   using T = TypeParam;
   EXPECT_EQ(printValue<T>(Orvel::makeValue(arrayOf<T>({})), 1, 10), note(0, 0, this->name()));
   EXPECT_EQ(printValue<T>(Orvel::makeValue(arrayOf<StoredArray<T, 1>>({})), 2, 10),
             note(0, 0, "array<" + this->name() + ">"));
 }
 
-TYPED_TEST(ArrayPrinters, LimitZeroIsAShortNoteOfAFilledArray) {
+TYPE_TEST(ArrayPrinters, LimitZeroIsAShortNoteOfAFilledArray) {
   using T = TypeParam;
   EXPECT_EQ((print<T, 1>(arrayOf<T>(this->five_), 0)), note(0, 5, this->name()));
   EXPECT_EQ(printValue<T>(Orvel::makeValue(arrayOf<T>(this->five_)), 1, 0),
@@ -127,7 +128,7 @@ TYPED_TEST(ArrayPrinters, LimitZeroIsAShortNoteOfAFilledArray) {
   EXPECT_EQ((print<T, 3>(nestedArray<T, 3>(this->five_[0]), 0)), note(0, 1, this->name()));
 }
 
-TYPED_TEST(ArrayPrinters, LowestLevelGoesByItsClassAndTheLimitCapsListsAlone) {
+TYPE_TEST(ArrayPrinters, LowestLevelGoesByItsClassAndTheLimitCapsListsAlone) {
   using T = TypeParam;
   const auto array = arrayOf<T>(this->five_);
   for (const std::uint32_t limit : {1U, 2U, 5U, 6U, unlimited}) {
@@ -137,7 +138,7 @@ TYPED_TEST(ArrayPrinters, LowestLevelGoesByItsClassAndTheLimitCapsListsAlone) {
   }
 }
 
-TYPED_TEST(ArrayPrinters, OuterLevelsAreListsUpToTheLimit) {
+TYPE_TEST(ArrayPrinters, OuterLevelsAreListsUpToTheLimit) {
   using T = TypeParam;
   const auto row = arrayOf<T>(this->five_);
   const auto rows = arrayOf<StoredArray<T, 1>>({row, arrayOf<T>({}), row});
@@ -156,7 +157,7 @@ TYPED_TEST(ArrayPrinters, OuterLevelsAreListsUpToTheLimit) {
   EXPECT_EQ((print<T, 3>(cube, 2)), list(note(2, 2, this->name()), inner + ",\n" + inner));
 }
 
-TYPED_TEST(ArrayPrinters, DeepValuesNestWithoutBound) {
+TYPE_TEST(ArrayPrinters, DeepValuesNestWithoutBound) {
   using T = TypeParam;
   Orvel::Value value = Orvel::makeValue(nestedArray<T, 1>(this->five_[0]));
   std::string expected = this->lowest({this->five_[0]}, 1);
@@ -169,7 +170,7 @@ TYPED_TEST(ArrayPrinters, DeepValuesNestWithoutBound) {
   }
 }
 
-TYPED_TEST(ArrayPrinters, ArraysAreSharedNotCopied) {
+TYPE_TEST(ArrayPrinters, ArraysAreSharedNotCopied) {
   using T = TypeParam;
   const auto row = arrayOf<T>(this->five_);
   {
@@ -205,7 +206,7 @@ void expectPrintingGivesUsesBack(const StoredArray<T, Rank - 1>& element) {
   });
 }
 
-TYPED_TEST(ArrayPrinters, UsesOfArraysOfAnyRankAreGivenBack) {
+TYPE_TEST(ArrayPrinters, UsesOfArraysOfAnyRankAreGivenBack) {
   using T = TypeParam;
   for (const bool counted : {true, false}) {
     testing::WatchedArray<T> row;
@@ -236,7 +237,7 @@ TEST(ArrayPrinter, UsesOfListedObjectsAreGivenBack) {
   EXPECT_EQ(block.ends, 1);
 }
 
-TYPED_TEST(ArrayPrinters, AnyRoomWillDo) {
+TYPE_TEST(ArrayPrinters, AnyRoomWillDo) {
   using T = TypeParam;
   const auto row = arrayOf<T>({this->five_[0], this->five_[1]});
   const auto rows = arrayOf<StoredArray<T, 1>>({row, arrayOf<T>({})});
@@ -257,12 +258,12 @@ TYPED_TEST(ArrayPrinters, AnyRoomWillDo) {
   expectBoth(cube, std::integral_constant<std::uint32_t, 3>{});
 }
 
-TYPED_TEST(ArrayPrinters, DepthZeroIsTheSingleValuesText) {
+TYPE_TEST(ArrayPrinters, DepthZeroIsTheSingleValuesText) {
   EXPECT_EQ(printValue<TypeParam>(Orvel::makeValue(sampleValue<TypeParam>(0)), 0, 10),
             rowOf<TypeParam>().samples[0].report);
 }
 
-TYPED_TEST(ArrayPrinters, TypeNameWrapsTheBaseName) {
+TYPE_TEST(ArrayPrinters, TypeNameWrapsTheBaseName) {
   EXPECT_EQ(arrayTypeName<TypeParam>(0).c_str(), this->name());
   EXPECT_STREQ(arrayTypeName<TypeParam>(1).c_str(), ("array<" + this->name() + ">").c_str());
   EXPECT_STREQ(arrayTypeName<TypeParam>(2).c_str(), ("array<array<" + this->name() + ">>").c_str());
@@ -270,7 +271,7 @@ TYPED_TEST(ArrayPrinters, TypeNameWrapsTheBaseName) {
                ("array<array<array<" + this->name() + ">>>").c_str());
 }
 
-TYPED_TEST(ArrayPrinters, ForeignElementNameLeavesNoStatistics) {
+TYPE_TEST(ArrayPrinters, ForeignElementNameLeavesNoStatistics) {
   const Orvel::Value texts = Orvel::makeValue(arrayOf<Orvel::String>({"a", "b"}));
   if (valueType<TypeParam>().arrayClass == ArrayClass::summarised) {
     EXPECT_EQ(printValue<TypeParam>(texts, 1, 10), "");

@@ -10,6 +10,7 @@
 #include "support/scoped_locale.h"
 #include "support/test_host.h"
 #include "support/type_samples.h"
+#include "support/type_tests.h"
 
 namespace vtlcmd {
 namespace {
@@ -226,9 +227,9 @@ class OutputReporterOf : public ::testing::Test {
     }
   }
 };
-TYPED_TEST_SUITE(OutputReporterOf, testing::RegisteredTestTypes);
+TYPE_TEST_SUITE(OutputReporterOf, testing::RegisteredTestTypes);
 
-TYPED_TEST(OutputReporterOf, FiveFormsPutValueAndTypeIntoLineAndRecord) {
+TYPE_TEST(OutputReporterOf, FiveFormsPutValueAndTypeIntoLineAndRecord) {
   const TypeParam value = sampleValue<TypeParam>(0);
   const std::string name = valueType<TypeParam>().name;
   this->expectBothReports(value, name);
@@ -237,20 +238,20 @@ TYPED_TEST(OutputReporterOf, FiveFormsPutValueAndTypeIntoLineAndRecord) {
   this->expectBothReports(nestedArray<TypeParam, 3>(value), "array<array<array<" + name + ">>>");
 }
 
-TYPED_TEST(OutputReporterOf, SingleValueHasItsText) {
+TYPE_TEST(OutputReporterOf, SingleValueHasItsText) {
   EXPECT_EQ(reportAny(sampleValue<TypeParam>(0)), "Output port 'result': (" +
                                                       std::string(valueType<TypeParam>().name) +
                                                       ") " + rowOf<TypeParam>().samples[0].report);
 }
 
-TYPED_TEST(OutputReporterOf, EmptyAnyReadsAsZero) {
+TYPE_TEST(OutputReporterOf, EmptyAnyReadsAsZero) {
   TestHost host;
   const Orvel::String name = "result";
   reportScalar<TypeParam>(&name, Any{}, &host.logger);
   EXPECT_EQ(reportedBy(host, true).record.valueText, rowOf<TypeParam>().zeroReport);
 }
 
-TYPED_TEST(OutputReporterOf, AnyOfAnotherTypeReadsAsZero) {
+TYPE_TEST(OutputReporterOf, AnyOfAnotherTypeReadsAsZero) {
   TestHost host;
   const Orvel::String name = "result";
   const Any foreign = makeAny(nestedArray<TypeParam, 1>(sampleValue<TypeParam>(0)));
@@ -258,7 +259,7 @@ TYPED_TEST(OutputReporterOf, AnyOfAnotherTypeReadsAsZero) {
   EXPECT_EQ(reportedBy(host, true).record.valueText, rowOf<TypeParam>().zeroReport);
 }
 
-TYPED_TEST(OutputReporterOf, SuppressedArrayIsNotLookedAt) {
+TYPE_TEST(OutputReporterOf, SuppressedArrayIsNotLookedAt) {
   // A null array would be read through if anything opened it.
   const Any nulls[] = {makeAny(StoredArray<TypeParam, 1>{}), makeAny(StoredArray<TypeParam, 2>{}),
                        makeAny(StoredArray<TypeParam, 3>{})};
@@ -292,7 +293,7 @@ void failOneAllocation(void* left) {
   if ((*static_cast<std::size_t*>(left))-- == 0) throw std::bad_alloc();
 }
 
-TYPED_TEST(OutputReporterOf, RecordComesBeforeTheMessageWhateverAllocationFails) {
+TYPE_TEST(OutputReporterOf, RecordComesBeforeTheMessageWhateverAllocationFails) {
   const Orvel::String name = "a port with a name that is too long to be kept in place";
   const Any any = makeAny(nestedArray<TypeParam, 1>(sampleValue<TypeParam>(0)));
   bool failed = true;
@@ -324,7 +325,7 @@ std::ptrdiff_t blocksLeftByReports(const Stored& value) {
   });
 }
 
-TYPED_TEST(OutputReporterOf, NothingStaysInUseBehindTheRun) {
+TYPE_TEST(OutputReporterOf, NothingStaysInUseBehindTheRun) {
   const auto value = sampleValue<TypeParam>(0);
   EXPECT_EQ(blocksLeftByReports(value), 0);
   EXPECT_EQ(blocksLeftByReports(nestedArray<TypeParam, 1>(value)), 0);

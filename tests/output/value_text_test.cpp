@@ -9,6 +9,7 @@
 #include "support/built_text.h"
 #include "support/text_room.h"
 #include "support/type_samples.h"
+#include "support/type_tests.h"
 #include "vtlcmd/stand_in/make_string.h"
 #include "vtlcmd/stand_in/type_factory.h"
 #include "vtlcmd/stand_in/value_factory.h"
@@ -36,9 +37,9 @@ std::string textOfStruct(const Orvel::Value& value) {
 
 template <typename T>
 class ValueText : public ::testing::Test {};
-TYPED_TEST_SUITE(ValueText, testing::RegisteredTestTypes);
+TYPE_TEST_SUITE(ValueText, testing::RegisteredTestTypes);
 
-TYPED_TEST(ValueText, ReadsAlikeFromAnyAndFromValue) {
+TYPE_TEST(ValueText, ReadsAlikeFromAnyAndFromValue) {
   for (const std::size_t which : {0U, 1U}) {
     const TypeParam value = sampleValue<TypeParam>(which);
     const Any any = makeAny(value);
@@ -48,7 +49,7 @@ TYPED_TEST(ValueText, ReadsAlikeFromAnyAndFromValue) {
   }
 }
 
-TYPED_TEST(ValueText, AnyRoomWillDo) {
+TYPE_TEST(ValueText, AnyRoomWillDo) {
   const auto value = sampleValue<TypeParam>(0);
   const Any any = makeAny(value);
   const Orvel::Value libraryValue = Orvel::makeValue(value);
@@ -58,7 +59,7 @@ TYPED_TEST(ValueText, AnyRoomWillDo) {
       [&](TextBuilder& text) { valueToText<TypeParam>(text, libraryValue); });
 }
 
-TYPED_TEST(ValueText, WithoutAValueTheZeroStandsIn) {
+TYPE_TEST(ValueText, WithoutAValueTheZeroStandsIn) {
   const Any empty;
   const Any foreign = makeAny(testing::nestedArray<TypeParam, 1>(sampleValue<TypeParam>(0)));
   for (const Any* any : {static_cast<const Any*>(nullptr), &empty, &foreign}) {
@@ -75,9 +76,9 @@ std::string read(T value) {
 
 template <typename T>
 class FloatingText : public ::testing::Test {};
-TYPED_TEST_SUITE(FloatingText, testing::TestTypesWhere<std::is_floating_point>);
+TYPE_TEST_SUITE(FloatingText, testing::TestTypesWhere<std::is_floating_point>);
 
-TYPED_TEST(FloatingText, IsTheGeneralFormatAtPrecision6) {
+TYPE_TEST(FloatingText, IsTheGeneralFormatAtPrecision6) {
   using T = TypeParam;
   EXPECT_EQ(read(T(1.0)), "1");
   EXPECT_EQ(read(T(2.5)), "2.5");

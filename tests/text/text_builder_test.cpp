@@ -15,6 +15,7 @@
 #include "support/built_text.h"
 #include "support/floating_environment.h"
 #include "support/scoped_locale.h"
+#include "support/type_tests.h"
 
 namespace vtlcmd {
 namespace {
@@ -140,9 +141,9 @@ class TextBuilderOf : public ::testing::Test {
 
 using Numbers = ::testing::Types<bool, std::int16_t, std::uint16_t, std::int32_t, std::uint32_t,
                                  std::int64_t, std::uint64_t, float, double>;
-TYPED_TEST_SUITE(TextBuilderOf, Numbers);
+TYPE_TEST_SUITE(TextBuilderOf, Numbers);
 
-TYPED_TEST(TextBuilderOf, EachNumberGoesByALocaleThatWasThereAtTheFirst) {
+TYPE_TEST(TextBuilderOf, EachNumberGoesByALocaleThatWasThereAtTheFirst) {
   this->setMarks();
   // Whatever stood in its place before.
   alignas(TextBuilder) unsigned char place[sizeof(TextBuilder)];
@@ -153,7 +154,7 @@ TYPED_TEST(TextBuilderOf, EachNumberGoesByALocaleThatWasThereAtTheFirst) {
   std::destroy_at(text);
 }
 
-TYPED_TEST(TextBuilderOf, ALocaleSetBehindTheFirstNumberDoesNotApply) {
+TYPE_TEST(TextBuilderOf, ALocaleSetBehindTheFirstNumberDoesNotApply) {
   TextBuilder text(100);
   text << TypeParam{1};
   this->setMarks();
@@ -161,7 +162,7 @@ TYPED_TEST(TextBuilderOf, ALocaleSetBehindTheFirstNumberDoesNotApply) {
   EXPECT_EQ(text.text(), "11");
 }
 
-TYPED_TEST(TextBuilderOf, LongNumbersFitBehindAFullText) {
+TYPE_TEST(TextBuilderOf, LongNumbersFitBehindAFullText) {
   constexpr TypeParam longest = std::numeric_limits<TypeParam>::lowest() < 0
                                     ? std::numeric_limits<TypeParam>::lowest()
                                     : std::numeric_limits<TypeParam>::max();
@@ -174,14 +175,14 @@ TYPED_TEST(TextBuilderOf, LongNumbersFitBehindAFullText) {
   }
 }
 
-TYPED_TEST(TextBuilderOf, RoomThatIsEnoughStaysUnderALocaleToo) {
+TYPE_TEST(TextBuilderOf, RoomThatIsEnoughStaysUnderALocaleToo) {
   this->setMarks();
   TextBuilder text(100);
   text << TypeParam{1} << TypeParam{1};
   EXPECT_LT(text.text().capacity(), 200U);
 }
 
-TYPED_TEST(TextBuilderOf, NumbersTakeNoMemoryWhereThereIsRoom) {
+TYPE_TEST(TextBuilderOf, NumbersTakeNoMemoryWhereThereIsRoom) {
   TextBuilder text(100);
   const std::size_t before = testing::allocationCount();
   text << TypeParam{1} << TypeParam{1};

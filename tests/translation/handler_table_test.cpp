@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "support/type_samples.h"
+#include "support/type_tests.h"
 #include "vtlcmd/host/value_types.h"
 
 namespace vtlcmd {
@@ -55,9 +56,9 @@ TEST(HandlerTable, LacksEveryOtherName) {
 
 template <typename T>
 class HandlersOfRegisteredType : public ::testing::Test {};
-TYPED_TEST_SUITE(HandlersOfRegisteredType, testing::RegisteredTestTypes);
+TYPE_TEST_SUITE(HandlersOfRegisteredType, testing::RegisteredTestTypes);
 
-TYPED_TEST(HandlersOfRegisteredType, AreFoundByAnotherModulesTagsUpToRank3) {
+TYPE_TEST(HandlersOfRegisteredType, AreFoundByAnotherModulesTagsUpToRank3) {
   const std::string spelling(valueType<TypeParam>().tagSpelling);
   const auto find = [&](std::uint32_t rank) {
     const auto tag = makeTag(spelling, valueType<TypeParam>().tagKind, rank);
@@ -67,7 +68,7 @@ TYPED_TEST(HandlersOfRegisteredType, AreFoundByAnotherModulesTagsUpToRank3) {
   EXPECT_EQ(find(4), 0U);
 }
 
-TYPED_TEST(HandlersOfRegisteredType, NeedTheKindOfTheirTag) {
+TYPE_TEST(HandlersOfRegisteredType, NeedTheKindOfTheirTag) {
   const auto otherKind = makeTag(valueType<TypeParam>().tagSpelling,
                                  static_cast<std::uint8_t>(2 - valueType<TypeParam>().tagKind), 0);
   EXPECT_EQ(sharedHandlerTable().byTag.count(&otherKind), 0U);
@@ -75,9 +76,9 @@ TYPED_TEST(HandlersOfRegisteredType, NeedTheKindOfTheirTag) {
 
 template <typename T>
 class HandlersOfReportOnlyType : public ::testing::Test {};
-TYPED_TEST_SUITE(HandlersOfReportOnlyType, testing::ReportOnlyTestTypes);
+TYPE_TEST_SUITE(HandlersOfReportOnlyType, testing::ReportOnlyTestTypes);
 
-TYPED_TEST(HandlersOfReportOnlyType, HasNoReporter) {
+TYPE_TEST(HandlersOfReportOnlyType, HasNoReporter) {
   EXPECT_EQ(sharedHandlerTable().byTag.count(&typeTag<TypeParam, 1>), 0U);
 }
 

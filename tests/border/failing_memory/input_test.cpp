@@ -3,6 +3,7 @@
 #include "border/failing_memory/every_allocation.h"
 #include "border/host.h"
 #include "support/type_samples.h"
+#include "support/type_tests.h"
 #include "vtlcmd/stand_in/type_factory.h"
 
 namespace vtlcmd::testing {
@@ -97,20 +98,20 @@ struct WithDefault : Host {
 
 template <typename T>
 class FailingMemoryAtInputsOf : public FailingMemoryAtInputs {};
-TYPED_TEST_SUITE(FailingMemoryAtInputsOf, RegisteredTestTypes);
+TYPE_TEST_SUITE(FailingMemoryAtInputsOf, RegisteredTestTypes);
 
-TYPED_TEST(FailingMemoryAtInputsOf, Text) {
+TYPE_TEST(FailingMemoryAtInputsOf, Text) {
   this->template failEach<TypeParam, WithText<TypeParam>>();
 }
-TYPED_TEST(FailingMemoryAtInputsOf, RefusedText) {
+TYPE_TEST(FailingMemoryAtInputsOf, RefusedText) {
   this->template failEach<TypeParam, WithBadText>();
 }
-TYPED_TEST(FailingMemoryAtInputsOf, DefaultOfTheRecord) {
+TYPE_TEST(FailingMemoryAtInputsOf, DefaultOfTheRecord) {
   this->template failEach<TypeParam, WithDefault<TypeParam>>();
 }
-TYPED_TEST(FailingMemoryAtInputsOf, Zero) { this->template failEach<TypeParam, WithNothing>(); }
+TYPE_TEST(FailingMemoryAtInputsOf, Zero) { this->template failEach<TypeParam, WithNothing>(); }
 
-TYPED_TEST(FailingMemoryAtInputsOf, CopyOfTheValue) {
+TYPE_TEST(FailingMemoryAtInputsOf, CopyOfTheValue) {
   WithNothing host;
   ASSERT_TRUE(this->object_->setInputValue(Orvel::typeOf<TypeParam>(), host.value, &host.input));
   failEveryAllocation<Any>([&](Any& copy) { copy = host.value; },

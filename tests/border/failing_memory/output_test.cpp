@@ -3,6 +3,7 @@
 #include "border/failing_memory/every_allocation.h"
 #include "border/host.h"
 #include "support/type_samples.h"
+#include "support/type_tests.h"
 #include "vtlcmd/stand_in/geometry_builder.h"
 #include "vtlcmd/stand_in/type_factory.h"
 #include "vtlcmd/stand_in/value_factory.h"
@@ -54,20 +55,20 @@ class FailingMemoryAtOutputs : public ::testing::Test {
 
 template <typename T>
 class FailingMemoryAtOutputsOf : public FailingMemoryAtOutputs {};
-TYPED_TEST_SUITE(FailingMemoryAtOutputsOf, RegisteredTestTypes);
+TYPE_TEST_SUITE(FailingMemoryAtOutputsOf, RegisteredTestTypes);
 
-TYPED_TEST(FailingMemoryAtOutputsOf, SingleValues) {
+TYPE_TEST(FailingMemoryAtOutputsOf, SingleValues) {
   this->failEachOfAny(makeAny(sampleValue<TypeParam>(0)));
   this->failEachOfValue(Orvel::makeValue(sampleValue<TypeParam>(0)));
 }
 
-TYPED_TEST(FailingMemoryAtOutputsOf, Arrays) {
+TYPE_TEST(FailingMemoryAtOutputsOf, Arrays) {
   this->template failEachOfArray<TypeParam, 1>();
   this->template failEachOfArray<TypeParam, 2>();
   this->template failEachOfArray<TypeParam, 3>();
 }
 
-TYPED_TEST(FailingMemoryAtOutputsOf, SuppressedValues) {
+TYPE_TEST(FailingMemoryAtOutputsOf, SuppressedValues) {
   const Any any = makeAny(sampleValue<TypeParam>(0));
   this->failEach([&](Host& host) {
     host.logger.printLimit = 0;

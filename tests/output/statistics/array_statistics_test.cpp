@@ -10,6 +10,7 @@
 #include "support/built_text.h"
 #include "support/scoped_locale.h"
 #include "support/type_samples.h"
+#include "support/type_tests.h"
 #include "vtlcmd/output/statistics/average.h"
 
 namespace vtlcmd {
@@ -185,22 +186,22 @@ TEST(ArrayStatistics, NanFirstStaysAndNanLaterIsPassedOver) {
 
 template <typename T>
 class SummarisedType : public ::testing::Test {};
-TYPED_TEST_SUITE(SummarisedType, testing::SummarisedTestTypes);
+TYPE_TEST_SUITE(SummarisedType, testing::SummarisedTestTypes);
 
-TYPED_TEST(SummarisedType, EmptyArraySaysSoOnOneLine) {
+TYPE_TEST(SummarisedType, EmptyArraySaysSoOnOneLine) {
   const std::string blank = std::is_same_v<TypeParam, bool> ? " " : "";
   EXPECT_EQ(statistics<TypeParam>({}),
             blank + "(0 " + valueType<TypeParam>().name + ")\n  {\nempty array...  }");
 }
 
-TYPED_TEST(SummarisedType, NamedBlockIsALineOfTheObjectReport) {
+TYPE_TEST(SummarisedType, NamedBlockIsALineOfTheObjectReport) {
   TextBuilder text(0);
   const auto array = testing::arrayOf<TypeParam>({TypeParam{}});
   EXPECT_TRUE(printNamedArrayStatistics(text, "name", *array));
   EXPECT_EQ(text.text(), "  name: " + statistics<TypeParam>({TypeParam{}}) + "\n");
 }
 
-TYPED_TEST(SummarisedType, SummariesAllocateNothing) {
+TYPE_TEST(SummarisedType, SummariesAllocateNothing) {
   const auto array = testing::arrayOf<TypeParam>(std::vector<TypeParam>(1000));
   TextBuilder text(1000);
   const std::size_t before = testing::allocationCount();

@@ -5,6 +5,7 @@
 #include "support/built_text.h"
 #include "support/floating_environment.h"
 #include "support/type_samples.h"
+#include "support/type_tests.h"
 #include "vtlcmd/output/statistics/array_statistics.h"
 
 namespace vtlcmd {
@@ -26,9 +27,9 @@ class StatisticsEnvironment : public ::testing::Test {};
 
 template <typename T>
 using IsReported = std::bool_constant<Registered<T> && Summarised<T>>;
-TYPED_TEST_SUITE(StatisticsEnvironment, testing::TestTypesWhere<IsReported>);
+TYPE_TEST_SUITE(StatisticsEnvironment, testing::TestTypesWhere<IsReported>);
 
-TYPED_TEST(StatisticsEnvironment, StaysAsItWas) {
+TYPE_TEST(StatisticsEnvironment, StaysAsItWas) {
   const std::vector<TypeParam> elements(length, testing::sampleValue<TypeParam>(0));
   testing::inEachEnvironment([&] {
     const std::uint32_t before = FloatingEnvironment::settings();
@@ -38,7 +39,7 @@ TYPED_TEST(StatisticsEnvironment, StaysAsItWas) {
 }
 
 /// Whole numbers of few bits have no rounding in them.
-TYPED_TEST(StatisticsEnvironment, DoesNotChangeWhatIsExact) {
+TYPE_TEST(StatisticsEnvironment, DoesNotChangeWhatIsExact) {
   std::vector<TypeParam> elements;
   for (int i = 0; i < 1024; ++i) {
     if constexpr (requires { TypeParam::componentCount; }) {

@@ -9,6 +9,7 @@
 
 #include "output/statistics/plain_totals.h"
 #include "support/type_samples.h"
+#include "support/type_tests.h"
 
 namespace vtlcmd {
 namespace {
@@ -51,13 +52,13 @@ using Positions = std::vector<std::size_t>;
 
 template <typename T>
 class Kernels : public ::testing::Test {};
-TYPED_TEST_SUITE(Kernels, testing::SummarisedTestTypes);
+TYPE_TEST_SUITE(Kernels, testing::SummarisedTestTypes);
 
 /// Elements that make each kernel take a step and leave a rest, whichever vectors it has.
 template <typename T>
 constexpr std::size_t stepAndRest = 40 + 256 / sizeof(Number<T>);
 
-TYPED_TEST(Kernels, AgreeAtEveryLengthAndAlignment) {
+TYPE_TEST(Kernels, AgreeAtEveryLengthAndAlignment) {
   std::mt19937_64 random(1);
   constexpr std::size_t alignments = 64 / sizeof(Number<TypeParam>);
   for (std::size_t length = 1; length <= 300; ++length) {
@@ -67,7 +68,7 @@ TYPED_TEST(Kernels, AgreeAtEveryLengthAndAlignment) {
   }
 }
 
-TYPED_TEST(Kernels, LeaveOutWhatIsBehindTheElements) {
+TYPE_TEST(Kernels, LeaveOutWhatIsBehindTheElements) {
   using Limits = std::numeric_limits<Number<TypeParam>>;
   constexpr std::size_t parts = Parts<TypeParam>::count;
   for (const Number<TypeParam> behind : {Limits::lowest(), Limits::max()}) {
@@ -91,13 +92,13 @@ const Positions blockLengths{1023, 1024, 1025, 2048, 2049, 2050, 4097};
 template <>
 const Positions blockLengths<bool>{1024, 16320, 16321, 32641, 65279, 65280, 65281, 65536, 130561};
 
-TYPED_TEST(Kernels, AgreeWhereBlocksMeet) {
+TYPE_TEST(Kernels, AgreeWhereBlocksMeet) {
   std::mt19937_64 random(2);
   for (const std::size_t length : blockLengths<TypeParam>)
     ASSERT_TRUE(agree<TypeParam>(anyNumbers<TypeParam>(random, length)));
 }
 
-TYPED_TEST(Kernels, AgreeOnWhatIsTheSameThroughout) {
+TYPE_TEST(Kernels, AgreeOnWhatIsTheSameThroughout) {
   using Limits = std::numeric_limits<Number<TypeParam>>;
   for (const Number<TypeParam> number : {Limits::lowest(), Limits::max(), Number<TypeParam>{0},
                                          Number<TypeParam>{1}, Number<TypeParam>{2}}) {
@@ -108,7 +109,7 @@ TYPED_TEST(Kernels, AgreeOnWhatIsTheSameThroughout) {
   }
 }
 
-TYPED_TEST(Kernels, FindTheLeastAndTheGreatestAtEveryPosition) {
+TYPE_TEST(Kernels, FindTheLeastAndTheGreatestAtEveryPosition) {
   using Limits = std::numeric_limits<Number<TypeParam>>;
   std::vector<Number<TypeParam>> numbers(stepAndRest<TypeParam> * Parts<TypeParam>::count, 1);
   for (Number<TypeParam>& number : numbers) {
@@ -130,7 +131,7 @@ template <typename T>
 class FloatingKernels : public ::testing::Test {};
 template <typename T>
 using HasFloatingSums = std::bool_constant<Summarised<T> && std::is_floating_point_v<Number<T>>>;
-TYPED_TEST_SUITE(FloatingKernels, testing::TestTypesWhere<HasFloatingSums>);
+TYPE_TEST_SUITE(FloatingKernels, testing::TestTypesWhere<HasFloatingSums>);
 
 template <typename T>
 using BitsOf = std::conditional_t<sizeof(Number<T>) == 8, std::uint64_t, std::uint32_t>;
@@ -150,7 +151,7 @@ std::vector<Number<T>> nans() {
   return numbers;
 }
 
-TYPED_TEST(FloatingKernels, AgreeOnNanAtEveryPosition) {
+TYPE_TEST(FloatingKernels, AgreeOnNanAtEveryPosition) {
   std::mt19937_64 random(3);
   for (const std::size_t length : Positions{1, 2, 7, 20, 27}) {
     const auto numbers = anyNumbers<TypeParam>(random, length);
@@ -164,7 +165,7 @@ TYPED_TEST(FloatingKernels, AgreeOnNanAtEveryPosition) {
   }
 }
 
-TYPED_TEST(FloatingKernels, AgreeOnWhichOfTwoNansStays) {
+TYPE_TEST(FloatingKernels, AgreeOnWhichOfTwoNansStays) {
   const auto kinds = nans<TypeParam>();
   constexpr std::size_t length = 26;
   constexpr std::size_t parts = Parts<TypeParam>::count;
@@ -182,7 +183,7 @@ TYPED_TEST(FloatingKernels, AgreeOnWhichOfTwoNansStays) {
   }
 }
 
-TYPED_TEST(FloatingKernels, FindTheLeastAndTheGreatestWhereSumsAreNans) {
+TYPE_TEST(FloatingKernels, FindTheLeastAndTheGreatestWhereSumsAreNans) {
   using Limits = std::numeric_limits<Number<TypeParam>>;
   constexpr std::size_t parts = Parts<TypeParam>::count;
   // One element, two or one vectors, and a rest, whichever vectors a kernel has.
@@ -203,7 +204,7 @@ TYPED_TEST(FloatingKernels, FindTheLeastAndTheGreatestWhereSumsAreNans) {
   }
 }
 
-TYPED_TEST(FloatingKernels, AgreeOnNanPastTheFirstBlock) {
+TYPE_TEST(FloatingKernels, AgreeOnNanPastTheFirstBlock) {
   std::vector<Number<TypeParam>> numbers(5000 * Parts<TypeParam>::count, 1);
   for (const std::size_t i : Positions{0, 1, 2047, 2048, 2049, 4096, 4999}) {
     auto withNans = numbers;
@@ -213,7 +214,7 @@ TYPED_TEST(FloatingKernels, AgreeOnNanPastTheFirstBlock) {
   }
 }
 
-TYPED_TEST(FloatingKernels, KeepTheFirstOfTwoZerosAtEveryPairOfPositions) {
+TYPE_TEST(FloatingKernels, KeepTheFirstOfTwoZerosAtEveryPairOfPositions) {
   constexpr std::size_t length = 26;
   constexpr std::size_t parts = Parts<TypeParam>::count;
   const Number<TypeParam> zero = 0;
@@ -234,7 +235,7 @@ TYPED_TEST(FloatingKernels, KeepTheFirstOfTwoZerosAtEveryPairOfPositions) {
   }
 }
 
-TYPED_TEST(FloatingKernels, TakeNoNanForTheFirstZero) {
+TYPE_TEST(FloatingKernels, TakeNoNanForTheFirstZero) {
   constexpr std::size_t length = 26;
   constexpr std::size_t parts = Parts<TypeParam>::count;
   for (const Number<TypeParam> rest : {Number<TypeParam>{1}, Number<TypeParam>{-1}}) {
@@ -249,7 +250,7 @@ TYPED_TEST(FloatingKernels, TakeNoNanForTheFirstZero) {
   }
 }
 
-TYPED_TEST(FloatingKernels, KeepTheFirstOfTwoZerosInBlocksOfTheirOwn) {
+TYPE_TEST(FloatingKernels, KeepTheFirstOfTwoZerosInBlocksOfTheirOwn) {
   constexpr std::size_t parts = Parts<TypeParam>::count;
   const Number<TypeParam> zero = 0;
   for (const Number<TypeParam> first : {zero, -zero}) {
@@ -266,7 +267,7 @@ TYPED_TEST(FloatingKernels, KeepTheFirstOfTwoZerosInBlocksOfTheirOwn) {
   }
 }
 
-TYPED_TEST(FloatingKernels, AgreeOnInfinitiesAtEveryPairOfPositions) {
+TYPE_TEST(FloatingKernels, AgreeOnInfinitiesAtEveryPairOfPositions) {
   constexpr std::size_t parts = Parts<TypeParam>::count;
   constexpr auto infinite = std::numeric_limits<Number<TypeParam>>::infinity();
   for (std::size_t i = 0; i < 20; ++i) {

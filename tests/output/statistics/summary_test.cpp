@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "output/statistics/plain_totals.h"
+#include "support/type_tests.h"
 
 namespace vtlcmd {
 namespace {
@@ -21,9 +22,9 @@ using NumberTypes =
     ::testing::Types<float, double, std::int16_t, std::uint16_t, std::int32_t, std::uint32_t,
                      std::int64_t, std::uint64_t, Vantrel::Math::float2, Vantrel::Math::float3,
                      Vantrel::Math::float4>;
-TYPED_TEST_SUITE(SummaryOfNumbers, NumberTypes);
+TYPE_TEST_SUITE(SummaryOfNumbers, NumberTypes);
 
-TYPED_TEST(SummaryOfNumbers, SumIsDividedByTheVeryCount) {
+TYPE_TEST(SummaryOfNumbers, SumIsDividedByTheVeryCount) {
   for (std::size_t count = 1; count <= 20; ++count) {
     const std::vector<Number<TypeParam>> fives(count * Parts<TypeParam>::count, 5);
     const auto summary = summarise(reinterpret_cast<const TypeParam*>(fives.data()), count);
