@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <gtest/gtest.h>
 #include <string>
 
@@ -11,8 +12,7 @@ namespace vtlcmd::testing {
 
 /// What `write` appends is the same in every room, so that each of its pieces once finds too
 /// little; and a room that is enough stays as it is.
-template <typename Write>
-void expectAnyRoomWillDo(Write&& write) {
+inline void expectAnyRoomWillDo(const std::function<void(TextBuilder&)>& write) {
   // Numbers are written where the longest one would fit.
   const std::size_t enough = builtText(write).size() + 20;
   TextBuilder roomy(enough);
