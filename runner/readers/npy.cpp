@@ -17,20 +17,29 @@ namespace {
 /// Without elements the file's size says nothing about the rows; so many of them are still sane.
 constexpr std::uint64_t mostEmptyRows = 1'000'000;
 
-using Builder = Orvel::Value (*)(const NpyLayout&, NpyNumbers&);
+/// What numbers become in the graph system.
+struct NumberType {
+  const char* name;
+  NpyRows (*makeRows)(std::span<const std::uint64_t> shape);
+  void (*fillRows)(const std::vector<void*>&, const NpyLayout&, NpyNumbers&);
+};
+
+template <typename Stored, typename Number>
+constexpr NumberType numberType() {
+  return {valueType<Number>().name, makeRows<Number>, fillRows<Stored, Number>};
+}
 
 struct ElementCode {
   std::string_view code;
   std::string_view name;
   std::uint64_t size;
-  Builder build;
+  NumberType kept;
   /// As a type that the graph system reports.
-  Builder buildWidened;
-  const char* widenedName;
+  NumberType widened;
   /// The graph system has no type like the file's.
   bool alwaysWidened;
   /// Of vectors of two, three and four elements; null for elements that have none.
-  std::array<Builder, 3> buildVectors;
+  std::array<decltype(NumberType::makeRows), 3> makeVectorRows;
 };
 
 template <typename Stored, typename Kept = Stored, typename Widened = Kept>
@@ -38,16 +47,14 @@ constexpr ElementCode elementCode(std::string_view code, std::string_view name) 
   ElementCode row{code,
                   name,
                   sizeof(Stored),
-                  buildNpyValue<Stored, Kept>,
-                  buildNpyValue<Stored, Widened>,
-                  valueType<Widened>().name,
+                  numberType<Stored, Kept>(),
+                  numberType<Stored, Widened>(),
                   !std::is_same_v<Stored, Kept>,
                   {}};
   if constexpr (std::is_floating_point_v<Kept>) {
     using Vantrel::Math::Vector;
-    row.buildVectors = {buildNpyValue<Stored, Vector<Kept, 2>>,
-                        buildNpyValue<Stored, Vector<Kept, 3>>,
-                        buildNpyValue<Stored, Vector<Kept, 4>>};
+    row.makeVectorRows = {makeRows<Vector<Kept, 2>>, makeRows<Vector<Kept, 3>>,
+                          makeRows<Vector<Kept, 4>>};
   }
   return row;
 }
@@ -106,16 +113,16 @@ void checkSize(const NpyHeader& header, std::uint64_t elementSize, std::uint64_t
     throw ReadError("the shape has more than " + std::to_string(mostEmptyRows) + " empty rows");
 }
 
-/// The builder for vectors along the last dimension.
-Builder vectorBuilder(const ElementCode& code, const NpyHeader& header) {
+/// What makes rows of vectors along the last dimension.
+auto vectorRowMaker(const ElementCode& code, const NpyHeader& header) {
   const std::uint64_t length = header.shape.back();
-  if (code.buildVectors[0] == nullptr) {
+  if (code.makeVectorRows[0] == nullptr) {
     throw ReadError("elements of type " + inQuotes(header.descriptor) +
                     " make no vectors; floats do");
   }
   if (header.shape.size() < 2 || length < 2 || length > 4)
     throw ReadError("vectors want a last dimension of 2 to 4 behind another one");
-  return code.buildVectors[length - 2];
+  return code.makeVectorRows[length - 2];
 }
 
 }  // namespace
@@ -137,18 +144,22 @@ NpyArray parseNpy(ByteSource& file, NpyForm form) {
     throw ReadError("the array has " + std::to_string(header.shape.size()) +
                     " dimensions; 1 to 3 are supported");
   }
-  const bool widened = code.alwaysWidened || (form.widened && code.build != code.buildWidened);
-  const Builder build = form.vectors ? vectorBuilder(code, header)
-                        : widened    ? code.buildWidened
-                                     : code.build;
+  const bool widened = code.alwaysWidened || (form.widened && code.kept.name != code.widened.name);
+  const NumberType& number = widened ? code.widened : code.kept;
+  const auto makeRows = form.vectors ? vectorRowMaker(code, header) : number.makeRows;
   checkSize(header, code.size, file.remaining());
   const char order = header.descriptor[0];
   const bool swapped = order == (std::endian::native == std::endian::little ? '>' : '<');
-  std::vector<std::uint64_t> shape = header.shape;
-  if (form.vectors) shape.pop_back();
+  NpyLayout layout{header.shape, 1, header.fortranOrder};
+  if (form.vectors) {
+    layout.components = header.shape.back();
+    layout.shape.pop_back();
+  }
+  NpyRows rows = makeRows(layout.shape);
   NpyNumbers numbers(file, swapped);
-  return {build({std::move(shape), header.fortranOrder}, numbers),
-          {std::string(code.name), header.shape, widened ? code.widenedName : ""}};
+  number.fillRows(rows.memory, layout, numbers);
+  return {std::move(rows.value),
+          {std::string(code.name), header.shape, widened ? number.name : ""}};
 }
 
 }  // namespace vtlcmd::runner

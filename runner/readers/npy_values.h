@@ -2,7 +2,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <functional>
 #include <span>
 #include <type_traits>
 #include <vector>
@@ -11,122 +10,98 @@
 #include "values/library_array.h"
 #include "vtlcmd/host/value_types.h"
 
-/// Array values from the numbers of a file, which are read once, from front to back, so that a
-/// large file needs no memory besides its values.
+/// Array values from the numbers of a file. Their arrays are made with room for all numbers, which
+/// then are read once, from front to back, so that a large file needs no memory besides its values.
 
 namespace vtlcmd::runner {
 
 struct NpyLayout {
-  /// One to three dimensions, which become arrays. A vector's components are a dimension more.
+  /// One to three dimensions, which become arrays.
   std::vector<std::uint64_t> shape;
+  /// Numbers that an element consists of: a vector's, which are a dimension more in the file, or 1.
+  std::uint64_t components;
   /// The first dimension varies fastest in the file, not the last.
   bool fortranOrder;
 };
 
-/// What an element consists of: itself, or a vector's components.
-template <typename T>
-struct NumberIn {
-  using Type = T;
+/// A value and the memory of its innermost arrays, from the first to the last, with nothing in it.
+struct NpyRows {
+  Orvel::Value value;
+  std::vector<void*> memory;
 };
-template <typename T>
-requires requires { T::componentCount; }
-struct NumberIn<T> {
-  using Type = typename T::ComponentType;
-};
-template <typename T>
-using NumberOf = typename NumberIn<T>::Type;
-
-/// Gives the rows of the innermost level, of so many elements, from the first to the last.
-template <typename T>
-using MakeRow = std::function<Orvel::Ptr<Orvel::Array<T>>(std::uint64_t count)>;
 
 template <typename T, std::uint32_t Rank>
-StoredArray<T, Rank> nestRows(std::span<const std::uint64_t> shape, const MakeRow<T>& makeRow) {
+StoredArray<T, Rank> makeLevels(std::span<const std::uint64_t> shape, std::vector<void*>& memory) {
   if constexpr (Rank == 1) {
-    return makeRow(shape[0]);
+    static_assert(std::is_trivially_copyable_v<T>);
+    Orvel::Array<T> row = arrayWithRoom<T>(shape[0]);
+    row.size = shape[0];
+    memory.push_back(row.data);
+    return shareArray(std::move(row));
   } else {
-    return shareArray(generateArray<StoredArray<T, Rank - 1>>(
-        shape[0], [&](std::uint64_t) { return nestRows<T, Rank - 1>(shape.subspan(1), makeRow); }));
+    return shareArray(generateArray<StoredArray<T, Rank - 1>>(shape[0], [&](std::uint64_t) {
+      return makeLevels<T, Rank - 1>(shape.subspan(1), memory);
+    }));
   }
 }
 
-/// An array of one to three levels.
+/// An array of one to three levels, with elements of T. Throws FrameAbandoned and std::bad_alloc.
 template <typename T>
-Orvel::Value nestedValue(std::span<const std::uint64_t> shape, const MakeRow<T>& makeRow) {
+NpyRows makeRows(std::span<const std::uint64_t> shape) {
+  std::vector<void*> memory;
+  const auto make = [&]<std::uint32_t Rank>(std::integral_constant<std::uint32_t, Rank>) {
+    return Orvel::makeValue(makeLevels<T, Rank>(shape, memory));
+  };
   switch (shape.size()) {
     case 1:
-      return Orvel::makeValue(nestRows<T, 1>(shape, makeRow));
+      return {make(std::integral_constant<std::uint32_t, 1>{}), std::move(memory)};
     case 2:
-      return Orvel::makeValue(nestRows<T, 2>(shape, makeRow));
+      return {make(std::integral_constant<std::uint32_t, 2>{}), std::move(memory)};
     default:
-      return Orvel::makeValue(nestRows<T, 3>(shape, makeRow));
+      return {make(std::integral_constant<std::uint32_t, 3>{}), std::move(memory)};
   }
 }
 
-template <typename Stored, typename T>
-T nextElement(NpyNumbers& numbers) {
-  if constexpr (requires { T::componentCount; }) {
-    T vector;
-    for (auto& component : vector.components) component = numbers.next<Stored, NumberOf<T>>();
-    return vector;
-  } else {
-    return numbers.next<Stored, T>();
+template <typename Stored, typename Number>
+void fillInOrder(const std::vector<void*>& rows, const NpyLayout& layout, NpyNumbers& numbers) {
+  const std::uint64_t length = layout.shape.back() * layout.components;
+  for (void* row : rows) {
+    if constexpr (std::is_same_v<Stored, Number> && !std::is_same_v<Stored, bool>) {
+      numbers.fill<Stored>({static_cast<unsigned char*>(row), length * sizeof(Number)});
+    } else {
+      auto* places = static_cast<Number*>(row);
+      for (std::uint64_t i = 0; i < length; ++i) places[i] = numbers.next<Stored, Number>();
+    }
   }
 }
 
-/// A row that stands in the file as a whole.
-template <typename Stored, typename T>
-Orvel::Array<T> nextRow(std::uint64_t count, NpyNumbers& numbers) {
-  if constexpr (std::is_same_v<Stored, NumberOf<T>> && !std::is_same_v<Stored, bool>) {
-    static_assert(std::is_trivially_copyable_v<T> && sizeof(T) % sizeof(Stored) == 0);
-    Orvel::Array<T> row = arrayWithRoom<T>(count);
-    numbers.fill<Stored>({reinterpret_cast<unsigned char*>(row.data), count * sizeof(T)});
-    row.size = count;
-    return row;
-  } else {
-    return generateArray<T>(count, [&](std::uint64_t) { return nextElement<Stored, T>(numbers); });
-  }
-}
-
-/// Fills rows in the order of the first dimension varying fastest. They stand with the last but one
-/// dimension varying fastest.
-template <typename Stored, typename T>
-void fillInFortranOrder(const std::vector<T*>& rows, std::span<const std::uint64_t> shape,
+/// The rows stand with the last but one dimension varying fastest.
+template <typename Stored, typename Number>
+void fillInFortranOrder(const std::vector<void*>& rows, const NpyLayout& layout,
                         NpyNumbers& numbers) {
+  const std::span<const std::uint64_t> shape = layout.shape;
   const std::uint64_t outer = shape.size() > 1 ? shape[0] : 1;
   const std::uint64_t middle = shape.size() > 2 ? shape[1] : 1;
-  const auto fill = [&](auto setNext) {
+  for (std::uint64_t component = 0; component < layout.components; ++component) {
     for (std::uint64_t k = 0; k < shape.back(); ++k) {
+      const std::uint64_t place = k * layout.components + component;
       for (std::uint64_t j = 0; j < middle; ++j) {
-        for (std::uint64_t i = 0; i < outer; ++i) setNext(rows[i * middle + j][k]);
+        for (std::uint64_t i = 0; i < outer; ++i)
+          static_cast<Number*>(rows[i * middle + j])[place] = numbers.next<Stored, Number>();
       }
     }
-  };
-  if constexpr (requires { T::componentCount; }) {
-    for (std::size_t c = 0; c < T::componentCount; ++c)
-      fill([&](T& element) { element.components[c] = numbers.next<Stored, NumberOf<T>>(); });
-  } else {
-    fill([&](T& element) { element = numbers.next<Stored, T>(); });
   }
 }
 
-/// An array of elements T, whose numbers the file has as Stored.
-template <typename Stored, typename T>
-Orvel::Value buildNpyValue(const NpyLayout& layout, NpyNumbers& numbers) {
-  if (!layout.fortranOrder) {
-    return nestedValue<T>(layout.shape, [&](std::uint64_t count) {
-      return shareArray(nextRow<Stored, T>(count, numbers));
-    });
-  }
-  std::vector<T*> rows;
-  Orvel::Value array = nestedValue<T>(layout.shape, [&](std::uint64_t count) {
-    Orvel::Array<T> row = generateArray<T>(count, [](std::uint64_t) { return T{}; });
-    rows.push_back(row.data);
-    return shareArray(std::move(row));
-  });
-  // The value shares the rows.
-  if (!rows.empty()) fillInFortranOrder<Stored>(rows, layout.shape, numbers);
-  return array;
+/// Fills the rows with the numbers of a file that has them as Stored. Throws ReadError when there
+/// are fewer, and FrameAbandoned.
+template <typename Stored, typename Number>
+void fillRows(const std::vector<void*>& rows, const NpyLayout& layout, NpyNumbers& numbers) {
+  // Beside an empty dimension another one may be of any length.
+  if (rows.empty()) return;
+  const auto fill =
+      layout.fortranOrder ? fillInFortranOrder<Stored, Number> : fillInOrder<Stored, Number>;
+  fill(rows, layout, numbers);
 }
 
 }  // namespace vtlcmd::runner

@@ -251,7 +251,10 @@ TEST(Npy, EmptyArrays) {
   EXPECT_EQ(elementsOf<float>(valueIn(npyFile(npyHeader("<f4", "(0,)"), {}))).size(), 0U);
   const Orvel::Value rows = valueIn(npyFile(npyHeader("<f4", "(3, 0)"), {}));
   EXPECT_EQ(Orvel::ArrayValue(rows).size(), 3U);
-  EXPECT_EQ(npyRefusal(npyFile(npyHeader("<f4", "(0, 18446744073709551615)"), {})), "accepted");
+  for (const char* fortranOrder : {"False", "True"}) {
+    EXPECT_EQ(npyRefusal(npyFile(npyHeader("<f4", "(0, 18446744073709551615)", fortranOrder), {})),
+              "accepted");
+  }
 }
 
 TEST(Npy, AllVersions) {
