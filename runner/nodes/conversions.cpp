@@ -30,6 +30,14 @@ Converted<To> convert(const From& value) {
   }
 }
 
+void warnOfClamped(const NodeCall& call, std::uint64_t clamped,
+                   const std::optional<std::uint64_t>& size) {
+  const std::string which =
+      size ? std::to_string(clamped) + " of " + std::to_string(*size) + " values" : "the value";
+  call.warn(which + " didn't fit into " + call.resultType.element +
+            " and became the nearest that does");
+}
+
 template <typename To, typename From>
 Orvel::Value convertValue(const NodeCall& call) {
   const Operand<From> source(call[0], call.types[0].depth > 0);
@@ -39,13 +47,7 @@ Orvel::Value convertValue(const NodeCall& call) {
     clamped += converted.clamped ? 1 : 0;
     return converted.number;
   });
-  if (clamped > 0) {
-    const std::string which = source.size() ? std::to_string(clamped) + " of " +
-                                                  std::to_string(*source.size()) + " values"
-                                            : "the value";
-    call.warn(which + " didn't fit into " + call.resultType.element +
-              " and became the nearest that does");
-  }
+  if (clamped > 0) warnOfClamped(call, clamped, source.size());
   return result;
 }
 
