@@ -16,3 +16,11 @@ add_library(oracle_models STATIC ${oracle_sources})
 target_compile_options(oracle_models PRIVATE $<IF:$<CONFIG:Release>,-O2,-O1>)
 target_include_directories(oracle_models PUBLIC ${CMAKE_CURRENT_LIST_DIR})
 target_link_libraries(oracle_models PRIVATE vtlcmd_options)
+
+# The plug-in's parsers beside their model, for oracles and fuzz targets.
+add_library(input_comparison STATIC EXCLUDE_FROM_ALL
+  ${CMAKE_CURRENT_LIST_DIR}/input_comparison.cpp)
+target_compile_options(input_comparison PRIVATE $<IF:$<CONFIG:Release>,-O2,-O1>)
+target_link_libraries(input_comparison
+  PRIVATE vtlcmd_options
+  PUBLIC oracle_models vtlcmd_translation)
