@@ -34,30 +34,42 @@ std::string averageText() {
   return statisticsText<T>();
 }
 
-/// An array of the sample alone; `word` is what its level calls the element.
-template <Registered T>
-std::string rowText(const std::string& word) {
-  const std::string name = valueType<T>().name;
-  switch (valueType<T>().arrayClass) {
-    case ArrayClass::summarised:
-      return (std::is_same_v<T, bool> ? " (1 " : "(1 ") + name +
-             ")\n  {\n     min: " + statisticsText<T>() + "\n     max: " + statisticsText<T>() +
-             "\n     avg: " + averageText<T>() + "\n  }";
-    case ArrayClass::refused:
-      return "{non supported array of " + name + " }";
-    default:
-      return "\n(1 out of 1 " + word + ")[\n" + sampleOf<T>().report + " ]\n";
-  }
-}
+/// The texts of arrays of one element type, of samples alone.
+struct ArrayTexts {
+  std::string name;
+  ArrayClass arrayClass;
+  std::string element;
+  std::string statistics;
+  std::string average;
+  /// Before the count of elements in a block of statistics.
+  const char* margin;
 
-/// The text of nested arrays, one element wide at each level. `wordsNest` when each level calls its
-/// element by the element's whole name.
+  /// `word` is what the level calls the element.
+  std::string row(const std::string& word) const {
+    switch (arrayClass) {
+      case ArrayClass::summarised:
+        return margin + ("(1 " + name) + ")\n  {\n     min: " + statistics +
+               "\n     max: " + statistics + "\n     avg: " + average + "\n  }";
+      case ArrayClass::refused:
+        return "{non supported array of " + name + " }";
+      default:
+        return "\n(1 out of 1 " + word + ")[\n" + element + " ]\n";
+    }
+  }
+
+  /// Nested arrays, one element wide at each level. `wordsNest` when each level calls its element
+  /// by the element's whole name.
+  std::string nested(unsigned depth, bool wordsNest) const {
+    if (depth == 1) return row(name);
+    return "\n(1 out of 1 " + (wordsNest ? arrayName(name, depth - 1) : name) + ")[\n" +
+           nested(depth - 1, wordsNest) + " ]\n";
+  }
+};
+
 template <Registered T>
-std::string nestedText(unsigned depth, bool wordsNest) {
-  const std::string name = valueType<T>().name;
-  if (depth == 1) return rowText<T>(name);
-  return "\n(1 out of 1 " + (wordsNest ? arrayName(name, depth - 1) : name) + ")[\n" +
-         nestedText<T>(depth - 1, wordsNest) + " ]\n";
+ArrayTexts textsOf() {
+  return {valueType<T>().name, valueType<T>().arrayClass, sampleOf<T>().report,
+          statisticsText<T>(), averageText<T>(),          std::is_same_v<T, bool> ? " " : ""};
 }
 
 void expectLine(const PortHost& host, const std::string& typeWord, const std::string& text) {
@@ -65,65 +77,77 @@ void expectLine(const PortHost& host, const std::string& typeWord, const std::st
               {"progress Output port 'port': (" + typeWord + ") " + text});
 }
 
-template <Registered T, std::uint32_t Rank>
-void anyArrayIsReported(Session& session) {
+void expectAnyReported(Session& session, const Any& any, unsigned depth, const ArrayTexts& texts) {
   PortHost host(session);
-  expect(host.reportAny(makeAny(nestedArray<T, Rank>(sampleValue<T>()))), "the answer is true");
-  expectLine(host, arrayName(valueType<T>().name, Rank), nestedText<T>(Rank, false));
+  expect(host.reportAny(any), "the answer is true");
+  expectLine(host, arrayName(texts.name, depth), texts.nested(depth, false));
 }
 
-template <Registered T>
-void valueArraysAreReported(Session& session) {
-  const Orvel::Type type = Orvel::typeOf<T>();
-  Orvel::Type elementType = type;
-  Orvel::Value element = Orvel::makeValue<T>(sampleValue<T>());
+template <Registered T, std::uint32_t Rank>
+void anyArrayIsReported(Session& session) {
+  expectAnyReported(session, makeAny(nestedArray<T, Rank>(sampleValue<T>())), Rank, textsOf<T>());
+}
+
+void expectValuesReported(Session& session, Orvel::Value element, const ArrayTexts& texts) {
   for (unsigned depth = 1; depth <= 5; ++depth) {
-    element = Orvel::makeArray(elementType, std::array{element});
-    elementType = Orvel::makeArrayType(elementType);
+    element = Orvel::makeArray(element.getType(), std::array{element});
     PortHost host(session);
     expect(host.reportValue(element), "the answer is true");
-    expectLine(host, arrayName(valueType<T>().name, depth), nestedText<T>(depth, true));
+    expectLine(host, arrayName(texts.name, depth), texts.nested(depth, true));
   }
 }
 
 template <Registered T>
-void emptyArraysAreReported(Session& session) {
-  const std::string name = valueType<T>().name;
-  const auto empty = arrayOf<T>({});
+void valueArraysAreReported(Session& session) {
+  expectValuesReported(session, Orvel::makeValue<T>(sampleValue<T>()), textsOf<T>());
+}
+
+/// `rows` has two empty arrays.
+void expectEmptyReported(Session& session, const Any& empty, const Orvel::Value& emptyValue,
+                         const Any& rows, const std::string& name) {
+  const std::string note = "(0 out of 0 " + name + ")";
   PortHost any(session);
-  expect(any.reportAny(makeAny(empty)), "the answer is true");
-  expectLine(any, arrayName(name, 1), "(0 out of 0 " + name + ")");
+  expect(any.reportAny(empty), "the answer is true");
+  expectLine(any, arrayName(name, 1), note);
   PortHost value(session);
-  expect(value.reportValue(Orvel::makeValue(empty)), "the answer is true");
-  expectLine(value, arrayName(name, 1), "(0 out of 0 " + name + ")");
+  expect(value.reportValue(emptyValue), "the answer is true");
+  expectLine(value, arrayName(name, 1), note);
   PortHost row(session);
-  expect(row.reportAny(makeAny(arrayOf<StoredArray<T, 1>>({empty, empty}))), "the answer is true");
-  expectLine(
-      row, arrayName(name, 2),
-      "\n(2 out of 2 " + name + ")[\n(0 out of 0 " + name + "),\n(0 out of 0 " + name + ") ]\n");
+  expect(row.reportAny(rows), "the answer is true");
+  expectLine(row, arrayName(name, 2),
+             "\n(2 out of 2 " + name + ")[\n" + note + ",\n" + note + " ]\n");
 }
 
 template <Registered T>
-void addArraysOf(CheckList& checks) {
-  const std::string type = valueType<T>().name;
+void emptyArraysAreReported(Session& session) {
+  const auto empty = arrayOf<T>({});
+  expectEmptyReported(session, makeAny(empty), Orvel::makeValue(empty),
+                      makeAny(arrayOf<StoredArray<T, 1>>({empty, empty})), valueType<T>().name);
+}
+
+using Run = void (*)(Session&);
+
+void addArraysOf(CheckList& checks, const std::string& type, Run any1, Run any2, Run any3,
+                 Run values, Run empty) {
   const std::string name = nameOfType(type);
-  checks.push_back({"array-any-" + name, "An array of " + type + " in an Any is reported.",
-                    anyArrayIsReported<T, 1>});
-  checks.push_back({"array-any-2-" + name, "An Any two arrays of " + type + " deep is reported.",
-                    anyArrayIsReported<T, 2>});
-  checks.push_back({"array-any-3-" + name, "An Any three arrays of " + type + " deep is reported.",
-                    anyArrayIsReported<T, 3>});
-  checks.push_back({"array-value-" + name,
-                    "Array values of " + type + " are reported at any depth.",
-                    valueArraysAreReported<T>});
-  checks.push_back({"array-empty-" + name, "An empty array of " + type + " has a note.",
-                    emptyArraysAreReported<T>});
+  checks.push_back({"array-any-" + name, "An array of " + type + " in an Any is reported.", any1});
+  checks.push_back(
+      {"array-any-2-" + name, "An Any two arrays of " + type + " deep is reported.", any2});
+  checks.push_back(
+      {"array-any-3-" + name, "An Any three arrays of " + type + " deep is reported.", any3});
+  checks.push_back(
+      {"array-value-" + name, "Array values of " + type + " are reported at any depth.", values});
+  checks.push_back({"array-empty-" + name, "An empty array of " + type + " has a note.", empty});
 }
 
 }  // namespace
 
 void addArrayChecks(CheckList& checks) {
-  forEachRegistered([&](const auto& row) { addArraysOf<TypeOf<decltype(row)>>(checks); });
+  forEachRegistered([&](const auto& row) {
+    using T = TypeOf<decltype(row)>;
+    addArraysOf(checks, row.name, anyArrayIsReported<T, 1>, anyArrayIsReported<T, 2>,
+                anyArrayIsReported<T, 3>, valueArraysAreReported<T>, emptyArraysAreReported<T>);
+  });
 }
 
 }  // namespace vtlcmd::validator

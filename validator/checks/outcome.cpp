@@ -11,14 +11,28 @@ std::string joined(const std::vector<std::string>& lines) {
 
 }  // namespace
 
-void expectText(const std::string& what, const std::string& found, const std::string& wanted) {
-  if (found != wanted) throw Failed(what + ": found \"" + found + "\", wanted \"" + wanted + '"');
+void expect(bool holds, std::string_view what) {
+  if (!holds) throw Failed(std::string("not so: ").append(what));
 }
 
-void expectLines(const std::string& what, const std::vector<std::string>& found,
+void expectText(std::string_view what, std::string_view found, std::string_view wanted) {
+  if (found == wanted) return;
+  throw Failed(std::string(what)
+                   .append(": found \"")
+                   .append(found)
+                   .append("\", wanted \"")
+                   .append(wanted)
+                   .append("\""));
+}
+
+void expectLines(std::string_view what, const std::vector<std::string>& found,
                  const std::vector<std::string>& wanted) {
-  if (found != wanted)
-    throw Failed(what + ": found " + joined(found) + "; wanted " + joined(wanted));
+  if (found == wanted) return;
+  throw Failed(std::string(what)
+                   .append(": found ")
+                   .append(joined(found))
+                   .append("; wanted ")
+                   .append(joined(wanted)));
 }
 
 }  // namespace vtlcmd::validator

@@ -2,6 +2,7 @@
 
 #include <stdexcept>
 #include <string>
+#include <string_view>
 #include <vector>
 
 /// How a check ends early, and what it says then.
@@ -32,14 +33,12 @@ class Unloadable : public std::runtime_error {
 };
 
 /// Throws Failed, which says `what` ought to hold.
-inline void expect(bool holds, const std::string& what) {
-  if (!holds) throw Failed("not so: " + what);
-}
+void expect(bool holds, std::string_view what);
 
 /// Throws Failed with both texts.
-void expectText(const std::string& what, const std::string& found, const std::string& wanted);
+void expectText(std::string_view what, std::string_view found, std::string_view wanted);
 
-void expectLines(const std::string& what, const std::vector<std::string>& found,
+void expectLines(std::string_view what, const std::vector<std::string>& found,
                  const std::vector<std::string>& wanted);
 
 }  // namespace vtlcmd::validator

@@ -20,11 +20,17 @@ void expectReported(const PortHost& host, const std::string& typeWord, const std
   expect(record->second.valueShown, "the record says that the value is shown");
 }
 
+void expectAnyReported(Session& session, const Any& any, const std::string& typeWord,
+                       const std::string& text) {
+  PortHost host(session);
+  expect(host.reportAny(any), "the answer is true");
+  expectReported(host, typeWord, text);
+}
+
 template <Registered T>
 void anyIsReported(Session& session) {
-  PortHost host(session);
-  expect(host.reportAny(makeAny<T>(sampleValue<T>())), "the answer is true");
-  expectReported(host, valueType<T>().name, sampleOf<T>().report);
+  expectAnyReported(session, makeAny<T>(sampleValue<T>()), valueType<T>().name,
+                    sampleOf<T>().report);
 }
 
 template <Registered T>
@@ -36,9 +42,8 @@ void valueIsReported(Session& session) {
 
 template <Registered T>
 void zeroIsReported(Session& session) {
-  PortHost host(session);
-  expect(host.reportAny(makeAny<T>(zeroValue<T>())), "the answer is true");
-  expectReported(host, valueType<T>().name, sampleOf<T>().zeroReport);
+  expectAnyReported(session, makeAny<T>(zeroValue<T>()), valueType<T>().name,
+                    sampleOf<T>().zeroReport);
 }
 
 void expectSuppressed(const PortHost& host, const std::string& typeWord) {
@@ -52,50 +57,53 @@ void expectSuppressed(const PortHost& host, const std::string& typeWord) {
          "the record says that the value isn't shown");
 }
 
-template <Registered T, std::uint32_t Rank>
-void rankIsSuppressed(Session& session) {
-  const std::string typeWord = arrayName(valueType<T>().name, Rank);
-  StoredArray<T, Rank> stored;
-  if constexpr (Rank == 0) {
-    stored = sampleValue<T>();
-  } else {
-    stored = nestedArray<T, Rank>(sampleValue<T>());
-  }
+void expectSuppressed(Session& session, const Any& inAny, const Orvel::Value& asValue,
+                      const std::string& typeWord) {
   PortHost any(session, 0);
-  expect(any.reportAny(makeAny(stored)), "the answer for an Any is true");
+  expect(any.reportAny(inAny), "the answer for an Any is true");
   expectSuppressed(any, typeWord);
   PortHost value(session, 0);
-  expect(value.reportValue(Orvel::makeValue(stored)), "the answer for a value is true");
+  expect(value.reportValue(asValue), "the answer for a value is true");
   expectSuppressed(value, typeWord);
 }
 
 template <Registered T>
 void allFormsAreSuppressed(Session& session) {
-  rankIsSuppressed<T, 0>(session);
-  rankIsSuppressed<T, 1>(session);
-  rankIsSuppressed<T, 2>(session);
-  rankIsSuppressed<T, 3>(session);
+  const auto expectForm = [&](const auto& stored, unsigned depth) {
+    expectSuppressed(session, makeAny(stored), Orvel::makeValue(stored),
+                     arrayName(valueType<T>().name, depth));
+  };
+  const T sample = sampleValue<T>();
+  expectForm(sample, 0);
+  expectForm(nestedArray<T, 1>(sample), 1);
+  expectForm(nestedArray<T, 2>(sample), 2);
+  expectForm(nestedArray<T, 3>(sample), 3);
 }
 
-template <Registered T>
-void addReportsOf(CheckList& checks) {
-  const std::string type = valueType<T>().name;
+using Run = void (*)(Session&);
+
+void addReportsOf(CheckList& checks, const std::string& type, Run any, Run value, Run zero,
+                  Run suppressed) {
   const std::string name = nameOfType(type);
-  checks.push_back({"output-any-" + name, "A " + type + " in an Any is reported and recorded.",
-                    anyIsReported<T>});
-  checks.push_back({"output-value-" + name, "A " + type + " value is reported and recorded.",
-                    valueIsReported<T>});
-  checks.push_back({"output-zero-" + name, "The zero of " + type + " is reported and recorded.",
-                    zeroIsReported<T>});
+  checks.push_back(
+      {"output-any-" + name, "A " + type + " in an Any is reported and recorded.", any});
+  checks.push_back(
+      {"output-value-" + name, "A " + type + " value is reported and recorded.", value});
+  checks.push_back(
+      {"output-zero-" + name, "The zero of " + type + " is reported and recorded.", zero});
   checks.push_back({"output-suppressed-" + name,
                     "A print limit of 0 suppresses the text of " + type + " in all forms.",
-                    allFormsAreSuppressed<T>});
+                    suppressed});
 }
 
 }  // namespace
 
 void addOutputChecks(CheckList& checks) {
-  forEachRegistered([&](const auto& row) { addReportsOf<TypeOf<decltype(row)>>(checks); });
+  forEachRegistered([&](const auto& row) {
+    using T = TypeOf<decltype(row)>;
+    addReportsOf(checks, row.name, anyIsReported<T>, valueIsReported<T>, zeroIsReported<T>,
+                 allFormsAreSuppressed<T>);
+  });
 }
 
 }  // namespace vtlcmd::validator
