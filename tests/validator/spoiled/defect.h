@@ -16,9 +16,6 @@ struct Defect {
   void (*destroy)(VtlCmdTypeTranslation*) = nullptr;
 };
 
-/// The one of this library; it stands in a source that the build writes.
-extern const char* const defectName;
-
 /// Ends the process when there is none of that name.
 const Defect& defectNamed(const char* name);
 

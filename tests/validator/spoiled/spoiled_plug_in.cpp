@@ -1,6 +1,7 @@
 #include <new>
 
 #include "defect.h"
+#include "defect_name.h"
 #include "vtlcmd/translation/entry.h"
 
 // The plug-in with one defect.
