@@ -106,7 +106,8 @@ TEST(FailingMemoryAtTheEntry, SupportedNamesAreWholeSoFar) {
   Orvel::Array<Orvel::String> all;
   object->getSupportedTypeNames(all);
   ASSERT_EQ(all.size, supportedCount);
-  const std::size_t failures = failEveryAllocation<Orvel::Array<Orvel::String>>(
+  const std::size_t failures = failEveryAllocation(
+      [] { return Orvel::Array<Orvel::String>(); },
       [&](Orvel::Array<Orvel::String>& names) { object->getSupportedTypeNames(names); },
       [&](Orvel::Array<Orvel::String>& names, bool threw) {
         ASSERT_LE(names.size, all.size);

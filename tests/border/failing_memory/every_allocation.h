@@ -11,12 +11,12 @@ namespace vtlcmd::testing {
 /// More than any operation here asks for; one that goes on failing fails the test.
 inline constexpr std::size_t mostAllocations = 20'000;
 
-/// Runs `operate(state)` on a new State with its first allocation failing, then its second, and so
-/// on until it gets through; first each alone, then with all behind it. Out of memory leaves as
-/// std::bad_alloc, nothing stays allocated, and `check(state, threw)` holds afterwards. Gives how
-/// many allocations failed.
-template <typename State, typename Operate, typename Check>
-std::size_t failEveryAllocation(const Operate& operate, const Check& check) {
+/// Runs `operate(state)` on a new state, which `make()` gives, with its first allocation failing,
+/// then its second, and so on until it gets through; first each alone, then with all behind it. Out
+/// of memory leaves as std::bad_alloc, nothing stays allocated, and `check(state, threw)` holds
+/// afterwards. Gives how many allocations failed.
+template <typename Make, typename Operate, typename Check>
+std::size_t failEveryAllocation(const Make& make, const Operate& operate, const Check& check) {
   std::size_t failures = 0;
   for (const Failure failure : {Failure::once, Failure::lasting}) {
     for (std::size_t number = 0; number < mostAllocations; ++number) {
@@ -26,7 +26,7 @@ std::size_t failEveryAllocation(const Operate& operate, const Check& check) {
       const std::size_t before = liveBlocks();
       bool failed = false;
       {
-        State state;
+        auto state = make();
         bool threw = false;
         {
           const FailingMemory memory(number, failure);

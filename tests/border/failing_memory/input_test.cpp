@@ -27,46 +27,61 @@ bool isWhole(const T& value, const T& expected) {
   }
 }
 
+/// A host that something was done to, which is a `void(Host&)`.
+class PreparedHost : public Host {
+ public:
+  explicit PreparedHost(void (*prepare)(Host&)) { prepare(*this); }
+};
+
+/// Whether both hold the same T.
+template <typename T>
+bool holdSame(const Any& value, const Any& expected) {
+  const T* held = anyCast<T>(&value);
+  const T* wanted = anyCast<T>(&expected);
+  return held != nullptr && wanted != nullptr && isWhole(*held, *wanted);
+}
+
 class FailingMemoryAtInputs : public ::testing::Test {
  protected:
   ~FailingMemoryAtInputs() override { object_->destroy(); }
 
-  /// Sets a port of T, which `Prepared` makes of a host, with every allocation failing. Nothing is
+  /// Sets a port of a type, of a host that is prepared, with every allocation failing. Nothing is
   /// half done: the value is the old one, none, or the one of an undisturbed call, the messages are
   /// the first of those of an undisturbed call, and the next call is one.
-  template <typename T, typename Prepared>
-  void failEach() {
-    const Orvel::Type type = Orvel::typeOf<T>();
+  void failEach(const Orvel::Type& type, bool (*same)(const Any&, const Any&),
+                void (*prepare)(Host&)) {
     const auto set = [&](Host& host) {
       return object_->setInputValue(type, host.value, &host.input);
     };
-    Prepared undisturbed;
+    PreparedHost undisturbed(prepare);
     const bool succeeds = set(undisturbed);
     const Collected expected(undisturbed.logger);
     const auto holdsNewValue = [&](const Any& value) {
-      if (!undisturbed.value.holdsValue()) return !value.holdsValue();
-      const T* held = anyCast<T>(&value);
-      const T* wanted = anyCast<T>(&undisturbed.value);
-      return held != nullptr && wanted != nullptr && isWhole(*held, *wanted);
+      return undisturbed.value.holdsValue() ? same(value, undisturbed.value) : !value.holdsValue();
     };
-    const std::size_t failures = failEveryAllocation<Prepared>(
-        [&](Prepared& host) { set(host); },
-        [&](Prepared& host, bool threw) {
-          const Collected collected(host.logger);
-          if (!threw) {
-            EXPECT_TRUE(holdsNewValue(host.value));
-            EXPECT_EQ(collected, expected);
-            return;
-          }
-          EXPECT_TRUE(host.holdsOldValue() || !host.value.holdsValue() ||
-                      holdsNewValue(host.value));
-          EXPECT_TRUE(collected.isBeginningOf(expected));
-          host.logger.messages.resize(Host::oldMessages);
-          EXPECT_EQ(set(host), succeeds);
-          EXPECT_TRUE(holdsNewValue(host.value));
-          EXPECT_EQ(Collected(host.logger), expected);
-        });
+    const std::size_t failures =
+        failEveryAllocation([&] { return PreparedHost(prepare); }, [&](Host& host) { set(host); },
+                            [&](Host& host, bool threw) {
+                              const Collected collected(host.logger);
+                              if (!threw) {
+                                EXPECT_TRUE(holdsNewValue(host.value));
+                                EXPECT_EQ(collected, expected);
+                                return;
+                              }
+                              EXPECT_TRUE(host.holdsOldValue() || !host.value.holdsValue() ||
+                                          holdsNewValue(host.value));
+                              EXPECT_TRUE(collected.isBeginningOf(expected));
+                              host.logger.messages.resize(Host::oldMessages);
+                              EXPECT_EQ(set(host), succeeds);
+                              EXPECT_TRUE(holdsNewValue(host.value));
+                              EXPECT_EQ(Collected(host.logger), expected);
+                            });
     EXPECT_GT(failures, 0U);
+  }
+
+  template <typename T>
+  void failEachOf(void (*prepare)(Host&)) {
+    failEach(Orvel::typeOf<T>(), holdSame<T>, prepare);
   }
 
   LoadedPlugIn library_;
@@ -74,90 +89,88 @@ class FailingMemoryAtInputs : public ::testing::Test {
 };
 
 template <typename T>
-struct WithText : Host {
-  WithText() { inputValues.insert(name, {{}, rowOf<T>().samples[0].text}); }
-};
-template <>
-struct WithText<ObjectPtr> : Host {
-  WithText() { inputValues.insert(name, {{}, "no object has a text"}); }
-};
+void giveText(Host& host) {
+  const char* text = "no object has a text";
+  if constexpr (!std::is_same_v<T, ObjectPtr>) text = rowOf<T>().samples[0].text;
+  host.inputValues.insert(host.name, {{}, text});
+}
 
-struct WithBadText : Host {
-  WithBadText() {
-    jobValues.insert(name, {{}, "1,no number at all,2,3"});
-    input.isJobPort = true;
-  }
-};
-
-struct WithNothing : Host {};
+void giveBadText(Host& host) {
+  host.jobValues.insert(host.name, {{}, "1,no number at all,2,3"});
+  host.input.isJobPort = true;
+}
 
 template <typename T>
-struct WithDefault : Host {
-  WithDefault() { input.defaultValue = makeAny(sampleValue<T>(1)); }
-};
+void giveDefault(Host& host) {
+  host.input.defaultValue = makeAny(sampleValue<T>(1));
+}
+
+void giveNothing(Host&) {}
 
 template <typename T>
 class FailingMemoryAtInputsOf : public FailingMemoryAtInputs {};
 TYPE_TEST_SUITE(FailingMemoryAtInputsOf, RegisteredTestTypes);
 
 TYPE_TEST(FailingMemoryAtInputsOf, Text) {
-  this->template failEach<TypeParam, WithText<TypeParam>>();
+  this->template failEachOf<TypeParam>(giveText<TypeParam>);
 }
 TYPE_TEST(FailingMemoryAtInputsOf, RefusedText) {
-  this->template failEach<TypeParam, WithBadText>();
+  this->template failEachOf<TypeParam>(giveBadText);
 }
 TYPE_TEST(FailingMemoryAtInputsOf, DefaultOfTheRecord) {
-  this->template failEach<TypeParam, WithDefault<TypeParam>>();
+  this->template failEachOf<TypeParam>(giveDefault<TypeParam>);
 }
-TYPE_TEST(FailingMemoryAtInputsOf, Zero) { this->template failEach<TypeParam, WithNothing>(); }
+TYPE_TEST(FailingMemoryAtInputsOf, Zero) { this->template failEachOf<TypeParam>(giveNothing); }
+
+/// Copies a value that the plug-in made.
+void failEachCopy(const Any& value) {
+  failEveryAllocation([] { return Any(); }, [&](Any& copy) { copy = value; },
+                      [&](const Any& copy, bool threw) { EXPECT_EQ(copy.holdsValue(), !threw); });
+}
 
 TYPE_TEST(FailingMemoryAtInputsOf, CopyOfTheValue) {
-  WithNothing host;
+  Host host;
   ASSERT_TRUE(this->object_->setInputValue(Orvel::typeOf<TypeParam>(), host.value, &host.input));
-  failEveryAllocation<Any>([&](Any& copy) { copy = host.value; },
-                           [&](const Any& copy, bool threw) {
-                             EXPECT_EQ(copy.holdsValue(), !threw);
-                             EXPECT_NE(anyCast<TypeParam>(&host.value), nullptr);
-                           });
+  failEachCopy(host.value);
+  EXPECT_NE(anyCast<TypeParam>(&host.value), nullptr);
 }
 
-TEST_F(FailingMemoryAtInputs, Time) { failEach<Vantrel::Simulation::Time, WithNothing>(); }
+TEST_F(FailingMemoryAtInputs, Time) { failEachOf<Vantrel::Simulation::Time>(giveNothing); }
 
 TEST_F(FailingMemoryAtInputs, SceneInfo) {
-  failEach<Vantrel::File::Project::SceneInfo, WithNothing>();
+  failEachOf<Vantrel::File::Project::SceneInfo>(giveNothing);
 }
 
 /// What is refused leaves the value alone, also when the refusal can't be told.
-template <typename Prepared>
-void refuseEach(const TypeTranslation& object, const Orvel::Type& type) {
-  const auto set = [&](Prepared& host) { object.setInputValue(type, host.value, &host.input); };
-  Prepared undisturbed;
+void refuseEach(const TypeTranslation& object, const Orvel::Type& type, void (*prepare)(Host&)) {
+  const auto set = [&](Host& host) { object.setInputValue(type, host.value, &host.input); };
+  PreparedHost undisturbed(prepare);
   set(undisturbed);
   const Collected expected(undisturbed.logger);
-  failEveryAllocation<Prepared>(set, [&](Prepared& host, bool threw) {
-    const Collected collected(host.logger);
-    EXPECT_TRUE(host.holdsOldValue());
-    EXPECT_TRUE(threw ? collected.isBeginningOf(expected) : collected == expected);
-    host.logger.addMessage(vtlcmdSource, levelError, "the logger goes on");
-    EXPECT_EQ(host.logger.messages.size(), collected.messages.size() + 1);
-  });
+  failEveryAllocation(
+      [&] { return PreparedHost(prepare); }, set,
+      [&](Host& host, bool threw) {
+        const Collected collected(host.logger);
+        EXPECT_TRUE(host.holdsOldValue());
+        EXPECT_TRUE(threw ? collected.isBeginningOf(expected) : collected == expected);
+        host.logger.addMessage(vtlcmdSource, levelError, "the logger goes on");
+        EXPECT_EQ(host.logger.messages.size(), collected.messages.size() + 1);
+      });
 }
 
-struct WithBadFrameLength : Host {
-  WithBadFrameLength() { context.frameLength = -1; }
-};
-
 TEST_F(FailingMemoryAtInputs, RefusedTypes) {
-  refuseEach<Host>(*object_, Orvel::typeOf<Math::float2x2>());
-  refuseEach<Host>(*object_, Orvel::makeArrayType(Orvel::typeOf<std::int32_t>()));
-  refuseEach<WithBadFrameLength>(*object_, Orvel::typeOf<Vantrel::Simulation::Time>());
+  refuseEach(*object_, Orvel::typeOf<Math::float2x2>(), giveNothing);
+  refuseEach(*object_, Orvel::makeArrayType(Orvel::typeOf<std::int32_t>()), giveNothing);
+  refuseEach(*object_, Orvel::typeOf<Vantrel::Simulation::Time>(),
+             [](Host& host) { host.context.frameLength = -1; });
 }
 
 TEST_F(FailingMemoryAtInputs, NullRecord) {
   const Orvel::Type type = Orvel::typeOf<std::int32_t>();
   ::testing::internal::CaptureStderr();
-  failEveryAllocation<Host>([&](Host& host) { object_->setInputValue(type, host.value, nullptr); },
-                            [](const Host& host, bool) { EXPECT_TRUE(host.holdsOldValue()); });
+  failEveryAllocation([] { return Host(); },
+                      [&](Host& host) { object_->setInputValue(type, host.value, nullptr); },
+                      [](const Host& host, bool) { EXPECT_TRUE(host.holdsOldValue()); });
   ::testing::internal::GetCapturedStderr();
 }
 

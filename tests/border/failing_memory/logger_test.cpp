@@ -51,11 +51,11 @@ void expectUsable(VtlCmdLogger& logger) {
 
 template <typename Operate, typename Check>
 void failEach(const Operate& operate, const Check& check) {
-  const std::size_t failures =
-      failEveryAllocation<Logger>(operate, [&](Logger& logger, bool threw) {
-        check(logger, threw);
-        expectUsable(logger);
-      });
+  const std::size_t failures = failEveryAllocation([] { return Logger(); }, operate,
+                                                   [&](Logger& logger, bool threw) {
+                                                     check(logger, threw);
+                                                     expectUsable(logger);
+                                                   });
   EXPECT_GT(failures, 0U);
 }
 

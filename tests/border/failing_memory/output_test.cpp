@@ -1,3 +1,4 @@
+#include <functional>
 #include <gtest/gtest.h>
 
 #include "border/failing_memory/every_allocation.h"
@@ -19,13 +20,12 @@ class FailingMemoryAtOutputs : public ::testing::Test {
 
   /// Reports with every allocation failing. What is in the logger then are the first steps of an
   /// undisturbed call, and the next call is one.
-  template <typename Report>
-  void failEach(const Report& report) {
+  void failEach(const std::function<bool(Host&)>& report) {
     Host undisturbed;
     const bool supported = report(undisturbed);
     const Collected expected(undisturbed.logger);
-    failEveryAllocation<Host>(
-        [&](Host& host) { report(host); },
+    failEveryAllocation(
+        [] { return Host(); }, [&](Host& host) { report(host); },
         [&](Host& host, bool threw) {
           const Collected collected(host.logger);
           EXPECT_TRUE(threw ? collected.isBeginningOf(expected) : collected == expected);
@@ -110,7 +110,8 @@ TEST_F(FailingMemoryAtOutputs, SecondReportOfAPort) {
   Reported before;
   Reported undisturbed;
   ASSERT_TRUE(object_->getOutputValue(value, &undisturbed.output));
-  failEveryAllocation<Reported>(
+  failEveryAllocation(
+      [] { return Reported(); },
       [&](Reported& host) { object_->getOutputValue(value, &host.output); },
       [&](const Reported& host, bool threw) {
         const Collected collected(host.logger);
@@ -123,12 +124,12 @@ TEST_F(FailingMemoryAtOutputs, SecondReportOfAPort) {
 TEST_F(FailingMemoryAtOutputs, NullRecord) {
   const Orvel::Value value = Orvel::makeValue(1.5);
   ::testing::internal::CaptureStderr();
-  failEveryAllocation<Any>(
-      [&](Any& any) {
-        object_->getOutputAny(any, nullptr);
-        object_->getOutputValue(value, nullptr);
-      },
-      [](const Any&, bool) {});
+  failEveryAllocation([] { return Any(); },
+                      [&](Any& any) {
+                        object_->getOutputAny(any, nullptr);
+                        object_->getOutputValue(value, nullptr);
+                      },
+                      [](const Any&, bool) {});
   ::testing::internal::GetCapturedStderr();
 }
 
