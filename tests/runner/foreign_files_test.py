@@ -67,10 +67,10 @@ def check_limits():
         archive.writestr("_rels/.rels", '<Relationships><Relationship Id="r" Target="/3D/3dmodel.model"'
                          ' Type="http://schemas.microsoft.com/3dmanufacturing/2013/01/3dmodel"/>'
                          "</Relationships>")
-        archive.writestr("3D/3dmodel.model", b" " * (400 << 20))
-    memory = "reading it takes more than 200 MiB of memory (--read-memory)"
+        archive.writestr("3D/3dmodel.model", b" " * (150 << 20))
+    memory = "reading it takes more than 100 MiB of memory (--read-memory)"
     for file in "claims_much.glb", "shared.gltf", "bomb.3mf":
-        refused(file, memory, "--read-memory", "200M")
+        refused(file, memory, "--read-memory", "100M")
     refused("shared.gltf", "reading it takes more than 1 second of processor time (--read-cpu)",
             "--read-cpu", "1")
     refused("shared.gltf", "reading it takes longer than 1 second (--read-time)", "--read-time", "1")
@@ -120,9 +120,9 @@ def check_archives():
     check("damaged archive", (code, errors.count("\n"), "damaged.npz: 'a.npy' in it " in errors),
           (1, 1, True))
     with zipfile.ZipFile("bomb.npz", "w", zipfile.ZIP_DEFLATED) as archive:
-        archive.writestr("a.npy", npy("|i1", "(419430400,)", bytes(400 << 20)))
-    refused("bomb.npz", "reading it takes more than 200 MiB of memory (--read-memory)",
-            "--read-memory", "200M")
+        archive.writestr("a.npy", npy("|i1", "(419430400,)", bytes(150 << 20)))
+    refused("bomb.npz", "reading it takes more than 100 MiB of memory (--read-memory)",
+            "--read-memory", "100M")
     for content, reason in (numbers + b"x", "'a' in it: the file is 1 byte longer than its header says"), \
                            (None, "'a.txt' in it is no array file"):
         with zipfile.ZipFile("other.npz", "w") as archive:
