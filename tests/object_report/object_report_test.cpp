@@ -217,15 +217,19 @@ TEST_F(ObjectReport, UsesOfAnyAndOfValueAreGivenBack) {
 // There each library has allocation functions of its own, and only the program's are counted.
 TEST_F(ObjectReport, NothingStaysInUseBehindIt) {
   EXPECT_EQ(testing::blocksLeftBy([&] { report(); }), 0);
-  addComponent("pieces", 3);
+  addComponent("a component whose name takes memory of its own", 3);
+  addComponent("another component whose name takes memory of its own", 4);
   EXPECT_EQ(testing::blocksLeftBy([&] { report(); }), 0);
   addData<float>("a property whose name takes memory of its own", {1});
+  addData<float>("another property whose name takes memory of its own", {1});
   EXPECT_EQ(testing::blocksLeftBy([&] { report(); }), 0);
 }
 
 TEST_F(ObjectReport, NothingStaysInUseWhicheverAllocationFails) {
-  addComponent("pieces", 3);
+  addComponent("a component whose name takes memory of its own", 3);
+  addComponent("another component whose name takes memory of its own", 4);
   addData<float>("a property whose name takes memory of its own", {1});
+  addData<float>("another property whose name takes memory of its own", {1});
   const auto property = Vantrel::Geometry::getDataGeoProperty(
       *object_, view("a property whose name takes memory of its own"));
   const auto uses = Orvel::useCount(property);

@@ -3,7 +3,7 @@
 #include <concepts>
 #include <cstddef>
 #include <cstdint>
-#include <memory>
+#include <cstring>
 #include <new>
 #include <type_traits>
 #include <utility>
@@ -33,6 +33,9 @@ class ORVEL_CORE_API UntypedTypeRep {
 };
 
 }  // namespace Internal
+
+// Its loops are plain ones: the standard library's would be a dozen functions more to compile for
+// each of the many types of elements.
 
 /// The library's growing array. It owns its elements, in a block of `capacity` of them that the
 /// library allocated; without a block `data` is null. A pointer to an element is valid until the
@@ -84,14 +87,21 @@ class Array {
   void moveTo(std::uint64_t newCapacity) {
     static_assert(std::is_nothrow_move_constructible_v<T>, "growth can't be taken back");
     T* block = static_cast<T*>(typeRep().allocate(newCapacity));
-    std::uninitialized_move_n(data, size, block);
+    if constexpr (std::is_trivially_copyable_v<T>) {
+      if (size != 0) std::memcpy(block, data, size * sizeof(T));
+    } else {
+      for (std::uint64_t i = 0; i < size; ++i)
+        ::new (static_cast<void*>(block + i)) T(std::move(data[i]));
+    }
     release();
     data = block;
     capacity = newCapacity;
   }
 
   void release() noexcept {
-    std::destroy_n(data, size);
+    if constexpr (!std::is_trivially_destructible_v<T>) {
+      for (std::uint64_t i = 0; i < size; ++i) data[i].~T();
+    }
     if (capacity != 0) typeRep().deallocate(data, capacity);
   }
 };
