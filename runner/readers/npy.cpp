@@ -155,11 +155,10 @@ NpyArray parseNpy(ByteSource& file, NpyForm form) {
     layout.components = header.shape.back();
     layout.shape.pop_back();
   }
-  NpyRows rows = makeRows(layout.shape);
+  const NpyRows rows = makeRows(layout.shape);
   NpyNumbers numbers(file, swapped);
   number.fillRows(rows.memory, layout, numbers);
-  return {std::move(rows.value),
-          {std::string(code.name), header.shape, widened ? number.name : ""}};
+  return {rows.value, {std::string(code.name), header.shape, widened ? number.name : ""}};
 }
 
 }  // namespace vtlcmd::runner
