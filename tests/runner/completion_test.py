@@ -60,15 +60,14 @@ class Prompt:
     def type(self, keys):
         os.write(self.terminal, keys.encode())
 
-    def wait_for(self, arrived, seconds=20):
-        """Reads what the shell shows until something has arrived."""
+    def run(self, line, finished, seconds=20):
+        """Lets the shell run a line and then make the file `finished`. Says whether it came to that."""
+        self.type(f"{line}; echo > {finished}\r")
         end = time.monotonic() + seconds
-        while time.monotonic() < end:
+        while not finished.exists() and time.monotonic() < end:
             if select.select([self.terminal], [], [], 0.05)[0]:
                 os.read(self.terminal, 65536)
-            if (result := arrived()) is not None:
-                return result
-        return None
+        return finished.exists()
 
     def wait_for_rest(self):
         """Reads until the shell has been silent for a while."""
@@ -81,26 +80,20 @@ class Prompt:
         os.close(self.terminal)
 
 
-def whole_text(path):
-    text = path.read_text() if path.exists() else ""
-    return text if text.endswith("\n") else None
-
-
 problems = []
 for shell, (command, setup) in SHELLS.items():
     with tempfile.TemporaryDirectory() as folder:
         prompt = Prompt(command, folder)
-        ready = pathlib.Path(folder) / "ready"
-        prompt.type(f"{setup}; echo > {ready}\r")
-        if prompt.wait_for(lambda: whole_text(ready)) is None:
+        if not prompt.run(setup, pathlib.Path(folder) / "ready"):
             problems.append(f"{shell} doesn't get ready")
         for number, (typed, expected) in enumerate(LINES.items()):
             printed = pathlib.Path(folder) / str(number)
-            # The line goes to the start, where it becomes the arguments of a harmless command.
+            # The line goes to the start, where it becomes the arguments of a harmless command. Its
+            # file isn't read before it ended: a shell may write it word by word.
             prompt.type(f"{typed}\t")
             prompt.wait_for_rest()
-            prompt.type(f"\x01printf '%s\\n' \x05 > {printed}\r")
-            words = (prompt.wait_for(lambda: whole_text(printed)) or "").splitlines()
+            ended = prompt.run(f"\x01printf '%s\\n' \x05 > {printed}", printed.with_suffix(".end"))
+            words = printed.read_text().splitlines() if ended else []
             if words != expected:
                 problems.append(f"{shell}: {typed!r} became {shlex.join(words)!r}")
         prompt.close()
