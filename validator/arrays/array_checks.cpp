@@ -1,5 +1,6 @@
 #include <array>
 
+#include "checks/checks_of_type.h"
 #include "checks/outcome.h"
 #include "checks/subjects.h"
 #include "checks/type_names.h"
@@ -77,7 +78,8 @@ void expectLine(const PortHost& host, const std::string& typeWord, const std::st
               {"progress Output port 'port': (" + typeWord + ") " + text});
 }
 
-void expectAnyReported(Session& session, const Any& any, unsigned depth, const ArrayTexts& texts) {
+void expectNestedReported(Session& session, const Any& any, unsigned depth,
+                          const ArrayTexts& texts) {
   PortHost host(session);
   expect(host.reportAny(any), "the answer is true");
   expectLine(host, arrayName(texts.name, depth), texts.nested(depth, false));
@@ -85,10 +87,11 @@ void expectAnyReported(Session& session, const Any& any, unsigned depth, const A
 
 template <Registered T, std::uint32_t Rank>
 void anyArrayIsReported(Session& session) {
-  expectAnyReported(session, makeAny(nestedArray<T, Rank>(sampleValue<T>())), Rank, textsOf<T>());
+  expectNestedReported(session, makeAny(nestedArray<T, Rank>(sampleValue<T>())), Rank,
+                       textsOf<T>());
 }
 
-void expectValuesReported(Session& session, Orvel::Value element, const ArrayTexts& texts) {
+void expectValueLevelsReported(Session& session, Orvel::Value element, const ArrayTexts& texts) {
   for (unsigned depth = 1; depth <= 5; ++depth) {
     element = Orvel::makeArray(element.getType(), std::array{element});
     PortHost host(session);
@@ -99,7 +102,7 @@ void expectValuesReported(Session& session, Orvel::Value element, const ArrayTex
 
 template <Registered T>
 void valueArraysAreReported(Session& session) {
-  expectValuesReported(session, Orvel::makeValue<T>(sampleValue<T>()), textsOf<T>());
+  expectValueLevelsReported(session, Orvel::makeValue<T>(sampleValue<T>()), textsOf<T>());
 }
 
 /// `rows` has two empty arrays.
@@ -125,28 +128,19 @@ void emptyArraysAreReported(Session& session) {
                       makeAny(arrayOf<StoredArray<T, 1>>({empty, empty})), valueType<T>().name);
 }
 
-using Run = void (*)(Session&);
-
-void addArraysOf(CheckList& checks, const std::string& type, Run any1, Run any2, Run any3,
-                 Run values, Run empty) {
-  const std::string name = nameOfType(type);
-  checks.push_back({"array-any-" + name, "An array of " + type + " in an Any is reported.", any1});
-  checks.push_back(
-      {"array-any-2-" + name, "An Any two arrays of " + type + " deep is reported.", any2});
-  checks.push_back(
-      {"array-any-3-" + name, "An Any three arrays of " + type + " deep is reported.", any3});
-  checks.push_back(
-      {"array-value-" + name, "Array values of " + type + " are reported at any depth.", values});
-  checks.push_back({"array-empty-" + name, "An empty array of " + type + " has a note.", empty});
-}
-
 }  // namespace
 
 void addArrayChecks(CheckList& checks) {
   forEachRegistered([&](const auto& row) {
     using T = TypeOf<decltype(row)>;
-    addArraysOf(checks, row.name, anyArrayIsReported<T, 1>, anyArrayIsReported<T, 2>,
-                anyArrayIsReported<T, 3>, valueArraysAreReported<T>, emptyArraysAreReported<T>);
+    addChecksOfType(
+        checks, row.name,
+        {{"array-any", "An array of {} in an Any is reported.", anyArrayIsReported<T, 1>},
+         {"array-any-2", "An Any two arrays of {} deep is reported.", anyArrayIsReported<T, 2>},
+         {"array-any-3", "An Any three arrays of {} deep is reported.", anyArrayIsReported<T, 3>},
+         {"array-value", "Array values of {} are reported at any depth.",
+          valueArraysAreReported<T>},
+         {"array-empty", "An empty array of {} has a note.", emptyArraysAreReported<T>}});
   });
 }
 

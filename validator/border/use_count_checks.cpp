@@ -1,6 +1,6 @@
+#include "checks/checks_of_type.h"
 #include "checks/outcome.h"
 #include "checks/subjects.h"
-#include "checks/type_names.h"
 #include "host/port_host.h"
 #include "values/samples.h"
 #include "vtlcmd/stand_in/type_factory.h"
@@ -85,14 +85,12 @@ void rawBlockIsEnded(Session& session) {
 void addUseCountChecks(CheckList& checks) {
   forEachRegistered([&](const auto& row) {
     using T = TypeOf<decltype(row)>;
-    const std::string name = nameOfType(row.name);
-    const std::string type = row.name;
-    checks.push_back({"use-count-report-" + name,
-                      "Reporting arrays of " + type + " leaves their use counts as they were.",
-                      usesAreGivenBack<T>});
-    checks.push_back({"use-count-default-" + name,
-                      "An array as default of a " + type + " port is shared, by one use a copy.",
-                      defaultIsShared<T>});
+    addChecksOfType(
+        checks, row.name,
+        {{"use-count-report", "Reporting arrays of {} leaves their use counts as they were.",
+          usesAreGivenBack<T>},
+         {"use-count-default", "An array as default of a {} port is shared, by one use a copy.",
+          defaultIsShared<T>}});
   });
   checks.push_back(
       {"use-count-none", "A pointer without control block is never counted.", nullControlIsLegal});

@@ -1,6 +1,6 @@
+#include "checks/checks_of_type.h"
 #include "checks/outcome.h"
 #include "checks/subjects.h"
-#include "checks/type_names.h"
 #include "host/port_host.h"
 #include "values/samples.h"
 #include "vtlcmd/stand_in/type_factory.h"
@@ -67,27 +67,22 @@ void arrayIsRefusedInSilence(Session& session) {
   expectLines("messages", host.messages(), {});
 }
 
-template <Registered T>
-void addDefaultsOf(CheckList& checks) {
-  const std::string type = valueType<T>().name;
-  const std::string name = nameOfType(type);
-  checks.push_back({"input-zero-" + name,
-                    "A " + type + " port without text and default gets the type's zero.",
-                    zeroStandsIn<T>});
-  checks.push_back({"input-default-" + name, "A " + type + " port without text gets the default.",
-                    hostsDefaultStandsIn<T>});
-  checks.push_back({"input-foreign-default-" + name,
-                    "A default of another type is copied as it stands for a " + type + " port.",
-                    otherTypesDefaultIsCopied<T>});
-  checks.push_back({"input-array-" + name,
-                    "An array of " + type + " is refused in silence as an input.",
-                    arrayIsRefusedInSilence<T>});
-}
-
 }  // namespace
 
 void addInputDefaultChecks(CheckList& checks) {
-  forEachRegistered([&](const auto& row) { addDefaultsOf<TypeOf<decltype(row)>>(checks); });
+  forEachRegistered([&](const auto& row) {
+    using T = TypeOf<decltype(row)>;
+    addChecksOfType(
+        checks, row.name,
+        {{"input-zero", "A {} port without text and default gets the type's zero.",
+          zeroStandsIn<T>},
+         {"input-default", "A {} port without text gets the default.", hostsDefaultStandsIn<T>},
+         {"input-foreign-default",
+          "A default of another type is copied as it stands for a {} port.",
+          otherTypesDefaultIsCopied<T>},
+         {"input-array", "An array of {} is refused in silence as an input.",
+          arrayIsRefusedInSilence<T>}});
+  });
 }
 
 }  // namespace vtlcmd::validator

@@ -1,6 +1,6 @@
+#include "checks/checks_of_type.h"
 #include "checks/outcome.h"
 #include "checks/subjects.h"
-#include "checks/type_names.h"
 #include "host/port_host.h"
 #include "vtlcmd/stand_in/make_string.h"
 #include "vtlcmd/stand_in/type_factory.h"
@@ -92,14 +92,13 @@ void quotesStandBare(Session& session) {
 
 void addRefusedInputChecks(CheckList& checks) {
   forEachRow(reportOnlyTypes, [&](const auto& row) {
-    const std::string type = row.name;
-    checks.push_back({"input-unsupported-" + nameOfType(type),
-                      "A port of " + type + " is refused with two messages.",
-                      [type](Session& session) {
-                        const Orvel::String name = type.c_str();
+    addChecksOfType(checks, row.name,
+                    {{"input-unsupported", "A port of {} is refused with two messages.",
+                      [type = row.name](Session& session) {
+                        const Orvel::String name = type;
                         typeIsRefused(session, Orvel::typeNamed(name), false);
                         typeIsRefused(session, Orvel::typeNamed(name), true);
-                      }});
+                      }}});
   });
   checks.push_back({"input-unknown-names", "Names that only look like known ones are refused.",
                     unknownNamesAreRefused});

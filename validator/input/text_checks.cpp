@@ -1,6 +1,6 @@
+#include "checks/checks_of_type.h"
 #include "checks/outcome.h"
 #include "checks/subjects.h"
-#include "checks/type_names.h"
 #include "host/port_host.h"
 #include "values/samples.h"
 #include "vtlcmd/stand_in/type_factory.h"
@@ -77,28 +77,25 @@ void oldValueIsDropped(Session& session) {
 
 template <Registered T>
 void addTextsOf(CheckList& checks) {
-  const std::string type = valueType<T>().name;
-  const std::string name = nameOfType(type);
+  const char* const type = valueType<T>().name;
   if constexpr (!std::is_same_v<T, ObjectPtr>) {
-    checks.push_back({"input-text-" + name, "A " + type + " port takes its text.",
-                      [](Session& session) { textGivesValue<T>(session, false); }});
-    checks.push_back({"input-job-text-" + name, "A " + type + " Job port takes its Job text.",
-                      [](Session& session) { textGivesValue<T>(session, true); }});
-    checks.push_back({"input-replaces-" + name, "A " + type + " ends what the result held before.",
-                      oldValueIsReplaced<T>});
+    addChecksOfType(
+        checks, type,
+        {{"input-text", "A {} port takes its text.",
+          [](Session& session) { textGivesValue<T>(session, false); }},
+         {"input-job-text", "A {} Job port takes its Job text.",
+          [](Session& session) { textGivesValue<T>(session, true); }},
+         {"input-replaces", "A {} ends what the result held before.", oldValueIsReplaced<T>}});
   }
   if constexpr (!std::is_same_v<T, Orvel::String>) {
-    checks.push_back({"input-bad-text-" + name,
-                      "A text that is no " + type +
-                          " is refused with one message, and no default "
-                          "stands in.",
-                      [](Session& session) { badTextIsRefused<T>(session, false); }});
-    checks.push_back({"input-bad-job-text-" + name,
-                      "A Job text that is no " + type + " is refused with one message.",
-                      [](Session& session) { badTextIsRefused<T>(session, true); }});
-    checks.push_back({"input-drops-" + name,
-                      "A text that is no " + type + " ends what the result held before.",
-                      oldValueIsDropped<T>});
+    addChecksOfType(checks, type,
+                    {{"input-bad-text",
+                      "A text that is no {} is refused with one message, and no default stands in.",
+                      [](Session& session) { badTextIsRefused<T>(session, false); }},
+                     {"input-bad-job-text", "A Job text that is no {} is refused with one message.",
+                      [](Session& session) { badTextIsRefused<T>(session, true); }},
+                     {"input-drops", "A text that is no {} ends what the result held before.",
+                      oldValueIsDropped<T>}});
   }
 }
 

@@ -1,6 +1,6 @@
+#include "checks/checks_of_type.h"
 #include "checks/outcome.h"
 #include "checks/subjects.h"
-#include "checks/type_names.h"
 #include "host/port_host.h"
 #include "values/samples.h"
 #include "vtlcmd/stand_in/any_bridge.h"
@@ -93,10 +93,12 @@ void emptyDataProperty(Session& session, const std::string& name, bool hasStatis
 template <typename T>
 void addObjectsOf(CheckList& checks, const std::string& type, ArrayClass arrayClass) {
   const bool hasStatistics = arrayClass == ArrayClass::summarised;
-  checks.push_back({"object-data-" + nameOfType(type),
-                    "A data property of " + type +
-                        (hasStatistics ? " has statistics." : " is told to be unsupported."),
-                    [=](Session& session) { emptyDataProperty<T>(session, type, hasStatistics); }});
+  addChecksOfType(
+      checks, type,
+      {{"object-data",
+        hasStatistics ? "A data property of {} has statistics."
+                      : "A data property of {} is told to be unsupported.",
+        [=](Session& session) { emptyDataProperty<T>(session, type, hasStatistics); }}});
 }
 
 template <typename T>

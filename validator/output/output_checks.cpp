@@ -1,3 +1,4 @@
+#include "checks/checks_of_type.h"
 #include "checks/outcome.h"
 #include "checks/subjects.h"
 #include "checks/type_names.h"
@@ -80,29 +81,18 @@ void allFormsAreSuppressed(Session& session) {
   expectForm(nestedArray<T, 3>(sample), 3);
 }
 
-using Run = void (*)(Session&);
-
-void addReportsOf(CheckList& checks, const std::string& type, Run any, Run value, Run zero,
-                  Run suppressed) {
-  const std::string name = nameOfType(type);
-  checks.push_back(
-      {"output-any-" + name, "A " + type + " in an Any is reported and recorded.", any});
-  checks.push_back(
-      {"output-value-" + name, "A " + type + " value is reported and recorded.", value});
-  checks.push_back(
-      {"output-zero-" + name, "The zero of " + type + " is reported and recorded.", zero});
-  checks.push_back({"output-suppressed-" + name,
-                    "A print limit of 0 suppresses the text of " + type + " in all forms.",
-                    suppressed});
-}
-
 }  // namespace
 
 void addOutputChecks(CheckList& checks) {
   forEachRegistered([&](const auto& row) {
     using T = TypeOf<decltype(row)>;
-    addReportsOf(checks, row.name, anyIsReported<T>, valueIsReported<T>, zeroIsReported<T>,
-                 allFormsAreSuppressed<T>);
+    addChecksOfType(
+        checks, row.name,
+        {{"output-any", "A {} in an Any is reported and recorded.", anyIsReported<T>},
+         {"output-value", "A {} value is reported and recorded.", valueIsReported<T>},
+         {"output-zero", "The zero of {} is reported and recorded.", zeroIsReported<T>},
+         {"output-suppressed", "A print limit of 0 suppresses the text of {} in all forms.",
+          allFormsAreSuppressed<T>}});
   });
 }
 

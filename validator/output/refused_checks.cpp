@@ -1,6 +1,6 @@
+#include "checks/checks_of_type.h"
 #include "checks/outcome.h"
 #include "checks/subjects.h"
-#include "checks/type_names.h"
 #include "host/port_host.h"
 #include "vtlcmd/stand_in/any_bridge.h"
 #include "vtlcmd/stand_in/type_factory.h"
@@ -37,9 +37,9 @@ void typeIsRefused(Session& session, const std::string& name) {
 }
 
 void addRefusalsOf(CheckList& checks, const std::string& type) {
-  checks.push_back({"output-unsupported-" + nameOfType(type),
-                    "A value of " + type + " gets a warning, in an Any silence.",
-                    [type](Session& session) { typeIsRefused(session, type); }});
+  addChecksOfType(checks, type,
+                  {{"output-unsupported", "A value of {} gets a warning, in an Any silence.",
+                    [type](Session& session) { typeIsRefused(session, type); }}});
 }
 
 void deepAnyIsRefused(Session& session) {

@@ -1,9 +1,9 @@
 #include <cstdint>
 #include <type_traits>
 
+#include "checks/checks_of_type.h"
 #include "checks/outcome.h"
 #include "checks/subjects.h"
-#include "checks/type_names.h"
 #include "element_generator.h"
 #include "host/port_host.h"
 #include "statistics_model.h"
@@ -67,9 +67,9 @@ void blocksAgree(Session& session) {
 
 template <typename T>
 void addRandomArraysOf(CheckList& checks, const std::string& type) {
-  checks.push_back({"random-array-" + nameOfType(type),
-                    "Random arrays of " + type + " have the block of an exact model.",
-                    blocksAgree<T>});
+  addChecksOfType(
+      checks, type,
+      {{"random-array", "Random arrays of {} have the block of an exact model.", blocksAgree<T>}});
 }
 
 }  // namespace

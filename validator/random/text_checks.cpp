@@ -3,9 +3,9 @@
 #include <bit>
 #include <type_traits>
 
+#include "checks/checks_of_type.h"
 #include "checks/outcome.h"
 #include "checks/subjects.h"
-#include "checks/type_names.h"
 #include "host/port_host.h"
 #include "text_generator.h"
 #include "text_model.h"
@@ -83,15 +83,12 @@ void addRandomTextChecks(CheckList& checks) {
   forEachRegistered([&](const auto& row) {
     using T = TypeOf<decltype(row)>;
     if constexpr (std::is_arithmetic_v<T> || isVector<T>) {
-      const std::string type = row.name;
-      checks.push_back(
-          {"random-text-" + nameOfType(type),
-           "A " + type + " port answers random texts as an exact model does.",
-           [](Session& session) { textsAgree<T>(session, oracle::TextFamily::mixed); }});
-      checks.push_back(
-          {"random-hard-text-" + nameOfType(type),
-           "A " + type + " port answers texts at the limits as an exact model does.",
-           [](Session& session) { textsAgree<T>(session, oracle::TextFamily::hardNumbers); }});
+      addChecksOfType(
+          checks, row.name,
+          {{"random-text", "A {} port answers random texts as an exact model does.",
+            [](Session& session) { textsAgree<T>(session, oracle::TextFamily::mixed); }},
+           {"random-hard-text", "A {} port answers texts at the limits as an exact model does.",
+            [](Session& session) { textsAgree<T>(session, oracle::TextFamily::hardNumbers); }}});
     }
   });
 }
