@@ -19,8 +19,8 @@ constexpr std::uint64_t mostEmptyRows = 1'000'000;
 
 /// What numbers become in the graph system.
 struct NumberType {
-  const char* name;
-  NpyRows (*makeRows)(std::span<const std::uint64_t> shape);
+  std::string_view name;
+  MakeRows makeRows;
   void (*fillRows)(const std::vector<void*>&, const NpyLayout&, NpyNumbers&);
 };
 
@@ -39,7 +39,7 @@ struct ElementCode {
   /// The graph system has no type like the file's.
   bool alwaysWidened;
   /// Of vectors of two, three and four elements; null for elements that have none.
-  std::array<decltype(NumberType::makeRows), 3> makeVectorRows;
+  std::array<MakeRows, 3> makeVectorRows;
 };
 
 template <typename Stored, typename Kept = Stored, typename Widened = Kept>
@@ -114,7 +114,7 @@ void checkSize(const NpyHeader& header, std::uint64_t elementSize, std::uint64_t
 }
 
 /// What makes rows of vectors along the last dimension.
-auto vectorRowMaker(const ElementCode& code, const NpyHeader& header) {
+MakeRows vectorRowMaker(const ElementCode& code, const NpyHeader& header) {
   const std::uint64_t length = header.shape.back();
   if (code.makeVectorRows[0] == nullptr) {
     throw ReadError("elements of type " + inQuotes(header.descriptor) +
@@ -146,7 +146,7 @@ NpyArray parseNpy(ByteSource& file, NpyForm form) {
   }
   const bool widened = code.alwaysWidened || (form.widened && code.kept.name != code.widened.name);
   const NumberType& number = widened ? code.widened : code.kept;
-  const auto makeRows = form.vectors ? vectorRowMaker(code, header) : number.makeRows;
+  const MakeRows make = form.vectors ? vectorRowMaker(code, header) : number.makeRows;
   checkSize(header, code.size, file.remaining());
   const char order = header.descriptor[0];
   const bool swapped = order == (std::endian::native == std::endian::little ? '>' : '<');
@@ -155,10 +155,11 @@ NpyArray parseNpy(ByteSource& file, NpyForm form) {
     layout.components = header.shape.back();
     layout.shape.pop_back();
   }
-  const NpyRows rows = makeRows(layout.shape);
+  const NpyRows rows = make(layout.shape);
   NpyNumbers numbers(file, swapped);
   number.fillRows(rows.memory, layout, numbers);
-  return {rows.value, {std::string(code.name), header.shape, widened ? number.name : ""}};
+  const std::string_view widenedTo = widened ? number.name : "";
+  return {rows.value, {std::string(code.name), header.shape, std::string(widenedTo)}};
 }
 
 }  // namespace vtlcmd::runner

@@ -45,22 +45,27 @@ StoredArray<T, Rank> makeLevels(std::span<const std::uint64_t> shape, std::vecto
   }
 }
 
+template <typename T>
+Orvel::Value makeNested(std::span<const std::uint64_t> shape, std::vector<void*>& memory) {
+  switch (shape.size()) {
+    case 1:
+      return Orvel::makeValue(makeLevels<T, 1>(shape, memory));
+    case 2:
+      return Orvel::makeValue(makeLevels<T, 2>(shape, memory));
+    default:
+      return Orvel::makeValue(makeLevels<T, 3>(shape, memory));
+  }
+}
+
 /// An array of one to three levels, with elements of T. Throws FrameAbandoned and std::bad_alloc.
 template <typename T>
 NpyRows makeRows(std::span<const std::uint64_t> shape) {
   std::vector<void*> memory;
-  const auto make = [&]<std::uint32_t Rank>(std::integral_constant<std::uint32_t, Rank>) {
-    return Orvel::makeValue(makeLevels<T, Rank>(shape, memory));
-  };
-  switch (shape.size()) {
-    case 1:
-      return {make(std::integral_constant<std::uint32_t, 1>{}), std::move(memory)};
-    case 2:
-      return {make(std::integral_constant<std::uint32_t, 2>{}), std::move(memory)};
-    default:
-      return {make(std::integral_constant<std::uint32_t, 3>{}), std::move(memory)};
-  }
+  const Orvel::Value value = makeNested<T>(shape, memory);
+  return {value, std::move(memory)};
 }
+
+using MakeRows = NpyRows (*)(std::span<const std::uint64_t> shape);
 
 template <typename Stored, typename Number>
 void fillInOrder(const std::vector<void*>& rows, const NpyLayout& layout, NpyNumbers& numbers) {

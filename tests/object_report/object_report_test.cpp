@@ -219,6 +219,7 @@ TEST_F(ObjectReport, NothingStaysInUseBehindIt) {
   EXPECT_EQ(testing::blocksLeftBy([&] { report(); }), 0);
   addComponent("a component whose name takes memory of its own", 3);
   addComponent("another component whose name takes memory of its own", 4);
+  addComponent("pieces", 3);
   EXPECT_EQ(testing::blocksLeftBy([&] { report(); }), 0);
   addData<float>("a property whose name takes memory of its own", {1});
   addData<float>("another property whose name takes memory of its own", {1});
@@ -228,6 +229,7 @@ TEST_F(ObjectReport, NothingStaysInUseBehindIt) {
 TEST_F(ObjectReport, NothingStaysInUseWhicheverAllocationFails) {
   addComponent("a component whose name takes memory of its own", 3);
   addComponent("another component whose name takes memory of its own", 4);
+  addComponent("pieces", 3);
   addData<float>("a property whose name takes memory of its own", {1});
   addData<float>("another property whose name takes memory of its own", {1});
   const auto property = Vantrel::Geometry::getDataGeoProperty(

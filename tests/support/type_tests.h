@@ -6,9 +6,9 @@
 
 #include "vtlcmd/host/value_types.h"
 
-/// Tests of each type of a list. They are written like the test library's typed tests, but take a
-/// third of the time to compile: of a test and type there is little code besides the test's own.
-/// And their names tell the type, "Suite/float3.Test".
+/// Tests of each type of a list. They are written like the test library's typed tests, but compile
+/// faster: of a test and type there is little code besides the test's own. And their names tell the
+/// type, "Suite/float3.Test".
 
 namespace vtlcmd::testing {
 

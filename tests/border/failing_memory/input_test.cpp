@@ -27,7 +27,7 @@ bool isWhole(const T& value, const T& expected) {
   }
 }
 
-/// A host that something was done to, which is a `void(Host&)`.
+/// A host as it is after `prepare(host)`.
 class PreparedHost : public Host {
  public:
   explicit PreparedHost(void (*prepare)(Host&)) { prepare(*this); }
@@ -47,9 +47,11 @@ class FailingMemoryAtInputs : public ::testing::Test {
 
   /// Sets a port of a type, of a host that is prepared, with every allocation failing. Nothing is
   /// half done: the value is the old one, none, or the one of an undisturbed call, the messages are
-  /// the first of those of an undisturbed call, and the next call is one.
+  /// the first of those of an undisturbed call, and the next call is one. `same` compares two
+  /// values of the type.
   void failEach(const Orvel::Type& type, bool (*same)(const Any&, const Any&),
                 void (*prepare)(Host&)) {
+    const auto make = [&] { return PreparedHost(prepare); };
     const auto set = [&](Host& host) {
       return object_->setInputValue(type, host.value, &host.input);
     };
@@ -59,24 +61,21 @@ class FailingMemoryAtInputs : public ::testing::Test {
     const auto holdsNewValue = [&](const Any& value) {
       return undisturbed.value.holdsValue() ? same(value, undisturbed.value) : !value.holdsValue();
     };
-    const std::size_t failures =
-        failEveryAllocation([&] { return PreparedHost(prepare); }, [&](Host& host) { set(host); },
-                            [&](Host& host, bool threw) {
-                              const Collected collected(host.logger);
-                              if (!threw) {
-                                EXPECT_TRUE(holdsNewValue(host.value));
-                                EXPECT_EQ(collected, expected);
-                                return;
-                              }
-                              EXPECT_TRUE(host.holdsOldValue() || !host.value.holdsValue() ||
-                                          holdsNewValue(host.value));
-                              EXPECT_TRUE(collected.isBeginningOf(expected));
-                              host.logger.messages.resize(Host::oldMessages);
-                              EXPECT_EQ(set(host), succeeds);
-                              EXPECT_TRUE(holdsNewValue(host.value));
-                              EXPECT_EQ(Collected(host.logger), expected);
-                            });
-    EXPECT_GT(failures, 0U);
+    const auto check = [&](Host& host, bool threw) {
+      const Collected collected(host.logger);
+      if (!threw) {
+        EXPECT_TRUE(holdsNewValue(host.value));
+        EXPECT_EQ(collected, expected);
+        return;
+      }
+      EXPECT_TRUE(host.holdsOldValue() || !host.value.holdsValue() || holdsNewValue(host.value));
+      EXPECT_TRUE(collected.isBeginningOf(expected));
+      host.logger.messages.resize(Host::oldMessages);
+      EXPECT_EQ(set(host), succeeds);
+      EXPECT_TRUE(holdsNewValue(host.value));
+      EXPECT_EQ(Collected(host.logger), expected);
+    };
+    EXPECT_GT(failEveryAllocation(make, set, check), 0U);
   }
 
   template <typename T>
