@@ -1,4 +1,6 @@
 #include <array>
+#include <string_view>
+#include <utility>
 
 #include "checks/checks_of_type.h"
 #include "checks/outcome.h"
@@ -6,71 +8,54 @@
 #include "checks/type_names.h"
 #include "host/port_host.h"
 #include "values/samples.h"
-#include "vtlcmd/stand_in/type_factory.h"
 #include "vtlcmd/stand_in/value_factory.h"
 
 namespace vtlcmd::validator {
 namespace {
 
 /// The sample as a minimum reads: a vector of floats with a suffix, a bool as a number.
-template <Registered T>
-std::string statisticsText() {
-  if constexpr (std::is_same_v<T, bool>) return "1";
+std::string statisticsText(const Sample& sample) {
+  if (sample.type == std::string_view("bool")) return "1";
   std::string text;
-  for (const char* at = sampleOf<T>().report; *at != 0; ++at) {
-    const bool endsComponent = *at == ',' || *at == '}';
-    if (valueType<T>().components > 1 && endsComponent) text += 'f';
-    text += *at;
+  for (const char character : std::string_view(sample.report)) {
+    const bool endsComponent = character == ',' || character == '}';
+    if (sample.components > 1 && endsComponent) text += 'f';
+    text += character;
   }
   return text;
 }
 
 /// The average of an array of the sample alone, which passes through single precision.
-template <Registered T>
-std::string averageText() {
-  if constexpr (std::is_same_v<T, bool>) return "0";
-  if constexpr (std::is_same_v<T, std::uint32_t>) return "0";
-  if constexpr (std::is_same_v<T, std::int64_t>) return "-8999999488";
-  if constexpr (std::is_same_v<T, std::uint64_t>) return "9223372036854775808";
-  return statisticsText<T>();
+std::string averageText(const Sample& sample) {
+  static constexpr std::pair<std::string_view, const char*> roundedAverages[] = {
+      {"bool", "0"}, {"uint", "0"}, {"long", "-8999999488"}, {"ulong", "9223372036854775808"}};
+  for (const auto& [type, text] : roundedAverages) {
+    if (sample.type == type) return text;
+  }
+  return statisticsText(sample);
 }
 
-/// The texts of arrays of one element type, of samples alone.
-struct ArrayTexts {
-  std::string name;
-  ArrayClass arrayClass;
-  std::string element;
-  std::string statistics;
-  std::string average;
-  /// Before the count of elements in a block of statistics.
-  const char* margin;
-
-  /// `word` is what the level calls the element.
-  std::string row(const std::string& word) const {
-    switch (arrayClass) {
-      case ArrayClass::summarised:
-        return margin + ("(1 " + name) + ")\n  {\n     min: " + statistics +
-               "\n     max: " + statistics + "\n     avg: " + average + "\n  }";
-      case ArrayClass::refused:
-        return "{non supported array of " + name + " }";
-      default:
-        return "\n(1 out of 1 " + word + ")[\n" + element + " ]\n";
-    }
+/// The report of an array of the sample alone.
+std::string rowText(const Sample& sample) {
+  const std::string type = sample.type;
+  const std::string statistics = statisticsText(sample);
+  switch (sample.arrayClass) {
+    case ArrayClass::summarised:
+      return (type == "bool" ? " (1 " : "(1 ") + type + ")\n  {\n     min: " + statistics +
+             "\n     max: " + statistics + "\n     avg: " + averageText(sample) + "\n  }";
+    case ArrayClass::refused:
+      return "{non supported array of " + type + " }";
+    default:
+      return "\n(1 out of 1 " + type + ")[\n" + sample.report + " ]\n";
   }
+}
 
-  /// Nested arrays, one element wide at each level. `wordsNest` when each level calls its element
-  /// by the element's whole name.
-  std::string nested(unsigned depth, bool wordsNest) const {
-    if (depth == 1) return row(name);
-    return "\n(1 out of 1 " + (wordsNest ? arrayName(name, depth - 1) : name) + ")[\n" +
-           nested(depth - 1, wordsNest) + " ]\n";
-  }
-};
-
-template <Registered T>
-ArrayTexts textsOf() {
-  return {valueType<T>().name, valueType<T>().arrayClass, sampleOf<T>().report,
-          statisticsText<T>(), averageText<T>(),          std::is_same_v<T, bool> ? " " : ""};
+/// Nested arrays, one element wide at each level. `wordsNest` when each level calls its element by
+/// the element's whole name.
+std::string nestedText(const Sample& sample, unsigned depth, bool wordsNest) {
+  if (depth == 1) return rowText(sample);
+  return "\n(1 out of 1 " + arrayName(sample.type, wordsNest ? depth - 1 : 0) + ")[\n" +
+         nestedText(sample, depth - 1, wordsNest) + " ]\n";
 }
 
 void expectLine(const PortHost& host, const std::string& typeWord, const std::string& text) {
@@ -78,70 +63,53 @@ void expectLine(const PortHost& host, const std::string& typeWord, const std::st
               {"progress Output port 'port': (" + typeWord + ") " + text});
 }
 
-void expectNestedReported(Session& session, const Any& any, unsigned depth,
-                          const ArrayTexts& texts) {
+void anyArrayIsReported(Session& session, const Sample& sample, unsigned rank) {
   PortHost host(session);
-  expect(host.reportAny(any), "the answer is true");
-  expectLine(host, arrayName(texts.name, depth), texts.nested(depth, false));
+  expect(host.reportAny(sample.makeAny(rank)), "the answer is true");
+  expectLine(host, arrayName(sample.type, rank), nestedText(sample, rank, false));
 }
 
-template <Registered T, std::uint32_t Rank>
-void anyArrayIsReported(Session& session) {
-  expectNestedReported(session, makeAny(nestedArray<T, Rank>(sampleValue<T>())), Rank,
-                       textsOf<T>());
-}
-
-void expectValueLevelsReported(Session& session, Orvel::Value element, const ArrayTexts& texts) {
+void valueArraysAreReported(Session& session, const Sample& sample) {
+  Orvel::Value element = sample.makeValue();
   for (unsigned depth = 1; depth <= 5; ++depth) {
     element = Orvel::makeArray(element.getType(), std::array{element});
     PortHost host(session);
     expect(host.reportValue(element), "the answer is true");
-    expectLine(host, arrayName(texts.name, depth), texts.nested(depth, true));
+    expectLine(host, arrayName(sample.type, depth), nestedText(sample, depth, true));
   }
 }
 
-template <Registered T>
-void valueArraysAreReported(Session& session) {
-  expectValueLevelsReported(session, Orvel::makeValue<T>(sampleValue<T>()), textsOf<T>());
-}
-
-/// `rows` has two empty arrays.
-void expectEmptyReported(Session& session, const Any& empty, const Orvel::Value& emptyValue,
-                         const Any& rows, const std::string& name) {
+void emptyArraysAreReported(Session& session, const Sample& sample) {
+  const std::string name = sample.type;
   const std::string note = "(0 out of 0 " + name + ")";
   PortHost any(session);
-  expect(any.reportAny(empty), "the answer is true");
+  expect(any.reportAny(sample.makeEmptyArray()), "the answer is true");
   expectLine(any, arrayName(name, 1), note);
   PortHost value(session);
-  expect(value.reportValue(emptyValue), "the answer is true");
+  expect(value.reportValue(Orvel::makeArray(sample.makeType(), {})), "the answer is true");
   expectLine(value, arrayName(name, 1), note);
-  PortHost row(session);
-  expect(row.reportAny(rows), "the answer is true");
-  expectLine(row, arrayName(name, 2),
+  PortHost rows(session);
+  expect(rows.reportAny(sample.makeEmptyRows()), "the answer is true");
+  expectLine(rows, arrayName(name, 2),
              "\n(2 out of 2 " + name + ")[\n" + note + ",\n" + note + " ]\n");
-}
-
-template <Registered T>
-void emptyArraysAreReported(Session& session) {
-  const auto empty = arrayOf<T>({});
-  expectEmptyReported(session, makeAny(empty), Orvel::makeValue(empty),
-                      makeAny(arrayOf<StoredArray<T, 1>>({empty, empty})), valueType<T>().name);
 }
 
 }  // namespace
 
 void addArrayChecks(CheckList& checks) {
-  forEachRegistered([&](const auto& row) {
-    using T = TypeOf<decltype(row)>;
-    addChecksOfType(
-        checks, row.name,
-        {{"array-any", "An array of {} in an Any is reported.", anyArrayIsReported<T, 1>},
-         {"array-any-2", "An Any two arrays of {} deep is reported.", anyArrayIsReported<T, 2>},
-         {"array-any-3", "An Any three arrays of {} deep is reported.", anyArrayIsReported<T, 3>},
-         {"array-value", "Array values of {} are reported at any depth.",
-          valueArraysAreReported<T>},
-         {"array-empty", "An empty array of {} has a note.", emptyArraysAreReported<T>}});
-  });
+  for (const Sample& sample : samples()) {
+    addChecksOfType(checks, sample.type,
+                    {{"array-any", "An array of {} in an Any is reported.",
+                      [&](Session& session) { anyArrayIsReported(session, sample, 1); }},
+                     {"array-any-2", "An Any two arrays of {} deep is reported.",
+                      [&](Session& session) { anyArrayIsReported(session, sample, 2); }},
+                     {"array-any-3", "An Any three arrays of {} deep is reported.",
+                      [&](Session& session) { anyArrayIsReported(session, sample, 3); }},
+                     {"array-value", "Array values of {} are reported at any depth.",
+                      [&](Session& session) { valueArraysAreReported(session, sample); }},
+                     {"array-empty", "An empty array of {} has a note.",
+                      [&](Session& session) { emptyArraysAreReported(session, sample); }}});
+  }
 }
 
 }  // namespace vtlcmd::validator

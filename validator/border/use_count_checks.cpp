@@ -2,7 +2,7 @@
 #include "checks/outcome.h"
 #include "checks/subjects.h"
 #include "host/port_host.h"
-#include "values/samples.h"
+#include "values/arrays.h"
 #include "vtlcmd/stand_in/type_factory.h"
 #include "vtlcmd/stand_in/value_factory.h"
 
@@ -12,7 +12,7 @@ namespace {
 /// An array reported in both forms, or given as a default, has the uses of before.
 template <Registered T>
 void usesAreGivenBack(Session& session) {
-  const auto row = nestedArray<T, 1>(sampleValue<T>());
+  const auto row = nestedArray<T, 1>(zeroValue<T>());
   const auto array = arrayOf<StoredArray<T, 1>>({row});
   PortHost host(session);
   {
@@ -32,7 +32,7 @@ void usesAreGivenBack(Session& session) {
 
 template <Registered T>
 void defaultIsShared(Session& session) {
-  const auto array = nestedArray<T, 1>(sampleValue<T>());
+  const auto array = nestedArray<T, 1>(zeroValue<T>());
   {
     PortHost host(session);
     expect(host.setInput(Orvel::typeOf<T>(), false, makeAny(array)), "the answer is true");
@@ -83,7 +83,7 @@ void rawBlockIsEnded(Session& session) {
 }  // namespace
 
 void addUseCountChecks(CheckList& checks) {
-  forEachRegistered([&](const auto& row) {
+  forEachRow(registeredTypes, [&](const auto& row) {
     using T = TypeOf<decltype(row)>;
     addChecksOfType(
         checks, row.name,

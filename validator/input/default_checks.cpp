@@ -2,6 +2,7 @@
 #include "checks/outcome.h"
 #include "checks/subjects.h"
 #include "host/port_host.h"
+#include "values/arrays.h"
 #include "values/samples.h"
 #include "vtlcmd/stand_in/type_factory.h"
 
@@ -9,58 +10,50 @@ namespace vtlcmd::validator {
 namespace {
 
 /// The two lines of a port without text.
-template <Registered T>
-std::vector<std::string> defaultLines(const std::string& word, const char* report) {
-  const std::string name = valueType<T>().name;
-  return {"verbose No value was provided to vtlcmd for " + word + " port 'port' (" + name +
+std::vector<std::string> defaultLines(const std::string& type, const std::string& word,
+                                      const char* report) {
+  return {"verbose No value was provided to vtlcmd for " + word + " port 'port' (" + type +
               "). A default value will be used.",
-          "verbose Set " + word + " port 'port': (" + name + ") " + report};
+          "verbose Set " + word + " port 'port': (" + type + ") " + report};
 }
 
-template <Registered T>
-void zeroStandsIn(Session& session) {
+void zeroStandsIn(Session& session, const Sample& sample) {
   for (const bool isJobPort : {false, true}) {
     PortHost host(session);
-    expect(host.setInput(Orvel::typeOf<T>(), isJobPort), "the answer is true");
-    const T* held = anyCast<T>(&host.value);
-    expect(held != nullptr && alike(*held, zeroValue<T>()), "the result holds the type's zero");
+    expect(host.setInput(sample.makeType(), isJobPort), "the answer is true");
+    expect(sample.holdSame(host.value, sample.makeZero()), "the result holds the type's zero");
     expectLines("messages", host.messages(),
-                defaultLines<T>(isJobPort ? "Job" : "input", sampleOf<T>().zeroReport));
+                defaultLines(sample.type, isJobPort ? "Job" : "input", sample.zeroReport));
   }
 }
 
-template <Registered T>
-void hostsDefaultStandsIn(Session& session) {
+void hostsDefaultStandsIn(Session& session, const Sample& sample) {
   PortHost host(session);
   // The other map isn't looked at.
   host.giveJobText("other");
-  expect(host.setInput(Orvel::typeOf<T>(), false, makeAny<T>(sampleValue<T>())),
-         "the answer is true");
-  const T* held = anyCast<T>(&host.value);
-  expect(held != nullptr && alike(*held, sampleValue<T>()), "the result holds the default");
-  expectLines("messages", host.messages(), defaultLines<T>("input", sampleOf<T>().report));
+  const Any value = sample.makeAny(0);
+  expect(host.setInput(sample.makeType(), false, value), "the answer is true");
+  expect(sample.holdSame(host.value, value), "the result holds the default");
+  expectLines("messages", host.messages(), defaultLines(sample.type, "input", sample.report));
 }
 
-template <Registered T>
-void otherTypesDefaultIsCopied(Session& session) {
+void otherTypesDefaultIsCopied(Session& session, const Sample& sample) {
   PortHost host(session);
   const auto array = arrayOf<std::int32_t>({1});
-  expect(host.setInput(Orvel::typeOf<T>(), false, makeAny(array)), "the answer is true");
+  expect(host.setInput(sample.makeType(), false, makeAny(array)), "the answer is true");
   expect(sameType(host.value.type(), tagOf<StoredArray<std::int32_t, 1>>()),
          "the default is copied as it stands");
-  const bool isObject = std::is_same_v<T, ObjectPtr>;
   expectLines("messages", host.messages(),
-              defaultLines<T>("input", isObject ? "{\n  No object produced, verify your inputs.\n}"
-                                                : sampleOf<T>().zeroReport));
+              defaultLines(sample.type, "input",
+                           sample.isObject() ? "{\n  No object produced, verify your inputs.\n}"
+                                             : sample.zeroReport));
 }
 
-template <Registered T>
-void arrayIsRefusedInSilence(Session& session) {
+void arrayIsRefusedInSilence(Session& session, const Sample& sample) {
   PortHost host(session);
   host.giveText("1");
   host.value = makeAny<std::int32_t>(5);
-  expect(!host.setInput(Orvel::makeArrayType(Orvel::typeOf<T>()), false,
-                        makeAny(nestedArray<T, 1>(sampleValue<T>()))),
+  expect(!host.setInput(Orvel::makeArrayType(sample.makeType()), false, sample.makeAny(1)),
          "the answer is false");
   const auto* held = anyCast<std::int32_t>(&host.value);
   expect(held != nullptr && *held == 5, "the result is as it was");
@@ -70,19 +63,18 @@ void arrayIsRefusedInSilence(Session& session) {
 }  // namespace
 
 void addInputDefaultChecks(CheckList& checks) {
-  forEachRegistered([&](const auto& row) {
-    using T = TypeOf<decltype(row)>;
-    addChecksOfType(
-        checks, row.name,
-        {{"input-zero", "A {} port without text and default gets the type's zero.",
-          zeroStandsIn<T>},
-         {"input-default", "A {} port without text gets the default.", hostsDefaultStandsIn<T>},
-         {"input-foreign-default",
-          "A default of another type is copied as it stands for a {} port.",
-          otherTypesDefaultIsCopied<T>},
-         {"input-array", "An array of {} is refused in silence as an input.",
-          arrayIsRefusedInSilence<T>}});
-  });
+  for (const Sample& sample : samples()) {
+    addChecksOfType(checks, sample.type,
+                    {{"input-zero", "A {} port without text and default gets the type's zero.",
+                      [&](Session& session) { zeroStandsIn(session, sample); }},
+                     {"input-default", "A {} port without text gets the default.",
+                      [&](Session& session) { hostsDefaultStandsIn(session, sample); }},
+                     {"input-foreign-default",
+                      "A default of another type is copied as it stands for a {} port.",
+                      [&](Session& session) { otherTypesDefaultIsCopied(session, sample); }},
+                     {"input-array", "An array of {} is refused in silence as an input.",
+                      [&](Session& session) { arrayIsRefusedInSilence(session, sample); }}});
+  }
 }
 
 }  // namespace vtlcmd::validator

@@ -88,18 +88,20 @@ void quotesStandBare(Session& session) {
                "value."});
 }
 
+void addRefusalOf(CheckList& checks, const char* type) {
+  addChecksOfType(checks, type,
+                  {{"input-unsupported", "A port of {} is refused with two messages.",
+                    [type](Session& session) {
+                      const Orvel::String name = type;
+                      typeIsRefused(session, Orvel::typeNamed(name), false);
+                      typeIsRefused(session, Orvel::typeNamed(name), true);
+                    }}});
+}
+
 }  // namespace
 
 void addRefusedInputChecks(CheckList& checks) {
-  forEachRow(reportOnlyTypes, [&](const auto& row) {
-    addChecksOfType(checks, row.name,
-                    {{"input-unsupported", "A port of {} is refused with two messages.",
-                      [type = row.name](Session& session) {
-                        const Orvel::String name = type;
-                        typeIsRefused(session, Orvel::typeNamed(name), false);
-                        typeIsRefused(session, Orvel::typeNamed(name), true);
-                      }}});
-  });
+  forEachRow(reportOnlyTypes, [&](const auto& row) { addRefusalOf(checks, row.name); });
   checks.push_back({"input-unknown-names", "Names that only look like known ones are refused.",
                     unknownNamesAreRefused});
   checks.push_back({"input-empty-maps", "Maps without any text are legal.", bothMapsMayBeEmpty});

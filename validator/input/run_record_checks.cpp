@@ -4,7 +4,7 @@
 #include "checks/outcome.h"
 #include "checks/subjects.h"
 #include "host/port_host.h"
-#include "values/samples.h"
+#include "values/arrays.h"
 #include "vtlcmd/stand_in/type_factory.h"
 
 namespace vtlcmd::validator {

@@ -2,107 +2,90 @@
 #include "checks/outcome.h"
 #include "checks/subjects.h"
 #include "host/port_host.h"
+#include "values/arrays.h"
 #include "values/samples.h"
-#include "vtlcmd/stand_in/type_factory.h"
 
 namespace vtlcmd::validator {
 namespace {
 
-template <Registered T>
-std::string valueLine(const char* word, const char* report) {
-  return std::string("verbose Set ") + word + " port 'port': (" + valueType<T>().name + ") " +
-         report;
+std::string valueLine(const Sample& sample, const char* word) {
+  return std::string("verbose Set ") + word + " port 'port': (" + sample.type + ") " +
+         sample.report;
 }
 
 /// What the logger gets for the sample's bad text, or for any text of an object's port.
-template <Registered T>
-std::string badTextLine(const char* word) {
-  const auto& row = valueType<T>();
-  const std::string prefix = std::string("error ") + word + " port 'port' (" + row.name + "): ";
-  if constexpr (std::is_same_v<T, ObjectPtr>) {
-    return prefix + "UNSUPPORTED: setFromString() for Object";
-  } else {
-    return prefix + "Unable to convert '" + sampleOf<T>().badPiece + row.parseErrorEnd;
-  }
+std::string badTextLine(const Sample& sample, const char* word) {
+  const std::string prefix = std::string("error ") + word + " port 'port' (" + sample.type + "): ";
+  if (sample.isObject()) return prefix + "UNSUPPORTED: setFromString() for Object";
+  return prefix + "Unable to convert '" + sample.badPiece + sample.parseErrorEnd;
 }
 
-template <Registered T>
-void expectHeld(const Any& any, const T& wanted) {
-  const T* held = anyCast<T>(&any);
-  expect(held != nullptr, "the result holds the port's type");
-  expect(alike(*held, wanted), "the result holds the text's value");
+void expectHeld(const Any& any, const Sample& sample) {
+  expect(sample.holdSame(any, sample.makeAny(0)), "the result holds the text's value");
 }
 
-template <Registered T>
-void textGivesValue(Session& session, bool isJobPort) {
+void textGivesValue(Session& session, const Sample& sample, bool isJobPort) {
   PortHost host(session);
-  isJobPort ? host.giveJobText(sampleOf<T>().text) : host.giveText(sampleOf<T>().text);
-  expect(host.setInput(Orvel::typeOf<T>(), isJobPort), "the answer is true");
-  expectHeld<T>(host.value, sampleValue<T>());
-  expectLines("messages", host.messages(),
-              {valueLine<T>(isJobPort ? "Job" : "input", sampleOf<T>().report)});
+  isJobPort ? host.giveJobText(sample.text) : host.giveText(sample.text);
+  expect(host.setInput(sample.makeType(), isJobPort), "the answer is true");
+  expectHeld(host.value, sample);
+  expectLines("messages", host.messages(), {valueLine(sample, isJobPort ? "Job" : "input")});
 }
 
-template <Registered T>
-void badTextIsRefused(Session& session, bool isJobPort) {
+void badTextIsRefused(Session& session, const Sample& sample, bool isJobPort) {
   PortHost host(session);
-  isJobPort ? host.giveJobText(sampleOf<T>().badText) : host.giveText(sampleOf<T>().badText);
-  expect(!host.setInput(Orvel::typeOf<T>(), isJobPort, makeAny<T>(sampleValue<T>())),
-         "the answer is false");
+  isJobPort ? host.giveJobText(sample.badText) : host.giveText(sample.badText);
+  expect(!host.setInput(sample.makeType(), isJobPort, sample.makeAny(0)), "the answer is false");
   expect(!host.value.holdsValue(), "the result is empty, not the default");
-  expectLines("messages", host.messages(), {badTextLine<T>(isJobPort ? "Job" : "Input")});
+  expectLines("messages", host.messages(), {badTextLine(sample, isJobPort ? "Job" : "Input")});
 }
 
-template <Registered T>
-void oldValueIsReplaced(Session& session) {
+void oldValueIsReplaced(Session& session, const Sample& sample) {
   PortHost host(session);
   const auto old = arrayOf<double>({1, 2});
   host.value = makeAny(old);
-  host.giveText(sampleOf<T>().text);
-  expect(host.setInput(Orvel::typeOf<T>()), "the answer is true");
-  expectHeld<T>(host.value, sampleValue<T>());
+  host.giveText(sample.text);
+  expect(host.setInput(sample.makeType()), "the answer is true");
+  expectHeld(host.value, sample);
   expect(Orvel::useCount(old) == 1, "the old value has ended");
 }
 
-template <Registered T>
-void oldValueIsDropped(Session& session) {
+void oldValueIsDropped(Session& session, const Sample& sample) {
   PortHost host(session);
   const auto old = arrayOf<double>({1, 2});
   host.value = makeAny(old);
-  host.giveText(sampleOf<T>().badText);
-  expect(!host.setInput(Orvel::typeOf<T>()), "the answer is false");
+  host.giveText(sample.badText);
+  expect(!host.setInput(sample.makeType()), "the answer is false");
   expect(!host.value.holdsValue(), "the result is empty");
   expect(Orvel::useCount(old) == 1, "the old value has ended");
 }
 
-template <Registered T>
-void addTextsOf(CheckList& checks) {
-  const char* const type = valueType<T>().name;
-  if constexpr (!std::is_same_v<T, ObjectPtr>) {
-    addChecksOfType(
-        checks, type,
-        {{"input-text", "A {} port takes its text.",
-          [](Session& session) { textGivesValue<T>(session, false); }},
-         {"input-job-text", "A {} Job port takes its Job text.",
-          [](Session& session) { textGivesValue<T>(session, true); }},
-         {"input-replaces", "A {} ends what the result held before.", oldValueIsReplaced<T>}});
+void addTextsOf(CheckList& checks, const Sample& sample) {
+  if (sample.text != nullptr) {
+    addChecksOfType(checks, sample.type,
+                    {{"input-text", "A {} port takes its text.",
+                      [&](Session& session) { textGivesValue(session, sample, false); }},
+                     {"input-job-text", "A {} Job port takes its Job text.",
+                      [&](Session& session) { textGivesValue(session, sample, true); }},
+                     {"input-replaces", "A {} ends what the result held before.",
+                      [&](Session& session) { oldValueIsReplaced(session, sample); }}});
   }
-  if constexpr (!std::is_same_v<T, Orvel::String>) {
-    addChecksOfType(checks, type,
+  if (sample.badText != nullptr) {
+    addChecksOfType(checks, sample.type,
                     {{"input-bad-text",
                       "A text that is no {} is refused with one message, and no default stands in.",
-                      [](Session& session) { badTextIsRefused<T>(session, false); }},
+                      [&](Session& session) { badTextIsRefused(session, sample, false); }},
                      {"input-bad-job-text", "A Job text that is no {} is refused with one message.",
-                      [](Session& session) { badTextIsRefused<T>(session, true); }},
+                      [&](Session& session) { badTextIsRefused(session, sample, true); }},
                      {"input-drops", "A text that is no {} ends what the result held before.",
-                      oldValueIsDropped<T>}});
+                      [&](Session& session) { oldValueIsDropped(session, sample); }}});
   }
 }
 
 }  // namespace
 
 void addInputTextChecks(CheckList& checks) {
-  forEachRegistered([&](const auto& row) { addTextsOf<TypeOf<decltype(row)>>(checks); });
+  for (const Sample& sample : samples()) addTextsOf(checks, sample);
 }
 
 }  // namespace vtlcmd::validator

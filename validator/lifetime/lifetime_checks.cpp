@@ -5,7 +5,7 @@
 #include "checks/subjects.h"
 #include "host/port_host.h"
 #include "platform/library.h"
-#include "values/samples.h"
+#include "values/arrays.h"
 #include "vtlcmd/stand_in/type_factory.h"
 #include "vtlcmd/stand_in/value_factory.h"
 

@@ -2,6 +2,7 @@
 #include "checks/outcome.h"
 #include "checks/subjects.h"
 #include "host/port_host.h"
+#include "values/arrays.h"
 #include "values/samples.h"
 #include "vtlcmd/stand_in/any_bridge.h"
 #include "vtlcmd/stand_in/geometry_builder.h"
@@ -80,25 +81,31 @@ void otherValueReadsAsNull(Session& session) {
 }
 
 /// An empty array of the element type as a data property.
-template <typename T>
-void emptyDataProperty(Session& session, const std::string& name, bool hasStatistics) {
+void emptyDataProperty(Session& session, const Any& array, const std::string& type,
+                       bool hasStatistics) {
   const auto object = Vantrel::createObject();
-  setDataProperty(*object, text("p"), makeAny(arrayOf<T>({})));
-  const std::string head = std::is_same_v<T, bool> ? " (0 " : "(0 ";
+  setDataProperty(*object, text("p"), array);
+  const std::string head = type == "bool" ? " (0 " : "(0 ";
   expectObjectReport(session, ObjectPtr(object.pointer, nullptr),
-                     hasStatistics ? "{\n  p: " + head + name + ")\n  {\nempty array...  }\n}"
+                     hasStatistics ? "{\n  p: " + head + type + ")\n  {\nempty array...  }\n}"
                                    : "{\n  p: {non supported Data Geo Property}\n}");
 }
 
-template <typename T>
-void addObjectsOf(CheckList& checks, const std::string& type, ArrayClass arrayClass) {
+void addObjectsOf(CheckList& checks, const std::string& type, ArrayClass arrayClass,
+                  Any (*makeEmptyArray)()) {
   const bool hasStatistics = arrayClass == ArrayClass::summarised;
-  addChecksOfType(
-      checks, type,
-      {{"object-data",
-        hasStatistics ? "A data property of {} has statistics."
-                      : "A data property of {} is told to be unsupported.",
-        [=](Session& session) { emptyDataProperty<T>(session, type, hasStatistics); }}});
+  addChecksOfType(checks, type,
+                  {{"object-data",
+                    hasStatistics ? "A data property of {} has statistics."
+                                  : "A data property of {} is told to be unsupported.",
+                    [=](Session& session) {
+                      emptyDataProperty(session, makeEmptyArray(), type, hasStatistics);
+                    }}});
+}
+
+template <typename T>
+Any emptyArray() {
+  return makeAny(arrayOf<T>({}));
 }
 
 template <typename T>
@@ -135,12 +142,12 @@ void addObjectChecks(CheckList& checks) {
                                          "(2 ushort)\n  {\n     min: 1\n     max: "
                                          "65535\n     avg: 0\n  }");
        }});
-  forEachRow(registeredTypes, [&](const auto& row) {
-    using T = TypeOf<decltype(row)>;
-    if constexpr (!std::is_same_v<T, ObjectPtr>) addObjectsOf<T>(checks, row.name, row.arrayClass);
-  });
+  for (const Sample& sample : samples()) {
+    if (!sample.isObject())
+      addObjectsOf(checks, sample.type, sample.arrayClass, sample.makeEmptyArray);
+  }
   forEachRow(reportOnlyTypes, [&](const auto& row) {
-    addObjectsOf<TypeOf<decltype(row)>>(checks, row.name, row.arrayClass);
+    addObjectsOf(checks, row.name, row.arrayClass, emptyArray<TypeOf<decltype(row)>>);
   });
 }
 

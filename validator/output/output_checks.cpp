@@ -1,3 +1,5 @@
+#include <array>
+
 #include "checks/checks_of_type.h"
 #include "checks/outcome.h"
 #include "checks/subjects.h"
@@ -21,30 +23,16 @@ void expectReported(const PortHost& host, const std::string& typeWord, const std
   expect(record->second.valueShown, "the record says that the value is shown");
 }
 
-void expectAnyReported(Session& session, const Any& any, const std::string& typeWord,
-                       const std::string& text) {
+void anyIsReported(Session& session, const Any& any, const char* type, const char* report) {
   PortHost host(session);
   expect(host.reportAny(any), "the answer is true");
-  expectReported(host, typeWord, text);
+  expectReported(host, type, report);
 }
 
-template <Registered T>
-void anyIsReported(Session& session) {
-  expectAnyReported(session, makeAny<T>(sampleValue<T>()), valueType<T>().name,
-                    sampleOf<T>().report);
-}
-
-template <Registered T>
-void valueIsReported(Session& session) {
+void valueIsReported(Session& session, const Sample& sample) {
   PortHost host(session);
-  expect(host.reportValue(Orvel::makeValue<T>(sampleValue<T>())), "the answer is true");
-  expectReported(host, valueType<T>().name, sampleOf<T>().report);
-}
-
-template <Registered T>
-void zeroIsReported(Session& session) {
-  expectAnyReported(session, makeAny<T>(zeroValue<T>()), valueType<T>().name,
-                    sampleOf<T>().zeroReport);
+  expect(host.reportValue(sample.makeValue()), "the answer is true");
+  expectReported(host, sample.type, sample.report);
 }
 
 void expectSuppressed(const PortHost& host, const std::string& typeWord) {
@@ -58,42 +46,39 @@ void expectSuppressed(const PortHost& host, const std::string& typeWord) {
          "the record says that the value isn't shown");
 }
 
-void expectSuppressed(Session& session, const Any& inAny, const Orvel::Value& asValue,
-                      const std::string& typeWord) {
-  PortHost any(session, 0);
-  expect(any.reportAny(inAny), "the answer for an Any is true");
-  expectSuppressed(any, typeWord);
-  PortHost value(session, 0);
-  expect(value.reportValue(asValue), "the answer for a value is true");
-  expectSuppressed(value, typeWord);
-}
-
-template <Registered T>
-void allFormsAreSuppressed(Session& session) {
-  const auto expectForm = [&](const auto& stored, unsigned depth) {
-    expectSuppressed(session, makeAny(stored), Orvel::makeValue(stored),
-                     arrayName(valueType<T>().name, depth));
-  };
-  const T sample = sampleValue<T>();
-  expectForm(sample, 0);
-  expectForm(nestedArray<T, 1>(sample), 1);
-  expectForm(nestedArray<T, 2>(sample), 2);
-  expectForm(nestedArray<T, 3>(sample), 3);
+void allFormsAreSuppressed(Session& session, const Sample& sample) {
+  Orvel::Value element = sample.makeValue();
+  for (unsigned rank = 0; rank <= 3; ++rank) {
+    const std::string typeWord = arrayName(sample.type, rank);
+    PortHost any(session, 0);
+    expect(any.reportAny(sample.makeAny(rank)), "the answer for an Any is true");
+    expectSuppressed(any, typeWord);
+    PortHost value(session, 0);
+    expect(value.reportValue(element), "the answer for a value is true");
+    expectSuppressed(value, typeWord);
+    element = Orvel::makeArray(element.getType(), std::array{element});
+  }
 }
 
 }  // namespace
 
 void addOutputChecks(CheckList& checks) {
-  forEachRegistered([&](const auto& row) {
-    using T = TypeOf<decltype(row)>;
+  for (const Sample& sample : samples()) {
     addChecksOfType(
-        checks, row.name,
-        {{"output-any", "A {} in an Any is reported and recorded.", anyIsReported<T>},
-         {"output-value", "A {} value is reported and recorded.", valueIsReported<T>},
-         {"output-zero", "The zero of {} is reported and recorded.", zeroIsReported<T>},
+        checks, sample.type,
+        {{"output-any", "A {} in an Any is reported and recorded.",
+          [&](Session& session) {
+            anyIsReported(session, sample.makeAny(0), sample.type, sample.report);
+          }},
+         {"output-value", "A {} value is reported and recorded.",
+          [&](Session& session) { valueIsReported(session, sample); }},
+         {"output-zero", "The zero of {} is reported and recorded.",
+          [&](Session& session) {
+            anyIsReported(session, sample.makeZero(), sample.type, sample.zeroReport);
+          }},
          {"output-suppressed", "A print limit of 0 suppresses the text of {} in all forms.",
-          allFormsAreSuppressed<T>}});
-  });
+          [&](Session& session) { allFormsAreSuppressed(session, sample); }}});
+  }
 }
 
 }  // namespace vtlcmd::validator

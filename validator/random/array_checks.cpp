@@ -7,7 +7,7 @@
 #include "element_generator.h"
 #include "host/port_host.h"
 #include "statistics_model.h"
-#include "values/samples.h"
+#include "values/arrays.h"
 #include "vtlcmd/stand_in/geometry_builder.h"
 
 namespace vtlcmd::validator {

@@ -9,7 +9,7 @@
 #include "host/port_host.h"
 #include "text_generator.h"
 #include "text_model.h"
-#include "values/samples.h"
+#include "values/arrays.h"
 #include "vtlcmd/stand_in/make_string.h"
 #include "vtlcmd/stand_in/type_factory.h"
 
@@ -63,9 +63,9 @@ void compare(Session& session, const std::string& text) {
          "the value of '" + text + "' is the model's, to the bit");
 }
 
-template <typename T>
-void textsAgree(Session& session, oracle::TextFamily family) {
-  oracle::TextGenerator texts(session.seed(), family);
+template <typename T, oracle::TextFamily Family>
+void textsAgree(Session& session) {
+  oracle::TextGenerator texts(session.seed(), Family);
   for (int i = 0; i < textCount; ++i) {
     const std::string text = texts.next();
     try {
@@ -80,15 +80,15 @@ void textsAgree(Session& session, oracle::TextFamily family) {
 }  // namespace
 
 void addRandomTextChecks(CheckList& checks) {
-  forEachRegistered([&](const auto& row) {
+  forEachRow(registeredTypes, [&](const auto& row) {
     using T = TypeOf<decltype(row)>;
     if constexpr (std::is_arithmetic_v<T> || isVector<T>) {
       addChecksOfType(
           checks, row.name,
           {{"random-text", "A {} port answers random texts as an exact model does.",
-            [](Session& session) { textsAgree<T>(session, oracle::TextFamily::mixed); }},
+            textsAgree<T, oracle::TextFamily::mixed>},
            {"random-hard-text", "A {} port answers texts at the limits as an exact model does.",
-            [](Session& session) { textsAgree<T>(session, oracle::TextFamily::hardNumbers); }}});
+            textsAgree<T, oracle::TextFamily::hardNumbers>}});
     }
   });
 }

@@ -5,7 +5,7 @@
 #include "checks/subjects.h"
 #include "checks/type_names.h"
 #include "host/port_host.h"
-#include "values/samples.h"
+#include "values/arrays.h"
 
 namespace vtlcmd::validator {
 namespace {

@@ -1,130 +1,46 @@
 #pragma once
 
-#include <cstdint>
-#include <string>
-#include <tuple>
-#include <type_traits>
-#include <vector>
+#include <cstddef>
+#include <span>
 
 #include "vtlcmd/host/value_types.h"
-#include "vtlcmd/stand_in/make_ptr.h"
-
-/// Values to put through a plug-in, and their texts.
 
 namespace vtlcmd::validator {
 
-template <Registered T>
+/// A registered type as checks see it: a value to put through a plug-in, and its texts. The
+/// functions throw std::bad_alloc.
 struct Sample {
-  /// What a port of T takes; null for a type without text form.
+  const char* type;
+  std::size_t components;
+  ArrayClass arrayClass;
+  /// Ends the message about a text that doesn't parse.
+  const char* parseErrorEnd;
+  /// What a port of the type takes; null for an object, which has no text form.
   const char* text;
   /// How the value reads in a report.
   const char* report;
-  /// A text that T refuses.
+  /// A text that the type refuses; null where it takes any.
   const char* badText;
   /// What the bad text's message quotes.
   const char* badPiece;
   const char* zeroReport;
+
+  Orvel::Type (*makeType)();
+  /// The value of the text, a new object for `Object`, alone or within 1 to 3 arrays of one
+  /// element.
+  Any (*makeAny)(std::uint32_t rank);
+  Orvel::Value (*makeValue)();
+  Any (*makeZero)();
+  Any (*makeEmptyArray)();
+  /// An array of two empty ones.
+  Any (*makeEmptyRows)();
+  /// Whether both hold this type, and the same: objects when both or neither are there.
+  bool (*holdSame)(const Any&, const Any&);
+
+  bool isObject() const { return text == nullptr; }
 };
 
-inline constexpr std::tuple samples{
-    // clang-format off
-    Sample<bool>{"true", "true", "yes", "yes", "false"},
-    Sample<float>{"1.5", "1.5", "1.5x", "1.5x", "0"},
-    Sample<double>{"2.25", "2.25", "inf", "inf", "0"},
-    Sample<std::int32_t>{"-12", "-12", "12abc", "12abc", "0"},
-    Sample<std::uint32_t>{"4294967295", "4294967295", "-1", "-1", "0"},
-    Sample<std::int64_t>{"-9000000000", "-9000000000", "1e3", "1e3", "0"},
-    Sample<std::uint64_t>{"18446744073709551615", "18446744073709551615", "0x10", "0x10", "0"},
-    Sample<Math::float2>{"1,2.5", "{1, 2.5}", "1,x", "x", "{0, 0}"},
-    Sample<Math::float3>{"1,2.5,3", "{1, 2.5, 3}", "1,x,3", "x", "{0, 0, 0}"},
-    Sample<Math::float4>{"1,2.5,3,4", "{1, 2.5, 3, 4}", "1,2,,4", "", "{0, 0, 0, 0}"},
-    Sample<Math::double2>{"1,2.5", "{1, 2.5}", " y,2", " y", "{0, 0}"},
-    Sample<Math::double3>{"1,2.5,3", "{1, 2.5, 3}", "1,2,nan", "nan", "{0, 0, 0}"},
-    Sample<Math::double4>{"1,2.5,3,4", "{1, 2.5, 3, 4}", "1,2,3,4 5", "4 5", "{0, 0, 0, 0}"},
-    Sample<ObjectPtr>{nullptr, "{\n}", "{}", nullptr, "{\n}"},
-    Sample<Orvel::String>{"some, \"text\"", R"("some, "text"")", nullptr, nullptr, "\"\""},
-    // clang-format on
-};
-
-template <Registered T>
-constexpr const Sample<T>& sampleOf() {
-  return std::get<Sample<T>>(samples);
-}
-
-/// The value of the sample's text; a new object for `Object`.
-template <Registered T>
-T sampleValue() {
-  if constexpr (std::is_same_v<T, bool>) {
-    return true;
-  } else if constexpr (std::is_same_v<T, float>) {
-    return 1.5F;
-  } else if constexpr (std::is_same_v<T, double>) {
-    return 2.25;
-  } else if constexpr (std::is_same_v<T, std::int32_t>) {
-    return -12;
-  } else if constexpr (std::is_same_v<T, std::uint32_t>) {
-    return 4294967295U;
-  } else if constexpr (std::is_same_v<T, std::int64_t>) {
-    return -9000000000;
-  } else if constexpr (std::is_same_v<T, std::uint64_t>) {
-    return 18446744073709551615U;
-  } else if constexpr (std::is_same_v<T, ObjectPtr>) {
-    return Vantrel::createObject();
-  } else if constexpr (std::is_same_v<T, Orvel::String>) {
-    return "some, \"text\"";
-  } else {
-    T vector;
-    for (std::size_t i = 0; i < T::componentCount; ++i)
-      vector.components[i] = static_cast<typename T::ComponentType>(i == 1 ? 2.5 : double(i) + 1);
-    return vector;
-  }
-}
-
-template <Registered T>
-T zeroValue() {
-  if constexpr (std::is_same_v<T, ObjectPtr>) {
-    return Vantrel::createObject();
-  } else {
-    return T{};
-  }
-}
-
-/// Objects are alike when both or neither are there.
-template <Registered T>
-bool alike(const T& a, const T& b) {
-  if constexpr (std::is_same_v<T, ObjectPtr>) {
-    return (a.get() == nullptr) == (b.get() == nullptr);
-  } else {
-    return a == b;
-  }
-}
-
-template <typename T>
-Orvel::Ptr<Orvel::Array<T>> arrayOf(const std::vector<T>& elements) {
-  auto array = Orvel::makeMutable<Orvel::Array<T>>();
-  for (const T& element : elements) array->append(element);
-  return array;
-}
-
-// NOLINTBEGIN(clang-analyzer-cplusplus.NewDeleteLeaks): the linter loses track of use counts
-/// One element wide at each level.
-template <typename T, std::uint32_t Rank>
-StoredArray<T, Rank> nestedArray(const T& value) {
-  if constexpr (Rank == 1) {
-    return arrayOf<T>({value});
-  } else {
-    return arrayOf<StoredArray<T, Rank - 1>>({nestedArray<T, Rank - 1>(value)});
-  }
-}
-// NOLINTEND(clang-analyzer-cplusplus.NewDeleteLeaks)
-
-/// Calls `function` with a type's row, once a registered type.
-template <typename Function>
-void forEachRegistered(const Function& function) {
-  forEachRow(registeredTypes, function);
-}
-
-template <typename Row>
-using TypeOf = typename std::remove_cvref_t<Row>::Type;
+/// Of each registered type, in the order of registration.
+std::span<const Sample> samples();
 
 }  // namespace vtlcmd::validator
