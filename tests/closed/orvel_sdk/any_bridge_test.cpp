@@ -27,8 +27,9 @@ TEST(AnyBridge, LeadsThroughAnAnyAndBackWithoutACopy) {
     EXPECT_TRUE(
         vtlcmd::sameType(any.type(), vtlcmd::makeTag(row.tagSpelling, row.tagKind, Nesting::rank)));
     if constexpr (vtlcmd::Storable<Stored>) {
-      EXPECT_EQ(vtlcmd::anyCast<Stored>(&any), vtlcmd::any_operations::address(any));
-      EXPECT_NE(vtlcmd::anyCast<Stored>(&any), nullptr);
+      const void* held = vtlcmd::anyCast<Stored>(&any);
+      EXPECT_EQ(held, vtlcmd::any_operations::address(any));
+      EXPECT_NE(held, nullptr);
     }
     const Any copy = any;
     EXPECT_TRUE(same(*static_cast<const Stored*>(vtlcmd::any_operations::address(copy)), source));
