@@ -51,33 +51,28 @@ Orvel::Value convertValue(const NodeCall& call) {
   return result;
 }
 
-/// Calls `function.operator()<To, From>()` when the one converts to the other.
-template <typename Function>
-bool withConversion(const std::string& to, const std::string& from, Function&& function) {
-  bool found = false;
+using Conversion = Orvel::Value (*)(const NodeCall&);
+
+/// What converts elements of the one type to the other; null where nothing does.
+Conversion conversionOf(const std::string& to, const std::string& from) {
+  Conversion conversion = nullptr;
   withTypeNamed(registeredTypes, to, [&]<typename To>() {
     withTypeNamed(registeredTypes, from, [&]<typename From>() {
-      if constexpr (converts<To, From>()) {
-        function.template operator()<To, From>();
-        found = true;
-      }
+      if constexpr (converts<To, From>()) conversion = convertValue<To, From>;
     });
   });
-  return found;
+  return conversion;
 }
 
 ValueType convertedType(const NodeTypes& types) {
   const ValueType& to = *types.declared;
-  const bool exists = withConversion(to.element, types[0].element, []<typename, typename>() {});
+  const bool exists = conversionOf(to.element, types[0].element) != nullptr;
   if (exists && to.depth == types[0].depth) return to;
   throw std::invalid_argument(nameOf(types[0]) + " doesn't convert to " + nameOf(to));
 }
 
 Orvel::Value evaluateConversion(const NodeCall& call) {
-  std::optional<Orvel::Value> result;
-  withConversion(call.resultType.element, call.types[0].element,
-                 [&]<typename To, typename From>() { result = convertValue<To, From>(call); });
-  return *std::move(result);
+  return conversionOf(call.resultType.element, call.types[0].element)(call);
 }
 
 const NodeOperation conversionOperations[] = {

@@ -84,36 +84,33 @@ V transformed(const M& matrix, const V& vector) {
   return result;
 }
 
-/// Calls `function.operator()<M, V>()` with a matrix and a vector that it transforms.
-template <typename Function>
-bool withTransform(const NodeTypes& types, Function&& function) {
-  bool found = false;
+template <FloatingMatrix M, Composite V>
+Orvel::Value transformPoints(const NodeCall& call) {
+  const M& matrix = Orvel::valueAs<M>(call[0]);
+  const Operand<V> points(call[1], call.types[1].depth > 0);
+  return singleOrArray<V>(points.size(),
+                          [&](std::uint64_t i) { return transformed(matrix, points[i]); });
+}
+
+using Transformation = Orvel::Value (*)(const NodeCall&);
+
+/// What transforms points of the second type by matrices of the first; null where nothing does.
+Transformation transformationOf(const NodeTypes& types) {
+  Transformation transformation = nullptr;
   withMatrix(types[0].element, [&]<typename M>() {
     withTypeNamed(registeredTypes, types[1].element, [&]<typename V>() {
-      if constexpr (transforms<M, V>()) {
-        function.template operator()<M, V>();
-        found = true;
-      }
+      if constexpr (transforms<M, V>()) transformation = transformPoints<M, V>;
     });
   });
-  return found;
+  return transformation;
 }
 
 ValueType transformedType(const NodeTypes& types) {
-  if (withTransform(types, []<typename, typename>() {})) return types[1];
+  if (transformationOf(types) != nullptr) return types[1];
   throw std::invalid_argument(nameOf(types[0]) + " doesn't transform " + nameOf(types[1]));
 }
 
-Orvel::Value transform(const NodeCall& call) {
-  std::optional<Orvel::Value> result;
-  withTransform(call.types, [&]<typename M, typename V>() {
-    const M& matrix = Orvel::valueAs<M>(call[0]);
-    const Operand<V> points(call[1], call.types[1].depth > 0);
-    result = singleOrArray<V>(points.size(),
-                              [&](std::uint64_t i) { return transformed(matrix, points[i]); });
-  });
-  return *std::move(result);
-}
+Orvel::Value transform(const NodeCall& call) { return transformationOf(call.types)(call); }
 
 const NodeOperation matrixOperations[] = {
     {"matrix",

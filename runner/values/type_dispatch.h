@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string_view>
+#include <tuple>
 #include <type_traits>
 
 #include "vtlcmd/host/value_types.h"
@@ -9,14 +10,11 @@ namespace vtlcmd::runner {
 
 /// Calls `function.operator()<T>()` with the stored type of the row of that name. False when the
 /// list has none.
-template <typename List, typename Function>
-bool withTypeNamed(const List& list, std::string_view name, Function&& function) {
-  const auto tryRow = [&]<typename Row>(const Row& row) {
-    if (name != row.name) return false;
-    function.template operator()<typename Row::Type>();
-    return true;
-  };
-  return std::apply([&](const auto&... row) { return (tryRow(row) || ...); }, list);
+template <typename... Row, typename Function>
+bool withTypeNamed(const std::tuple<Row...>& list, std::string_view name, Function&& function) {
+  return ((name == std::get<Row>(list).name &&
+           (function.template operator()<typename Row::Type>(), true)) ||
+          ...);
 }
 
 /// The number types among the registered ones; `bool` is none.
