@@ -11,9 +11,7 @@ std::string joined(const std::vector<std::string>& lines) {
 
 }  // namespace
 
-void expect(bool holds, std::string_view what) {
-  if (!holds) throw Failed(std::string("not so: ").append(what));
-}
+void failFor(std::string_view what) { throw Failed(std::string("not so: ").append(what)); }
 
 void expectText(std::string_view what, std::string_view found, std::string_view wanted) {
   if (found == wanted) return;

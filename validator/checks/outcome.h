@@ -33,7 +33,11 @@ class Unloadable : public std::runtime_error {
 };
 
 /// Throws Failed, which says `what` ought to hold.
-void expect(bool holds, std::string_view what);
+[[noreturn]] void failFor(std::string_view what);
+
+inline void expect(bool holds, std::string_view what) {
+  if (!holds) failFor(what);
+}
 
 /// Throws Failed with both texts.
 void expectText(std::string_view what, std::string_view found, std::string_view wanted);

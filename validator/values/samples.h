@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <span>
 
+#include "vtlcmd/host/imports/orvel_values.h"
 #include "vtlcmd/host/value_types.h"
 
 namespace vtlcmd::validator {
